@@ -1,0 +1,62 @@
+# What every target of the project shares, and the two functions that make a target of a folder.
+
+add_library(quillet_options INTERFACE)
+target_compile_options(quillet_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor)
+target_compile_definitions(quillet_options INTERFACE
+  QT_NO_KEYWORDS QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH)
+if(QUILLET_WARNINGS_AS_ERRORS)
+  target_compile_options(quillet_options INTERFACE -Werror)
+endif()
+if(QUILLET_SANITIZERS)
+  target_compile_options(quillet_options INTERFACE
+    -fsanitize=${QUILLET_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+  target_link_options(quillet_options INTERFACE -fsanitize=${QUILLET_SANITIZERS})
+endif()
+
+# quillet_library(<folder below src> [LINKS <target>...])
+#
+# One library for one folder. Its headers are reachable as "<folder>/<Header>.h", and only for
+# targets that link it: each library publishes a directory that holds nothing but its own folder.
+# So a forbidden include does not compile.
+function(quillet_library folder)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS")
+  string(REPLACE "/" "_" suffix ${folder})
+  set(target quillet_${suffix})
+  file(GLOB sources CONFIGURE_DEPENDS
+    ${CMAKE_SOURCE_DIR}/src/${folder}/*.cpp ${CMAKE_SOURCE_DIR}/src/${folder}/*.h)
+  if(NOT sources)
+    add_library(${target} INTERFACE)
+    return()
+  endif()
+  add_library(${target} STATIC ${sources})
+  set_target_properties(${target} PROPERTIES AUTOMOC ON)
+
+  set(published ${CMAKE_BINARY_DIR}/include/${suffix})
+  cmake_path(GET folder PARENT_PATH parent)
+  file(MAKE_DIRECTORY ${published}/${parent})
+  if(NOT EXISTS ${published}/${folder})
+    file(CREATE_LINK ${CMAKE_SOURCE_DIR}/src/${folder} ${published}/${folder} SYMBOLIC)
+  endif()
+  target_include_directories(${target} PUBLIC ${published})
+  target_link_libraries(${target} PUBLIC ${arg_LINKS} PRIVATE quillet_options)
+endfunction()
+
+# quillet_tests(<folder below tests> [LINKS <target>...])
+#
+# One test program for one folder: every *Test.cpp in it, registered test by test.
+function(quillet_tests folder)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS")
+  string(REPLACE "/" "_" suffix ${folder})
+  set(target ${suffix}_tests)
+  file(GLOB sources CONFIGURE_DEPENDS
+    ${CMAKE_SOURCE_DIR}/tests/${folder}/*.cpp ${CMAKE_SOURCE_DIR}/tests/${folder}/*.h)
+  add_executable(${target} ${sources})
+  set_target_properties(${target} PROPERTIES AUTOMOC ON)
+  target_link_libraries(${target} PRIVATE ${arg_LINKS} quillet_test_support quillet_options)
+  target_compile_definitions(${target} PRIVATE
+    QUILLET_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/${folder}/data")
+  target_precompile_headers(${target} REUSE_FROM quillet_test_support)
+  gtest_discover_tests(${target} TEST_PREFIX "${folder}/" DISCOVERY_MODE PRE_TEST
+    PROPERTIES TIMEOUT 120)
+endfunction()

@@ -1,0 +1,240 @@
+#pragma once
+
+#include "platform/Alert.h"
+#include "platform/Clock.h"
+#include "platform/EventStore.h"
+#include "platform/InterfaceItems.h"
+#include "platform/ObserverList.h"
+#include "platform/OneShotTimer.h"
+#include "platform/SavePanel.h"
+#include "platform/SerialQueue.h"
+#include "platform/SoftwareUpdater.h"
+#include "platform/TableColumn.h"
+#include "platform/TaskLauncher.h"
+#include "platform/Workspace.h"
+
+#include <QPair>
+
+#include <deque>
+#include <memory>
+#include <vector>
+
+namespace quillet::test {
+
+class FakeClock final : public Clock {
+public:
+    explicit FakeClock(Instant instant = {})
+        : current(instant) {}
+    [[nodiscard]] Instant now() const override { return current; }
+
+    Instant current;
+};
+
+/// Keeps tasks until the test runs them.
+class FakeQueue final : public SerialQueue {
+public:
+    void async(Task task) override { tasks.push_back(std::move(task)); }
+    /// Runs the oldest task; false when there is none.
+    bool runOne() {
+        if (tasks.empty()) {
+            return false;
+        }
+        const Task task = std::move(tasks.front());
+        tasks.pop_front();
+        task();
+        return true;
+    }
+    void runAll() {
+        while (runOne()) {
+        }
+    }
+
+    std::deque<Task> tasks;
+};
+
+class FakeTimer final : public OneShotTimer {
+public:
+    void start(double seconds, std::function<void()> callback) override {
+        pending.emplace_back(seconds, std::move(callback));
+    }
+    /// Lets every pending timer expire.
+    void fireAll() {
+        for (const auto& [seconds, callback] : std::exchange(pending, {})) {
+            callback();
+        }
+    }
+
+    std::vector<std::pair<double, std::function<void()>>> pending;
+};
+
+class FakeAlerts final : public AlertPresenter {
+public:
+    [[nodiscard]] int runModal(const Alert& alert) override {
+        shown.push_back(alert);
+        return answer;
+    }
+
+    std::vector<Alert> shown;
+    int answer = 0;
+};
+
+class FakeSavePanel final : public SavePanel {
+public:
+    void beginSheet(const SavePanelRequest& request, Completion completion) override {
+        requests.push_back(request);
+        pending = std::move(completion);
+    }
+    void stopModal(int code) override { stopCodes.push_back(code); }
+
+    std::vector<SavePanelRequest> requests;
+    Completion pending;
+    std::vector<int> stopCodes;
+};
+
+class FakeWorkspace final : public Workspace {
+public:
+    std::expected<void, QString> openFile(const QString& path) override {
+        openedFiles.append(path);
+        return {};
+    }
+    std::expected<void, QString> openWebAddress(const QString& address) override {
+        openedAddresses.append(address);
+        return {};
+    }
+
+    QStringList openedFiles;
+    QStringList openedAddresses;
+};
+
+class FakeTaskLauncher final : public TaskLauncher {
+public:
+    [[nodiscard]] qint64 processIdentifier() const override { return 4711; }
+    [[nodiscard]] QString executablePath() const override { return QStringLiteral("/opt/quillet/quillet"); }
+    std::expected<void, QString> launch(const QString& path, const QStringList& arguments) override {
+        launched.append({path, arguments});
+        return {};
+    }
+    void terminate() override { ++terminations; }
+
+    QList<QPair<QString, QStringList>> launched;
+    int terminations = 0;
+};
+
+class FakeUpdater final : public SoftwareUpdater {
+public:
+    void checkForUpdates() override { ++checks; }
+
+    int checks = 0;
+};
+
+class FakeToolbarItem final : public ToolbarItem {
+public:
+    void setEnabled(bool enabled) override { isEnabled = enabled; }
+
+    bool isEnabled = false;
+};
+
+class FakeMenuItem final : public MenuItem {
+public:
+    void setHidden(bool hidden) override { isHidden = hidden; }
+
+    bool isHidden = false;
+};
+
+class FakeColumn final : public TableColumn {
+public:
+    FakeColumn(QString name, QString headerText, double points)
+        : name_(std::move(name))
+        , title(std::move(headerText))
+        , width(points) {}
+    [[nodiscard]] QString identifier() const override { return name_; }
+    [[nodiscard]] QString headerTitle() const override { return title; }
+    [[nodiscard]] double widthPoints() const override { return width; }
+    void setWidthPoints(double points) override { width = points; }
+    [[nodiscard]] bool isHidden() const override { return hidden; }
+    void setHidden(bool isHidden) override { hidden = isHidden; }
+
+private:
+    QString name_;
+
+public:
+    QString title;
+    double width;
+    bool hidden = false;
+};
+
+class FakeTable final : public ColumnTable {
+public:
+    [[nodiscard]] int columnCount() const override { return static_cast<int>(columns.size()); }
+    [[nodiscard]] FakeColumn& columnAt(int position) override {
+        return *columns.at(static_cast<std::size_t>(position));
+    }
+    [[nodiscard]] int positionOf(const QString& identifier) const override {
+        for (std::size_t position = 0; position < columns.size(); ++position) {
+            if (columns[position]->identifier() == identifier) {
+                return static_cast<int>(position);
+            }
+        }
+        return -1;
+    }
+    void moveColumn(int from, int to) override {
+        auto column = std::move(columns.at(static_cast<std::size_t>(from)));
+        columns.erase(columns.begin() + from);
+        columns.insert(columns.begin() + to, std::move(column));
+    }
+    /// The column of that identifier, which must exist.
+    [[nodiscard]] FakeColumn& column(const QString& identifier) {
+        return columnAt(positionOf(identifier));
+    }
+
+    std::vector<std::unique_ptr<FakeColumn>> columns;
+};
+
+/// A store whose answers the test sets.
+class FakeEventStore final : public EventStore {
+public:
+    [[nodiscard]] AuthorizationStatus authorizationStatus() const override { return status; }
+    void requestAccess(AccessCompletion completion) override { requests.push_back(std::move(completion)); }
+    [[nodiscard]] CalendarList calendars() const override { return storedCalendars; }
+    [[nodiscard]] EventList events(const CalendarList& wanted, Instant from, Instant to) const override {
+        ++queries;
+        lastCalendars = wanted;
+        lastFrom = from;
+        lastTo = to;
+        EventList found;
+        for (const Event& event : storedEvents) {
+            const bool isWanted = std::ranges::any_of(wanted, [&](const auto& calendar) {
+                return calendar->calendarIdentifier == event.details->calendar->calendarIdentifier;
+            });
+            if (isWanted && event.startDate < to && event.endDate > from) {
+                found.push_back(event);
+            }
+        }
+        return found;
+    }
+    [[nodiscard]] Observation observeChanges(std::function<void()> callback) override {
+        return observers.add(std::move(callback));
+    }
+    [[nodiscard]] std::vector<StoreProblem> problems() const override { return storedProblems; }
+
+    AuthorizationStatus status = AuthorizationStatus::Authorized;
+    std::vector<AccessCompletion> requests;
+    CalendarList storedCalendars;
+    EventList storedEvents;
+    std::vector<StoreProblem> storedProblems;
+    ObserverList<> observers;
+    mutable int queries = 0;
+    mutable CalendarList lastCalendars;
+    mutable Instant lastFrom;
+    mutable Instant lastTo;
+};
+
+/// An instant from its UTC fields.
+[[nodiscard]] inline Instant utc(int year, unsigned month, unsigned day, int hour = 0, int minute = 0,
+                                 int second = 0) {
+    using namespace std::chrono;
+    return sys_days(std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day))
+         + hours(hour) + minutes(minute) + seconds(second);
+}
+
+} // namespace quillet::test
