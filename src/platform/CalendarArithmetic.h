@@ -4,7 +4,8 @@
 
 namespace quillet {
 
-/// The fields of a local date and time. month and day count from 1; weekday 1 is Sunday, 7 Saturday.
+/// The fields of a local date and time. month and day count from 1; weekday 1 is Sunday, 7
+/// Saturday.
 struct DateComponents {
     int year = 1970;
     int month = 1;

@@ -64,7 +64,8 @@ public:
     friend bool operator==(const Decimal& left, const Decimal& right);
 
 private:
-    using Coefficient = unsigned __int128;
+    // 128 bits hold 38 digits. A typedef: only a declaration can bear the extension mark.
+    __extension__ typedef unsigned __int128 Coefficient; // NOLINT(modernize-use-using)
 
     Coefficient coefficient_ = 0;
     std::int16_t exponent_ = 0;

@@ -5,9 +5,10 @@
 namespace quillet {
 
 bool isSameEvent(const Event& left, const Event& right) {
-    return left.occurrenceDate == right.occurrenceDate
-        && left.details->eventIdentifier == right.details->eventIdentifier
-        && left.details->calendar->calendarIdentifier == right.details->calendar->calendarIdentifier;
+    return left.occurrenceDate == right.occurrenceDate &&
+           left.details->eventIdentifier == right.details->eventIdentifier &&
+           left.details->calendar->calendarIdentifier ==
+               right.details->calendar->calendarIdentifier;
 }
 
 std::size_t eventIdentityHash(const Event& event) {

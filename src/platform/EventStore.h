@@ -43,7 +43,8 @@ public:
     /// The events of the calendars that overlap [from, to): they start before `to`, and end after
     /// `from` or, when they have no length, start at or after it. Ordered by start, then end, then
     /// title. Cancelled events and occurrences are not events. Safe to call from any thread.
-    [[nodiscard]] virtual EventList events(const CalendarList& calendars, Instant from, Instant to) const = 0;
+    [[nodiscard]] virtual EventList events(const CalendarList& calendars, Instant from,
+                                           Instant to) const = 0;
     /// Calls back on the main thread after calendars, events or problems changed.
     [[nodiscard]] virtual Observation observeChanges(std::function<void()> callback) = 0;
     /// What could not be read, worst first. Main thread.

@@ -17,6 +17,7 @@ enum class TextEncoding {
 
 /// Writes a file whole or not at all: either the old state stays, or the file holds exactly these
 /// bytes. The error is the system's reason.
-[[nodiscard]] std::expected<void, QString> writeAtomically(const QString& path, const QByteArray& bytes);
+[[nodiscard]] std::expected<void, QString> writeAtomically(const QString& path,
+                                                           const QByteArray& bytes);
 
 } // namespace quillet

@@ -24,7 +24,8 @@ public:
     /// Pattern "0.##;0.##": at most `maximumFractionDigits` decimals, half-even, the locale's
     /// separator, no grouping, and no minus sign on a negative number. Not-a-number as the locale
     /// writes it.
-    [[nodiscard]] virtual QString number(const Decimal& value, int maximumFractionDigits = 2) const = 0;
+    [[nodiscard]] virtual QString number(const Decimal& value,
+                                         int maximumFractionDigits = 2) const = 0;
     /// The currency style: symbol, grouping, the currency's decimals, half-even.
     [[nodiscard]] virtual QString currency(const Decimal& value) const = 0;
     /// Reads a whole text that number() may have written; not-a-number for anything else.

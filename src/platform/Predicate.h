@@ -24,7 +24,12 @@ public:
     /// Reads a record's field; an invalid QVariant when it has none of that name.
     using FieldReader = std::function<QVariant(const QString& key)>;
 
+    /// The parsed form; see PredicateParser.h.
     struct Node;
+    struct Comparison;
+    struct All;
+    struct Any;
+    enum class Operation;
 
     /// The condition, or nothing when the text does not parse.
     [[nodiscard]] static std::optional<Predicate> parse(const QString& text);

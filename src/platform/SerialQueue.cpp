@@ -31,7 +31,8 @@ private:
 class MainQueue final : public SerialQueue {
 public:
     void async(Task task) override {
-        QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(task), Qt::QueuedConnection);
+        QMetaObject::invokeMethod(QCoreApplication::instance(), std::move(task),
+                                  Qt::QueuedConnection);
     }
 };
 

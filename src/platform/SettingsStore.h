@@ -32,7 +32,8 @@ public:
     /// Every stored key, sorted.
     [[nodiscard]] virtual QStringList keys() const = 0;
     /// Calls back after each write of the key, the new value already readable.
-    [[nodiscard]] virtual Observation observe(const QString& key, std::function<void()> callback) = 0;
+    [[nodiscard]] virtual Observation observe(const QString& key,
+                                              std::function<void()> callback) = 0;
 };
 
 /// @name Typed reading

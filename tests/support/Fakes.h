@@ -109,8 +109,11 @@ public:
 class FakeTaskLauncher final : public TaskLauncher {
 public:
     [[nodiscard]] qint64 processIdentifier() const override { return 4711; }
-    [[nodiscard]] QString executablePath() const override { return QStringLiteral("/opt/quillet/quillet"); }
-    std::expected<void, QString> launch(const QString& path, const QStringList& arguments) override {
+    [[nodiscard]] QString executablePath() const override {
+        return QStringLiteral("/opt/quillet/quillet");
+    }
+    std::expected<void, QString> launch(const QString& path,
+                                        const QStringList& arguments) override {
         launched.append({path, arguments});
         return {};
     }
@@ -194,9 +197,12 @@ public:
 class FakeEventStore final : public EventStore {
 public:
     [[nodiscard]] AuthorizationStatus authorizationStatus() const override { return status; }
-    void requestAccess(AccessCompletion completion) override { requests.push_back(std::move(completion)); }
+    void requestAccess(AccessCompletion completion) override {
+        requests.push_back(std::move(completion));
+    }
     [[nodiscard]] CalendarList calendars() const override { return storedCalendars; }
-    [[nodiscard]] EventList events(const CalendarList& wanted, Instant from, Instant to) const override {
+    [[nodiscard]] EventList events(const CalendarList& wanted, Instant from,
+                                   Instant to) const override {
         ++queries;
         lastCalendars = wanted;
         lastFrom = from;
@@ -230,11 +236,11 @@ public:
 };
 
 /// An instant from its UTC fields.
-[[nodiscard]] inline Instant utc(int year, unsigned month, unsigned day, int hour = 0, int minute = 0,
-                                 int second = 0) {
+[[nodiscard]] inline Instant utc(int year, unsigned month, unsigned day, int hour = 0,
+                                 int minute = 0, int second = 0) {
     using namespace std::chrono;
-    return sys_days(std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day))
-         + hours(hour) + minutes(minute) + seconds(second);
+    return sys_days(std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day)) +
+           hours(hour) + minutes(minute) + seconds(second);
 }
 
 } // namespace quillet::test
