@@ -1,0 +1,94 @@
+#include "platform/Predicate.h"
+
+#include <gtest/gtest.h>
+#include <rapidcheck.h>
+
+namespace quillet {
+
+namespace {
+
+bool matches(const char* condition, const QVariantMap& record) {
+    const auto predicate = Predicate::parse(QString::fromUtf8(condition));
+    if (!predicate) {
+        ADD_FAILURE() << "does not parse: " << condition;
+        return false;
+    }
+    return predicate->matches([&](const QString& key) { return record.value(key); });
+}
+
+} // namespace
+
+TEST(PredicateTest, ComparesTextsExactly) {
+    const QVariantMap record{{"calendarIdentifier", "Work"}};
+    EXPECT_TRUE(matches(R"((calendarIdentifier == "Work"))", record));
+    EXPECT_TRUE(matches(R"(calendarIdentifier = "Work")", record));
+    EXPECT_FALSE(matches(R"(calendarIdentifier = "work")", record));
+    EXPECT_FALSE(matches(R"(calendarIdentifier = "000")", record));
+}
+
+TEST(PredicateTest, JoinsWithOrAndWithAndBindingTighter) {
+    const QVariantMap record{{"a", "1"}, {"b", "2"}};
+    EXPECT_TRUE(matches(R"((a == "x") OR (b == "2"))", record));
+    EXPECT_TRUE(matches(R"(a = "1" OR a = "x" AND b = "x")", record));
+    EXPECT_FALSE(matches(R"((a = "1" OR a = "x") AND b = "x")", record));
+    EXPECT_TRUE(matches(R"(a = "1" or b = "x")", record));
+    EXPECT_TRUE(matches(R"(a = "1" and b = "2")", record));
+}
+
+TEST(PredicateTest, ContainsIgnoresCaseAsUnicodeFolds) {
+    EXPECT_TRUE(matches(R"((title contains[c] "MEET"))", {{"title", "Team meeting"}}));
+    EXPECT_TRUE(matches(R"(title contains[c] "Σ")", {{"title", "ος"}}));
+    EXPECT_FALSE(matches(R"(title contains "MEET")", {{"title", "Team meeting"}}));
+    EXPECT_TRUE(matches(R"(title contains[c] "")", {{"title", "anything"}}));
+}
+
+TEST(PredicateTest, ReadsTruthValues) {
+    EXPECT_TRUE(matches("isAllDay == NO", {{"isAllDay", false}}));
+    EXPECT_FALSE(matches("isAllDay == NO", {{"isAllDay", true}}));
+    EXPECT_TRUE(matches("isAllDay = yes", {{"isAllDay", true}}));
+    EXPECT_TRUE(matches("isSelected = 1", {{"isSelected", true}}));
+}
+
+TEST(PredicateTest, MissingFieldsMatchNothing) {
+    EXPECT_FALSE(matches(R"(notes contains[c] "a")", {}));
+    EXPECT_FALSE(matches(R"(notes contains[c] "")", {{"notes", QString()}}));
+    EXPECT_FALSE(matches("isAllDay == NO", {}));
+}
+
+TEST(PredicateTest, BackslashEscapesTheNextCharacter) {
+    EXPECT_TRUE(matches(R"(title contains[c] "say \"hi\"")", {{"title", R"(Say "Hi" now)"}}));
+    EXPECT_TRUE(matches(R"(title contains[c] "a\\b")", {{"title", R"(a\b)"}}));
+    EXPECT_TRUE(matches(R"(title contains[c] "100%")", {{"title", "100% sure"}}));
+}
+
+TEST(PredicateTest, MalformedTextsDoNotParse) {
+    for (const char* wrong :
+         {"", "(", "title", "title ==", R"(title == "open)", R"(== "x")", R"((title == "x")",
+          R"(title == "x" OR)", R"(title == "x" trailing)", R"(title contains[c] "a"b")",
+          "title contains[c] YES", R"(title contains[c] "\)", R"(title ! "x")", "OR", ")"}) {
+        EXPECT_FALSE(Predicate::parse(QString::fromUtf8(wrong))) << wrong;
+    }
+}
+
+TEST(PredicateTest, RefusesNestingThatWouldExhaustTheStack) {
+    const QString deep = QString(100'000, u'(') + R"(a = "1")" + QString(100'000, u')');
+    EXPECT_FALSE(Predicate::parse(deep));
+}
+
+TEST(PredicateTest, EqualTextsMakeEqualPredicates) {
+    EXPECT_TRUE(Predicate::parse(R"(a = "1")") == Predicate::parse(R"(a = "1")"));
+    EXPECT_FALSE(Predicate::parse(R"(a = "1")") == Predicate::parse(R"(a = "2")"));
+    EXPECT_EQ(Predicate::parse(R"(a = "1")")->text(), QStringLiteral(R"(a = "1")"));
+}
+
+TEST(PredicateTest, NoTextWhateverItIsBreaksTheParser) {
+    EXPECT_TRUE(rc::check("what parses has that text", [] {
+        const auto bytes = *rc::gen::container<std::string>(
+            rc::gen::elementOf(std::string("ab =()\"\\[c]ORANDYES01contains")));
+        const QString text = QString::fromStdString(bytes);
+        const auto predicate = Predicate::parse(text);
+        RC_ASSERT((!predicate || predicate->text() == text));
+    }));
+}
+
+} // namespace quillet
