@@ -70,8 +70,11 @@ rc::Gen<Decimal> anyDecimal() {
                        rc::gen::inRange(-40, 20)),
         [](const std::tuple<bool, std::string, int>& parts) {
             const auto& [isNegative, digits, exponent] = parts;
-            const std::string written = (isNegative ? "-" : "") + (digits.empty() ? "7" : digits) +
-                                        "e" + std::to_string(exponent);
+            // Longer ones would leave the range of exponents when multiplied.
+            constexpr std::size_t longest = 45;
+            const std::string written = (isNegative ? "-" : "") +
+                                        (digits.empty() ? "7" : digits.substr(0, longest)) + "e" +
+                                        std::to_string(exponent);
             return Decimal::fromString(QString::fromStdString(written));
         });
 }
