@@ -119,6 +119,20 @@ Decimal DecimalOperations::fromWide(bool isNegative, Wide magnitude, int exponen
     return fromParts(isNegative, coefficient, exponent);
 }
 
+/// Adds two magnitudes in units of the right operand's exponent, with the operands' signs.
+template <typename Magnitude>
+Decimal DecimalOperations::signedSum(const Decimal& left, const Decimal& right,
+                                     const Magnitude& leftMagnitude,
+                                     const Magnitude& rightMagnitude,
+                                     Decimal (*make)(bool, Magnitude, int)) {
+    if (left.isNegative_ == right.isNegative_) {
+        return make(left.isNegative_, leftMagnitude + rightMagnitude, right.exponent_);
+    }
+    return leftMagnitude >= rightMagnitude
+               ? make(left.isNegative_, leftMagnitude - rightMagnitude, right.exponent_)
+               : make(right.isNegative_, rightMagnitude - leftMagnitude, right.exponent_);
+}
+
 Decimal DecimalOperations::sum(const Decimal& left, const Decimal& right) {
     if (left.exponent_ < right.exponent_) {
         return sum(right, left);
@@ -130,13 +144,15 @@ Decimal DecimalOperations::sum(const Decimal& left, const Decimal& right) {
     if (right.coefficient_ == 0 || shift > widestShift) {
         return left;
     }
-    const Wide larger = shifted(left.coefficient_, shift);
-    const Wide smaller = right.coefficient_;
-    if (left.isNegative_ == right.isNegative_) {
-        return fromWide(left.isNegative_, larger + smaller, right.exponent_);
+    // Sums of everyday amounts stay below 10^38 and need no wide arithmetic.
+    constexpr Coefficient narrow = std::numeric_limits<std::uint64_t>::max();
+    constexpr int narrowShift = 18;
+    if (shift <= narrowShift && left.coefficient_ <= narrow && right.coefficient_ <= narrow) {
+        return signedSum(left, right, left.coefficient_ * powerOfTen(shift), right.coefficient_,
+                         fromParts);
     }
-    return larger >= smaller ? fromWide(left.isNegative_, larger - smaller, right.exponent_)
-                             : fromWide(right.isNegative_, smaller - larger, right.exponent_);
+    return signedSum(left, right, shifted(left.coefficient_, shift), Wide(right.coefficient_),
+                     fromWide);
 }
 
 Decimal DecimalOperations::product(const Decimal& left, const Decimal& right) {

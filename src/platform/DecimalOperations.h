@@ -38,6 +38,11 @@ struct DecimalOperations {
     static Decimal quotient(const Decimal& left, const Decimal& right);
     static std::strong_ordering orderOfMagnitudes(const Decimal& left, const Decimal& right);
 
+    template <typename Magnitude>
+    static Decimal signedSum(const Decimal& left, const Decimal& right,
+                             const Magnitude& leftMagnitude, const Magnitude& rightMagnitude,
+                             Decimal (*make)(bool, Magnitude, int));
+
     static Coefficient coefficient(const Decimal& value) { return value.coefficient_; }
     static int exponent(const Decimal& value) { return value.exponent_; }
 };
