@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace quillet {
+
+/// The locales of the things that the user may set apart, as ICU names ("de_DE").
+struct LocaleNames {
+    /// Dates, times, weekdays and the first day of the week.
+    QString time;
+    /// The decimal separator.
+    QString numeric;
+    QString monetary;
+
+    friend bool operator==(const LocaleNames&, const LocaleNames&) = default;
+};
+
+/// Reads an environment variable; empty when it is not set.
+using EnvironmentReader = std::function<QString(const char* name)>;
+
+/// LC_ALL, else the category's own variable, else LANG. Encodings are dropped ("de_DE.UTF-8"), and
+/// C, POSIX and what ICU does not know count as en_US.
+[[nodiscard]] LocaleNames localeNames(const EnvironmentReader& environment);
+
+/// The same for the environment of this process.
+[[nodiscard]] LocaleNames localeNamesOfProcess();
+
+/// The IANA name of the computer's time zone; "UTC" when it has none that ICU knows.
+[[nodiscard]] QString systemTimeZoneName();
+
+} // namespace quillet

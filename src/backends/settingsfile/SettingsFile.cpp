@@ -1,0 +1,170 @@
+#include "backends/settingsfile/SettingsFile.h"
+
+#include "backends/settingsfile/SettingsJson.h"
+#include "platform/Localized.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+
+#include <chrono>
+
+namespace quillet {
+
+namespace {
+
+using namespace std::chrono_literals;
+constexpr auto writeDelay = 300ms;
+constexpr auto retryDelay = 5s;
+
+bool readSettings(QIODevice& device, QSettings::SettingsMap& map) {
+    const QByteArray text = device.readAll();
+    if (text.trimmed().isEmpty()) {
+        return true;
+    }
+    const auto values = settingsFromText(text);
+    if (!values) {
+        return false;
+    }
+    map = *values;
+    return true;
+}
+
+bool writeSettings(QIODevice& device, const QSettings::SettingsMap& map) {
+    const QByteArray text = settingsText(map);
+    return device.write(text) == text.size();
+}
+
+QSettings::Format jsonFormat() {
+    static const QSettings::Format format =
+        QSettings::registerFormat(QStringLiteral("json"), readSettings, writeSettings);
+    return format;
+}
+
+} // namespace
+
+SettingsFile::SettingsFile(const QString& path)
+    : path_(path) {
+    readFile();
+    writeTimer_.setSingleShot(true);
+    QObject::connect(&writeTimer_, &QTimer::timeout, [this] { flush(); });
+}
+
+SettingsFile::~SettingsFile() {
+    flush();
+}
+
+QVariant SettingsFile::object(const QString& key) const {
+    const QReadLocker lock(&lock_);
+    return values_.value(key);
+}
+
+void SettingsFile::setObject(const QString& key, const QVariant& value) {
+    {
+        const QWriteLocker lock(&lock_);
+        if (value.isValid()) {
+            values_.insert(key, value);
+        } else {
+            values_.remove(key);
+        }
+    }
+    changedKeys_.insert(key);
+    if (!writeTimer_.isActive()) {
+        writeTimer_.start(writeDelay);
+    }
+    if (const auto found = observers_.find(key); found != observers_.end()) {
+        found->second.notify();
+    }
+}
+
+void SettingsFile::remove(const QString& key) {
+    setObject(key, QVariant());
+}
+
+QStringList SettingsFile::keys() const {
+    const QReadLocker lock(&lock_);
+    return values_.keys();
+}
+
+Observation SettingsFile::observe(const QString& key, std::function<void()> callback) {
+    return observers_[key].add(std::move(callback));
+}
+
+Observation SettingsFile::observeWriteProblem(std::function<void(QString)> callback) {
+    return problemObservers_.add(std::move(callback));
+}
+
+void SettingsFile::flush() {
+    writeTimer_.stop();
+    if (changedKeys_.isEmpty()) {
+        return;
+    }
+    QDir().mkpath(QFileInfo(path_).absolutePath());
+    // A new one for each write: an error once met stays with the object for good.
+    QSettings file(path_, jsonFormat());
+    for (const QString& key : std::as_const(changedKeys_)) {
+        if (const QVariant value = object(key); value.isValid()) {
+            file.setValue(key, value);
+        } else {
+            file.remove(key);
+        }
+    }
+    file.sync();
+    if (file.status() == QSettings::NoError) {
+        changedKeys_.clear();
+        reportWriteProblem({});
+        return;
+    }
+    reportWriteProblem(
+        localized("Settings cannot be saved to %1. They are kept until they can.").arg(path_));
+    writeTimer_.start(retryDelay);
+}
+
+void SettingsFile::readFile() {
+    const QFileInfo info(path_);
+    if (!info.exists() && !info.isSymLink()) {
+        return;
+    }
+    QFile file(path_);
+    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
+        moveBrokenFileAside(info.isFile() ? file.errorString() : localized("it is not a file"));
+        return;
+    }
+    const QByteArray text = file.readAll();
+    if (text.trimmed().isEmpty()) {
+        return;
+    }
+    auto values = settingsFromText(text);
+    if (!values) {
+        moveBrokenFileAside(values.error());
+        return;
+    }
+    values_ = *std::move(values);
+}
+
+void SettingsFile::moveBrokenFileAside(const QString& reason) {
+    int number = 1;
+    const auto name = [&] { return QStringLiteral("%1.broken-%2").arg(path_).arg(number); };
+    while (QFileInfo::exists(name())) {
+        ++number;
+    }
+    const bool isMoved = QFile::rename(path_, name());
+    startMessage_ =
+        isMoved ? localized("The settings file could not be read (%1). It was kept as %2, and "
+                            "Quillet starts with its first-run settings.")
+                      .arg(reason, name())
+                : localized("The settings file %2 could not be read (%1) nor moved aside. Quillet "
+                            "starts with its first-run settings.")
+                      .arg(reason, path_);
+}
+
+void SettingsFile::reportWriteProblem(const QString& problem) {
+    if (problem.isEmpty() == problem_.isEmpty()) {
+        return;
+    }
+    problem_ = problem;
+    problemObservers_.notify(problem);
+}
+
+} // namespace quillet

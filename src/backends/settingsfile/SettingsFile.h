@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/ObserverList.h"
+#include "platform/SettingsStore.h"
+
+#include <QReadWriteLock>
+#include <QSet>
+#include <QTimer>
+
+#include <map>
+#include <optional>
+
+namespace quillet {
+
+/// The settings store in one JSON file. Values live in memory; changed keys reach the disk shortly
+/// after, merged into what another running copy may have written, by an atomic replacement.
+class SettingsFile final : public SettingsStore {
+public:
+    /// Reads the file, which need not exist. One that cannot be read as settings is moved beside
+    /// itself as "<name>.broken-1" (or the next free number) and startMessage() says so.
+    explicit SettingsFile(const QString& path);
+    /// Writes what is not yet on disk.
+    ~SettingsFile() override;
+    SettingsFile(const SettingsFile&) = delete;
+    SettingsFile& operator=(const SettingsFile&) = delete;
+
+    [[nodiscard]] QVariant object(const QString& key) const override;
+    void setObject(const QString& key, const QVariant& value) override;
+    void remove(const QString& key) override;
+    [[nodiscard]] QStringList keys() const override;
+    [[nodiscard]] Observation observe(const QString& key, std::function<void()> callback) override;
+
+    /// Writes changed keys now. On failure they stay to be written, and a retry is on its way.
+    void flush();
+    /// What the user should know about the file that was found, if anything.
+    [[nodiscard]] const std::optional<QString>& startMessage() const { return startMessage_; }
+    /// Calls back when writing begins to fail, with a sentence for the user, and when it works
+    /// again, with an empty text.
+    [[nodiscard]] Observation observeWriteProblem(std::function<void(QString)> callback);
+
+private:
+    void readFile();
+    void moveBrokenFileAside(const QString& reason);
+    void reportWriteProblem(const QString& problem);
+
+    QString path_;
+    mutable QReadWriteLock lock_;
+    QVariantMap values_;
+    QSet<QString> changedKeys_;
+    std::map<QString, ObserverList<>> observers_;
+    ObserverList<QString> problemObservers_;
+    QString problem_;
+    std::optional<QString> startMessage_;
+    QTimer writeTimer_;
+};
+
+} // namespace quillet
