@@ -1,0 +1,213 @@
+#include "period/DateInspectorController.h"
+
+#include <algorithm>
+
+namespace quillet {
+
+namespace {
+
+const QString appliedKindKey = QStringLiteral("quickDatePeriodPreviousValue");
+const QString triggerKey = QStringLiteral("datesChangedTrigger");
+
+bool isKind(qint64 index) {
+    return index >= static_cast<qint64>(PeriodKind::Day) &&
+           index <= static_cast<qint64>(PeriodKind::Custom);
+}
+
+/// The length of one period of a kind, and the distance of one step; nothing for Custom.
+DateOffset lengthOf(PeriodKind kind) {
+    switch (kind) {
+    case PeriodKind::Day:
+        return {.days = 1};
+    case PeriodKind::Week:
+        return {.days = 7};
+    case PeriodKind::Month:
+        return {.months = 1};
+    case PeriodKind::Year:
+        return {.years = 1};
+    case PeriodKind::Custom:
+        break;
+    }
+    return {};
+}
+
+DateOffset reversed(const DateOffset& offset) {
+    return {.years = -offset.years, .months = -offset.months, .days = -offset.days};
+}
+
+} // namespace
+
+void DateInspectorController::setQuickDatePeriod() {
+    const qint64 index = quickDatePeriodIndex();
+    if (hasKey(with_.settings, appliedKindKey) &&
+        integerForKey(with_.settings, appliedKindKey) == index) {
+        return;
+    }
+    if (isKind(index)) {
+        applyKind(static_cast<PeriodKind>(index));
+    }
+    with_.settings.setObject(appliedKindKey, index);
+    flipBool(with_.settings, triggerKey);
+}
+
+void DateInspectorController::applyKind(PeriodKind kind) {
+    setCustomDateOn(kind == PeriodKind::Custom);
+    if (kind != PeriodKind::Custom) {
+        setPeriod(kind, selectedDate());
+    }
+}
+
+void DateInspectorController::setQuickDates(PeriodStep segment) {
+    const qint64 index = quickDatePeriodIndex();
+    if (isKind(index)) {
+        step(static_cast<PeriodKind>(index), segment);
+    }
+    flipBool(with_.settings, triggerKey);
+}
+
+void DateInspectorController::step(PeriodKind kind, PeriodStep segment) {
+    if (kind == PeriodKind::Custom) {
+        stepCustomPeriod(segment);
+        return;
+    }
+    Instant date = today();
+    if (segment != PeriodStep::Current) {
+        const DateOffset length = lengthOf(kind);
+        date = arithmetic_.firstSecondAfter(
+            startDate(), segment == PeriodStep::Next ? length : reversed(length));
+    }
+    setPeriod(kind, date);
+    setSelectedDate(date);
+}
+
+void DateInspectorController::stepCustomPeriod(PeriodStep segment) {
+    const int days = arithmetic_.totalDaysFromStartDate(startDate(), endDate());
+    if (segment == PeriodStep::Current) {
+        const Instant start = today();
+        setBounds(start, arithmetic_.lastSecondBefore(start, {.days = days}));
+        setSelectedDate(start);
+        return;
+    }
+    const DateOffset shift{.days = segment == PeriodStep::Next ? days : -days};
+    const Instant start = arithmetic_.firstSecondAfter(startDate(), shift);
+    const Instant end = arithmetic_.firstSecondAfter(endDate(), shift);
+    setBounds(start, end);
+    setSelectedDate(start);
+}
+
+void DateInspectorController::setPeriod(PeriodKind kind, Instant date) {
+    switch (kind) {
+    case PeriodKind::Day:
+        weekReferenceDate_.reset();
+        setBounds(arithmetic_.firstSecondOfDayFromDate(date),
+                  arithmetic_.lastSecondOfDayFromDate(date));
+        break;
+    case PeriodKind::Week:
+        // Remembered so that a month shown before the week comes back, though the week may have
+        // begun in the month before.
+        weekReferenceDate_ = startDate();
+        setBounds(arithmetic_.firstSecondOfWeekFromDate(date),
+                  arithmetic_.lastSecondOfWeekFromDate(date));
+        break;
+    case PeriodKind::Month:
+        date = laterThanWeekReference(date);
+        setBounds(arithmetic_.firstSecondOfMonthFromDate(date),
+                  arithmetic_.lastSecondOfMonthFromDate(date));
+        break;
+    case PeriodKind::Year:
+        date = laterThanWeekReference(date);
+        setBounds(arithmetic_.firstSecondOfYearFromDate(date),
+                  arithmetic_.lastSecondOfYearFromDate(date));
+        break;
+    case PeriodKind::Custom:
+        break;
+    }
+}
+
+void DateInspectorController::setPeriodStartingWith(PeriodKind kind, Instant date) {
+    if (kind == PeriodKind::Day) {
+        setPeriod(kind, date);
+        return;
+    }
+    if (kind == PeriodKind::Week) {
+        weekReferenceDate_ = startDate();
+    }
+    setBounds(arithmetic_.firstSecondOfDayFromDate(date),
+              arithmetic_.lastSecondBefore(date, lengthOf(kind)));
+}
+
+Instant DateInspectorController::laterThanWeekReference(Instant date) {
+    const Instant later = std::max(date, weekReferenceDate_.value_or(date));
+    weekReferenceDate_.reset();
+    return later;
+}
+
+void DateInspectorController::setBounds(Instant start, Instant end) {
+    setStartDate(start);
+    setEndDate(end);
+}
+
+void DateInspectorController::startDateControlClicked() {
+    const Instant start = startDate();
+    setSelectedDate(start);
+    const qint64 index = quickDatePeriodIndex();
+    if (index == static_cast<qint64>(PeriodKind::Custom)) {
+        if (isCustomDateOn_) {
+            lockedPeriod_ = arithmetic_.totalDaysFromStartDate(start, endDate());
+        } else {
+            setEndDate(
+                arithmetic_.lastSecondBefore(start, {.days = static_cast<int>(lockedPeriod_)}));
+        }
+    } else if (isKind(index)) {
+        setPeriodStartingWith(static_cast<PeriodKind>(index), start);
+    }
+    flipBool(with_.settings, triggerKey);
+}
+
+void DateInspectorController::endDateControlClicked() {
+    if (quickDatePeriodIndex() != static_cast<qint64>(PeriodKind::Custom)) {
+        setQuickDatePeriodIndex(static_cast<qint64>(PeriodKind::Custom));
+    }
+    setCustomDateOn(true);
+    lockedPeriod_ = arithmetic_.totalDaysFromStartDate(startDate(), endDate());
+    flipBool(with_.settings, triggerKey);
+}
+
+void DateInspectorController::toggleEndDateLock() {
+    if (quickDatePeriodIndex() != static_cast<qint64>(PeriodKind::Custom)) {
+        setQuickDatePeriodIndex(static_cast<qint64>(PeriodKind::Custom));
+    }
+    lockedPeriod_ = arithmetic_.totalDaysFromStartDate(startDate(), endDate());
+}
+
+void DateInspectorController::choosePeriodKind(PeriodKind kind) {
+    setQuickDatePeriodIndex(static_cast<qint64>(kind));
+    setQuickDatePeriod();
+}
+
+void DateInspectorController::pickStartDate(Instant day) {
+    setStartDate(day);
+    startDateControlClicked();
+}
+
+void DateInspectorController::pickEndDate(Instant day) {
+    becomeCustom();
+    setEndDate(day);
+    endDateControlClicked();
+}
+
+void DateInspectorController::switchEndDateLock() {
+    const bool wasOn = isCustomDateOn_;
+    becomeCustom();
+    setCustomDateOn(!wasOn);
+    toggleEndDateLock();
+}
+
+void DateInspectorController::becomeCustom() {
+    // Applied as a choice, so that choosing the former kind again acts and brings its dates back.
+    if (quickDatePeriodIndex() != static_cast<qint64>(PeriodKind::Custom)) {
+        choosePeriodKind(PeriodKind::Custom);
+    }
+}
+
+} // namespace quillet

@@ -1,0 +1,120 @@
+#pragma once
+
+#include "period/PeriodArithmetic.h"
+#include "platform/Clock.h"
+#include "platform/LocaleFormats.h"
+#include "platform/SettingsStore.h"
+
+#include <QObject>
+
+#include <optional>
+#include <vector>
+
+namespace quillet {
+
+/// The kinds of reporting period, as stored.
+enum class PeriodKind { Day = 0, Week = 1, Month = 2, Year = 3, Custom = 4 };
+
+/// The segments of the stepping control.
+enum class PeriodStep { Previous = 0, Current = 1, Next = 2 };
+
+/// Owns the reporting period: its kind, its bounds, how it is stepped and picked, and its labels.
+/// Publishes it as `filterStartDate` and `filterEndDate`, and flips `datesChangedTrigger` after
+/// each change that the user makes.
+class DateInspectorController : public QObject {
+    Q_OBJECT
+
+public:
+    struct Collaborators {
+        SettingsStore& settings;
+        const Clock& clock;
+        const CalendarArithmetic& gregorian;
+        const CalendarArithmetic& current;
+        const LocaleFormats& formats;
+    };
+
+    explicit DateInspectorController(const Collaborators& collaborators);
+    ~DateInspectorController() override;
+    Q_DISABLE_COPY_MOVE(DateInspectorController)
+
+    void awakeFromNib();
+
+    /// The first second of the period's first day; the current week's while nothing is stored.
+    [[nodiscard]] Instant startDate();
+    /// The last second of the period's last day.
+    [[nodiscard]] Instant endDate();
+    /// The anchor from which a newly chosen kind is built: the first second of a day.
+    [[nodiscard]] Instant selectedDate();
+    /// Bounds are normalised to whole days; the other bound gives way where the order or the
+    /// longest length asks for it.
+    void setStartDate(Instant date);
+    void setEndDate(Instant date);
+    void setSelectedDate(Instant date);
+
+    /// The number of the kind as stored, which need not be one of PeriodKind's.
+    [[nodiscard]] qint64 quickDatePeriodIndex();
+    void setQuickDatePeriodIndex(qint64 index);
+
+    /// 1: both ends of a custom period are free; 0: its length is locked.
+    [[nodiscard]] bool isCustomDateOn() const { return isCustomDateOn_; }
+    void setCustomDateOn(bool isOn);
+    /// In days.
+    [[nodiscard]] qint64 lockedPeriod() const { return lockedPeriod_; }
+    [[nodiscard]] bool isInterfaceEnabled() const { return isInterfaceEnabled_; }
+    [[nodiscard]] QString periodLabelString() const { return periodLabel_; }
+    [[nodiscard]] QString dateRangeLabelString() const { return dateRangeLabel_; }
+    /// The days of the stored period.
+    [[nodiscard]] std::int32_t totalDays() const;
+
+    /// @name User actions, sent after the control has written its property
+    /// @{
+    void setQuickDatePeriod();
+    void setQuickDates(PeriodStep step);
+    void startDateControlClicked();
+    void endDateControlClicked();
+    void toggleEndDateLock();
+    /// @}
+
+    /// @name What the controls of a window do: write the property, then send the action
+    /// @{
+    void choosePeriodKind(PeriodKind kind);
+    void pickStartDate(Instant day);
+    /// The end keeps its 23:59:59, and a kind that becomes Custom is applied as if it was chosen.
+    void pickEndDate(Instant day);
+    void switchEndDateLock();
+    /// @}
+
+Q_SIGNALS:
+    void labelsChanged();
+    void isInterfaceEnabledChanged();
+    void isCustomDateOnChanged();
+
+private:
+    [[nodiscard]] std::optional<Instant> stored(const QString& key) const;
+    [[nodiscard]] Instant today() const;
+    void adopt(const QString& key, std::optional<Instant>& property, Instant value);
+    void applyKind(PeriodKind kind);
+    void step(PeriodKind kind, PeriodStep step);
+    void stepCustomPeriod(PeriodStep step);
+    void setPeriod(PeriodKind kind, Instant date);
+    void setPeriodStartingWith(PeriodKind kind, Instant date);
+    [[nodiscard]] Instant laterThanWeekReference(Instant date);
+    void setBounds(Instant start, Instant end);
+    void becomeCustom();
+    void setLabels();
+
+    Collaborators with_;
+    PeriodArithmetic arithmetic_;
+    std::optional<Instant> startDate_;
+    std::optional<Instant> endDate_;
+    std::optional<Instant> selectedDate_;
+    std::optional<Instant> weekReferenceDate_;
+    bool isCustomDateOn_ = false;
+    qint64 lockedPeriod_ = 0;
+    bool isInterfaceEnabled_ = true;
+    QString periodLabel_;
+    QString dateRangeLabel_;
+    std::vector<Observation> observations_;
+};
+
+} // namespace quillet

@@ -1,0 +1,340 @@
+#include "period/DateInspectorController.h"
+
+#include "backends/icu/IcuCalendarArithmetic.h"
+#include "backends/icu/IcuLocaleFormats.h"
+#include "support/Fakes.h"
+#include "support/MemorySettings.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace quillet {
+
+namespace {
+
+using test::utc;
+
+class DateInspectorControllerTest : public testing::Test {
+protected:
+    void SetUp() override { useZone("UTC", "en_GB"); }
+
+    /// Starts the program anew in another zone and locale; settings and clock stay.
+    void useZone(const char* zone, const char* locale) {
+        const QString localeName = QString::fromLatin1(locale);
+        const QString zoneName = QString::fromLatin1(zone);
+        controller.reset();
+        gregorian = std::make_unique<IcuCalendarArithmetic>(localeName, zoneName,
+                                                            CalendarSystem::Gregorian);
+        current =
+            std::make_unique<IcuCalendarArithmetic>(localeName, zoneName, CalendarSystem::OfLocale);
+        formats =
+            std::make_unique<IcuLocaleFormats>(LocaleNames{"en_US", "en_US", "en_US"}, zoneName);
+        controller =
+            std::make_unique<DateInspectorController>(DateInspectorController::Collaborators{
+                settings, clock, *gregorian, *current, *formats});
+        settings.setObject("isCalendarAccessGranted", true);
+        controller->awakeFromNib();
+    }
+    std::string day(Instant instant) const {
+        const DateComponents fields = gregorian->components(instant);
+        char text[32];
+        (void)std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", fields.year,
+                            fields.month, fields.day, fields.hour, fields.minute, fields.second);
+        return text;
+    }
+    /// The published period, in local time.
+    std::string period() const {
+        return day(*dateForKey(settings, "filterStartDate")) + " - " +
+               day(*dateForKey(settings, "filterEndDate"));
+    }
+    Instant local(int year, int month, int dayOfMonth) const {
+        return gregorian->startOfDay(gregorian->instant({year, month, dayOfMonth, 12}));
+    }
+    void choose(PeriodKind kind, Instant anchor) {
+        controller->setSelectedDate(anchor);
+        settings.remove("quickDatePeriodPreviousValue");
+        controller->choosePeriodKind(kind);
+    }
+    int triggerFlips() const {
+        return static_cast<int>(settings.writes.count("datesChangedTrigger"));
+    }
+
+    test::MemorySettings settings;
+    test::FakeClock clock{utc(2024, 3, 6, 15)};
+    std::unique_ptr<IcuCalendarArithmetic> gregorian;
+    std::unique_ptr<IcuCalendarArithmetic> current;
+    std::unique_ptr<IcuLocaleFormats> formats;
+    std::unique_ptr<DateInspectorController> controller;
+};
+
+} // namespace
+
+TEST_F(DateInspectorControllerTest, TheFirstLaunchShowsTheCurrentWeek) {
+    EXPECT_EQ(period(), "2024-03-04 00:00:00 - 2024-03-10 23:59:59");
+    EXPECT_EQ(controller->quickDatePeriodIndex(), 1);
+    EXPECT_EQ(day(controller->selectedDate()), "2024-03-04 00:00:00");
+    EXPECT_EQ(controller->periodLabelString(), QStringLiteral("Week"));
+    EXPECT_EQ(controller->dateRangeLabelString(), QStringLiteral("March 4, 2024 - March 10, 2024"));
+    EXPECT_EQ(controller->lockedPeriod(), 7);
+}
+
+TEST_F(DateInspectorControllerTest, AStartBehindTheEndPullsTheEndToItsDay) {
+    controller->setStartDate(local(2024, 5, 1));
+    EXPECT_EQ(period(), "2024-05-01 00:00:00 - 2024-05-01 23:59:59");
+}
+
+TEST_F(DateInspectorControllerTest, AnEndBeforeTheStartPullsTheStartToItsDay) {
+    controller->setEndDate(local(2024, 1, 9));
+    EXPECT_EQ(period(), "2024-01-09 00:00:00 - 2024-01-09 23:59:59");
+}
+
+TEST_F(DateInspectorControllerTest, APeriodIsAtMost1460Days) {
+    controller->setStartDate(local(2020, 3, 1));
+    controller->setEndDate(local(2020, 3, 1));
+    const Instant kept = gregorian->add(local(2020, 3, 1), {.days = 1459});
+    controller->setEndDate(kept);
+    EXPECT_EQ(day(controller->startDate()), "2020-03-01 00:00:00");
+    controller->setEndDate(gregorian->add(local(2020, 3, 1), {.days = 1461}));
+    EXPECT_EQ(day(controller->startDate()), "2020-03-03 00:00:00");
+    EXPECT_EQ(controller->totalDays(), 1460);
+    controller->setStartDate(local(2010, 1, 1));
+    EXPECT_EQ(controller->totalDays(), 1460);
+    EXPECT_EQ(day(controller->endDate()), "2013-12-30 23:59:59");
+}
+
+TEST_F(DateInspectorControllerTest, TheClampEndsForInputsAtAnyTimeOfDay) {
+    useZone("Europe/Berlin", "de_DE");
+    for (const int hours : {0, 1, 12, 23}) {
+        controller->setStartDate(local(2020, 1, 1) + std::chrono::hours(hours));
+        controller->setEndDate(local(2030, 7, 1) + std::chrono::hours(hours));
+        EXPECT_EQ(controller->totalDays(), 1460);
+    }
+}
+
+TEST_F(DateInspectorControllerTest, TheWeekOfASundayDependsOnTheFirstWeekdayWithoutWrappingAround) {
+    choose(PeriodKind::Week, local(2024, 3, 3));
+    EXPECT_EQ(period(), "2024-03-04 00:00:00 - 2024-03-10 23:59:59");
+    useZone("UTC", "en_US");
+    choose(PeriodKind::Week, local(2024, 3, 3));
+    EXPECT_EQ(period(), "2024-03-03 00:00:00 - 2024-03-09 23:59:59");
+    useZone("UTC", "ar_EG");
+    choose(PeriodKind::Week, local(2024, 3, 3));
+    EXPECT_EQ(period(), "2024-03-09 00:00:00 - 2024-03-15 23:59:59");
+}
+
+TEST_F(DateInspectorControllerTest, MonthsStepOverTheTurnOfTheYearAndIntoFebruary) {
+    choose(PeriodKind::Month, local(2024, 1, 1));
+    controller->setQuickDates(PeriodStep::Previous);
+    EXPECT_EQ(period(), "2023-12-01 00:00:00 - 2023-12-31 23:59:59");
+    controller->setQuickDates(PeriodStep::Next);
+    controller->setQuickDates(PeriodStep::Next);
+    EXPECT_EQ(period(), "2024-02-01 00:00:00 - 2024-02-29 23:59:59");
+    EXPECT_EQ(day(controller->selectedDate()), "2024-02-01 00:00:00");
+    controller->setQuickDates(PeriodStep::Current);
+    EXPECT_EQ(period(), "2024-03-01 00:00:00 - 2024-03-31 23:59:59");
+    EXPECT_EQ(day(controller->selectedDate()), "2024-03-06 00:00:00");
+}
+
+TEST_F(DateInspectorControllerTest, DaysAndYearsStepToo) {
+    choose(PeriodKind::Day, local(2024, 2, 28));
+    controller->setQuickDates(PeriodStep::Next);
+    EXPECT_EQ(period(), "2024-02-29 00:00:00 - 2024-02-29 23:59:59");
+    EXPECT_EQ(controller->dateRangeLabelString(), QStringLiteral("February 29, 2024"));
+    choose(PeriodKind::Year, local(2024, 2, 28));
+    controller->setQuickDates(PeriodStep::Previous);
+    EXPECT_EQ(period(), "2023-01-01 00:00:00 - 2023-12-31 23:59:59");
+}
+
+TEST_F(DateInspectorControllerTest, ACustomPeriodStepsByItsOwnLength) {
+    controller->choosePeriodKind(PeriodKind::Custom);
+    controller->setStartDate(local(2024, 2, 11));
+    controller->setEndDate(local(2024, 2, 20));
+    controller->setQuickDates(PeriodStep::Previous);
+    EXPECT_EQ(period(), "2024-02-01 00:00:00 - 2024-02-10 23:59:59");
+    controller->setQuickDates(PeriodStep::Next);
+    EXPECT_EQ(period(), "2024-02-11 00:00:00 - 2024-02-20 23:59:59");
+    controller->setQuickDates(PeriodStep::Current);
+    EXPECT_EQ(period(), "2024-03-06 00:00:00 - 2024-03-15 23:59:59");
+}
+
+TEST_F(DateInspectorControllerTest, ChoosingTheKindLastAppliedDoesNothing) {
+    controller->choosePeriodKind(PeriodKind::Month);
+    controller->setQuickDates(PeriodStep::Previous);
+    const std::string before = period();
+    const int flips = triggerFlips();
+    controller->choosePeriodKind(PeriodKind::Month);
+    EXPECT_EQ(period(), before);
+    EXPECT_EQ(triggerFlips(), flips);
+}
+
+TEST_F(DateInspectorControllerTest, TheVeryFirstChoiceOfADayActs) {
+    controller->choosePeriodKind(PeriodKind::Day);
+    EXPECT_EQ(period(), "2024-03-04 00:00:00 - 2024-03-04 23:59:59");
+    EXPECT_EQ(triggerFlips(), 1);
+}
+
+TEST_F(DateInspectorControllerTest, AMonthComesBackAfterAWeekThatBeganBeforeIt) {
+    choose(PeriodKind::Month, local(2024, 3, 1));
+    controller->choosePeriodKind(PeriodKind::Week);
+    EXPECT_EQ(period(), "2024-02-26 00:00:00 - 2024-03-03 23:59:59");
+    controller->setSelectedDate(local(2024, 2, 26));
+    controller->choosePeriodKind(PeriodKind::Month);
+    EXPECT_EQ(period(), "2024-03-01 00:00:00 - 2024-03-31 23:59:59");
+    controller->choosePeriodKind(PeriodKind::Year);
+    controller->choosePeriodKind(PeriodKind::Month);
+    EXPECT_EQ(period(), "2024-02-01 00:00:00 - 2024-02-29 23:59:59") << "the reference is spent";
+}
+
+TEST_F(DateInspectorControllerTest, APickedStartKeepsTheKindsLengthWithoutSnapping) {
+    choose(PeriodKind::Week, local(2024, 3, 4));
+    controller->pickStartDate(local(2024, 3, 6));
+    EXPECT_EQ(period(), "2024-03-06 00:00:00 - 2024-03-12 23:59:59");
+    choose(PeriodKind::Month, local(2024, 3, 4));
+    controller->pickStartDate(local(2024, 1, 15));
+    EXPECT_EQ(period(), "2024-01-15 00:00:00 - 2024-02-14 23:59:59");
+    choose(PeriodKind::Year, local(2024, 3, 4));
+    controller->pickStartDate(local(2024, 2, 10));
+    EXPECT_EQ(period(), "2024-02-10 00:00:00 - 2025-02-09 23:59:59");
+    choose(PeriodKind::Day, local(2024, 3, 4));
+    controller->pickStartDate(local(2024, 2, 10));
+    EXPECT_EQ(period(), "2024-02-10 00:00:00 - 2024-02-10 23:59:59");
+}
+
+TEST_F(DateInspectorControllerTest, APickedEndMakesThePeriodCustomAndEndsOnItsLastSecond) {
+    choose(PeriodKind::Month, local(2024, 3, 4));
+    const int flips = triggerFlips();
+    controller->pickEndDate(local(2024, 3, 12));
+    EXPECT_EQ(period(), "2024-03-01 00:00:00 - 2024-03-12 23:59:59");
+    EXPECT_EQ(controller->quickDatePeriodIndex(), 4);
+    EXPECT_TRUE(controller->isCustomDateOn());
+    EXPECT_EQ(controller->lockedPeriod(), 12);
+    EXPECT_EQ(controller->periodLabelString(), QStringLiteral("12 Days"));
+    EXPECT_GT(triggerFlips(), flips);
+    controller->choosePeriodKind(PeriodKind::Month);
+    EXPECT_EQ(period(), "2024-03-01 00:00:00 - 2024-03-31 23:59:59") << "Month acts again";
+}
+
+TEST_F(DateInspectorControllerTest, ALockedEndMovesWithTheStart) {
+    choose(PeriodKind::Month, local(2024, 3, 4));
+    controller->pickEndDate(local(2024, 3, 10));
+    controller->switchEndDateLock();
+    EXPECT_FALSE(controller->isCustomDateOn());
+    controller->pickStartDate(local(2024, 4, 1));
+    EXPECT_EQ(period(), "2024-04-01 00:00:00 - 2024-04-10 23:59:59");
+    controller->switchEndDateLock();
+    controller->pickStartDate(local(2024, 4, 3));
+    EXPECT_EQ(period(), "2024-04-03 00:00:00 - 2024-04-10 23:59:59");
+    EXPECT_EQ(controller->lockedPeriod(), 8);
+}
+
+TEST_F(DateInspectorControllerTest, TheLockActionItselfFlipsNothing) {
+    controller->choosePeriodKind(PeriodKind::Custom);
+    const int flips = triggerFlips();
+    const bool wasOn = controller->isCustomDateOn();
+    controller->toggleEndDateLock();
+    EXPECT_EQ(triggerFlips(), flips);
+    EXPECT_EQ(controller->isCustomDateOn(), wasOn);
+}
+
+TEST_F(DateInspectorControllerTest, TheLockMadeCustomLetsTheFormerKindActAgain) {
+    choose(PeriodKind::Month, local(2024, 3, 4));
+    controller->switchEndDateLock();
+    EXPECT_EQ(controller->quickDatePeriodIndex(), 4);
+    controller->setQuickDates(PeriodStep::Next);
+    controller->choosePeriodKind(PeriodKind::Month);
+    EXPECT_EQ(period(), "2024-04-01 00:00:00 - 2024-04-30 23:59:59");
+}
+
+TEST_F(DateInspectorControllerTest, ASingleCustomDayReadsAsAPlural) {
+    controller->choosePeriodKind(PeriodKind::Custom);
+    controller->setEndDate(local(2024, 3, 4));
+    EXPECT_EQ(controller->periodLabelString(), QStringLiteral("1 Days"));
+}
+
+TEST_F(DateInspectorControllerTest, ThePeriodSurvivesARestart) {
+    choose(PeriodKind::Month, local(2024, 1, 4));
+    clock.current = utc(2025, 6, 1);
+    useZone("UTC", "en_GB");
+    EXPECT_EQ(period(), "2024-01-01 00:00:00 - 2024-01-31 23:59:59");
+    EXPECT_EQ(controller->quickDatePeriodIndex(), 2);
+}
+
+TEST_F(DateInspectorControllerTest, WithoutAccessTheControlsAreDisabledAndThePeriodIsKept) {
+    const std::string before = period();
+    settings.setObject("isCalendarAccessGranted", false);
+    EXPECT_FALSE(controller->isInterfaceEnabled());
+    EXPECT_EQ(period(), before);
+}
+
+TEST_F(DateInspectorControllerTest, AClockBefore1970StillHasAWeek) {
+    settings.remove("filterStartDate");
+    settings.remove("filterEndDate");
+    settings.remove("selectedDate");
+    clock.current = utc(1960, 2, 29, 12);
+    useZone("UTC", "en_GB");
+    EXPECT_EQ(period(), "1960-02-29 00:00:00 - 1960-03-06 23:59:59");
+}
+
+struct ZoneCase {
+    const char* zone;
+    int year;
+    int month;
+    int day;
+};
+
+class WholeDayTest : public DateInspectorControllerTest,
+                     public testing::WithParamInterface<ZoneCase> {};
+
+/// Days on which the clocks change: 23 or 25 hours, half-hour changes, days without a midnight.
+INSTANTIATE_TEST_SUITE_P(
+    Zones, WholeDayTest,
+    testing::Values(
+        ZoneCase{"Europe/Berlin", 2024, 3, 31}, ZoneCase{"Europe/Berlin", 2024, 10, 27},
+        ZoneCase{"America/New_York", 2024, 3, 10}, ZoneCase{"America/New_York", 2024, 11, 3},
+        ZoneCase{"America/Sao_Paulo", 2018, 11, 4}, ZoneCase{"America/Sao_Paulo", 2018, 2, 17},
+        ZoneCase{"America/Santiago", 2024, 9, 8}, ZoneCase{"America/Santiago", 2024, 4, 6},
+        ZoneCase{"America/Havana", 2024, 3, 10}, ZoneCase{"America/Havana", 2024, 11, 3},
+        ZoneCase{"Australia/Lord_Howe", 2024, 4, 7}, ZoneCase{"Australia/Lord_Howe", 2024, 10, 6}));
+
+TEST_P(WholeDayTest, ADayIsOneDayAndItsMonthIsItsMonth) {
+    const ZoneCase& zone = GetParam();
+    useZone(zone.zone, "en_GB");
+    const Instant changeDay = local(zone.year, zone.month, zone.day);
+    char date[16];
+    (void)std::snprintf(date, sizeof date, "%04d-%02d-%02d", zone.year, zone.month, zone.day);
+
+    choose(PeriodKind::Day, changeDay);
+    EXPECT_EQ(day(controller->startDate()).substr(0, 10), date);
+    EXPECT_EQ(day(controller->endDate()), std::string(date) + " 23:59:59");
+    EXPECT_EQ(controller->totalDays(), 1);
+    EXPECT_EQ(controller->endDate() + std::chrono::seconds(1),
+              gregorian->startOfDay(controller->endDate() + std::chrono::seconds(1)));
+
+    choose(PeriodKind::Day, gregorian->add(changeDay, {.days = -3}));
+    for (int steps = 0; steps < 6; ++steps) {
+        const Instant end = controller->endDate();
+        controller->setQuickDates(PeriodStep::Next);
+        EXPECT_EQ(controller->startDate(), end + std::chrono::seconds(1));
+        EXPECT_EQ(controller->totalDays(), 1);
+    }
+
+    choose(PeriodKind::Month, changeDay);
+    EXPECT_EQ(day(controller->startDate()).substr(0, 10), std::string(date).substr(0, 8) + "01");
+    EXPECT_EQ(day(controller->endDate()).substr(0, 7), std::string(date).substr(0, 7));
+    EXPECT_EQ(day(controller->endDate()).substr(11), "23:59:59");
+    const Instant firstOfMonth = controller->startDate();
+    controller->setQuickDates(PeriodStep::Next);
+    controller->setQuickDates(PeriodStep::Previous);
+    EXPECT_EQ(controller->startDate(), firstOfMonth);
+}
+
+TEST_F(DateInspectorControllerTest, CountsWholeDaysOverAChangeOfTheClock) {
+    useZone("Europe/Berlin", "de_DE");
+    const PeriodArithmetic arithmetic(*gregorian, *current);
+    EXPECT_EQ(arithmetic.totalDaysFromStartDate(local(2024, 3, 30), local(2024, 4, 1)), 3);
+    EXPECT_EQ(arithmetic.totalDaysFromStartDate(local(2024, 3, 1), local(2024, 3, 31)), 31);
+    EXPECT_EQ(arithmetic.totalDaysFromStartDate(local(2024, 3, 1), local(2024, 3, 1)), 1);
+}
+
+} // namespace quillet
