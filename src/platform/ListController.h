@@ -37,6 +37,10 @@ public:
     using Filter = std::function<bool(const Record&)>;
     /// Strict weak order: whether the left record stands before the right one.
     using Order = std::function<bool(const Record&, const Record&)>;
+    /// A strict weak order of two indexes of one content, and what makes it for a content. It can
+    /// compute once for each record what a comparison takes.
+    using IndexOrder = std::function<bool(std::size_t, std::size_t)>;
+    using PreparedOrder = std::function<IndexOrder(const std::vector<Record>&)>;
     /// A name that two records share exactly when they are the same one at different times.
     using Identity = std::function<std::size_t(const Record&)>;
     using SameRecord = std::function<bool(const Record&, const Record&)>;
@@ -76,6 +80,18 @@ public:
 
     /// Sorts, stably on the content's own order; an empty order restores that one.
     void setOrder(Order order) {
+        if (!order) {
+            setPreparedOrder({});
+            return;
+        }
+        setPreparedOrder([order = std::move(order)](const std::vector<Record>& content) {
+            return [&order, &content](std::size_t left, std::size_t right) {
+                return order(content[left], content[right]);
+            };
+        });
+    }
+    /// As setOrder(); the order is made anew whenever the list is arranged.
+    void setPreparedOrder(PreparedOrder order) {
         order_ = std::move(order);
         rearrangeKeepingSelection();
     }
@@ -120,9 +136,7 @@ private:
             }
         }
         if (order_) {
-            std::ranges::stable_sort(rows_, [this](std::size_t left, std::size_t right) {
-                return order_((*content_)[left], (*content_)[right]);
-            });
+            std::ranges::stable_sort(rows_, order_(*content_));
         }
     }
 
@@ -169,7 +183,7 @@ private:
     Content content_ = std::make_shared<const std::vector<Record>>();
     QString filterName_;
     Filter filter_;
-    Order order_;
+    PreparedOrder order_;
     Identity hash_;
     SameRecord same_;
     std::vector<std::size_t> rows_;
