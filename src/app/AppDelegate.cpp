@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 
+#include "app/StartupSettings.h"
 #include "platform/Logging.h"
 
 #include <QUrl>
@@ -8,71 +9,53 @@ namespace quillet {
 
 namespace {
 
+/// Host and path of the program's web site, as a person would read it.
+constexpr const char* websiteHostAndPath = "quillet.example/desktop";
+
 void logFailure(const std::expected<void, QString>& result) {
     if (!result) {
         qCWarning(quilletLog).noquote() << result.error();
     }
 }
 
-QString websiteAddress() {
-    // What may stand in the path of an address as it is.
-    static const QByteArray pathCharacters = "!$&'()*+,/:=@";
-    const QByteArray hostAndPath =
-        QUrl::toPercentEncoding(QStringLiteral("www.quillet.example/desktop"), pathCharacters);
-    return QStringLiteral("http://") + QString::fromLatin1(hostAndPath);
-}
-
 } // namespace
 
-AppDelegate::AppDelegate(const Collaborators& collaborators)
-    : with_(collaborators) {}
+AppDelegate::AppDelegate(Collaborators collaborators)
+    : with_(std::move(collaborators)) {}
+
+void AppDelegate::applicationDidFinishLaunching() {
+    writeStartupSettings(with_.settings);
+}
 
 void AppDelegate::awakeFromNib() {
-    with_.sharedUpdater();
-    const ExportToolbarItems& items = with_.toolbarItems;
-    for (ToolbarItem* item :
-         {&items.exportTxtToolbarItem, &items.exportCsvToolbarItem, &items.exportTsvToolbarItem,
-          &items.exportMailToolbarItem, &items.exportNotesToolbarItem}) {
+    for (ToolbarItem* item : with_.exportToolbarItems) {
         item->setEnabled(true);
     }
 }
-
-void AppDelegate::applicationDidFinishLaunching() {
-    for (const StartUpSetting& setting : startUpSettings()) {
-        setIfAbsent(with_.settings, setting.key, setting.defaultValue);
-    }
-}
-
-bool AppDelegate::applicationShouldTerminateAfterLastWindowClosed() const {
-    return true;
-}
-
-void AppDelegate::applicationWillTerminate() {}
 
 void AppDelegate::accessGranted() {
     with_.settings.setObject(QStringLiteral("isCalendarAccessGranted"), true);
 }
 
 void AppDelegate::checkForUpdates() {
-    with_.sharedUpdater().checkForUpdates();
+    with_.updater.checkForUpdates();
 }
 
 void AppDelegate::openReleaseNotes() {
-    logFailure(with_.workspace.openFile(with_.resourcesFolder + "/Release Notes.rtf"));
+    logFailure(with_.workspace.openFile(with_.releaseNotesPath));
 }
 
 void AppDelegate::openWebsite() {
-    logFailure(with_.workspace.openWebAddress(websiteAddress()));
+    const QByteArray encoded =
+        QUrl::toPercentEncoding(QString::fromLatin1(websiteHostAndPath), "/:@!$&'()*+,;=");
+    logFailure(with_.workspace.openWebAddress(
+        QStringLiteral("%1%2").arg(QStringLiteral("http://"), QString::fromLatin1(encoded))));
 }
 
 void AppDelegate::relaunch() {
-    const QString processIdentifier = QString::number(with_.taskLauncher.processIdentifier());
-    const auto launched =
-        with_.taskLauncher.launch(with_.taskLauncher.executablePath(), {processIdentifier});
-    logFailure(launched);
-    if (launched) {
-        with_.taskLauncher.terminate();
-    }
+    const QString argument = QString::number(with_.taskLauncher.processIdentifier());
+    logFailure(with_.taskLauncher.launch(with_.taskLauncher.executablePath(), {argument}));
+    with_.taskLauncher.terminate();
 }
 
 } // namespace quillet

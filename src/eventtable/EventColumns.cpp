@@ -1,58 +1,44 @@
 #include "eventtable/EventColumns.h"
 
-#include <QtGlobal>
-
 #include <algorithm>
 
 namespace quillet {
 
-const std::array<EventColumn, eventColumnCount>& eventColumns() {
-    using Name = EventColumnName;
-    // The start-weekday column is irregular: its title key alone says "start".
-    static const std::array<EventColumn, eventColumnCount> columns{{
-        {Name::Date, "date", "date", "startDate", "dateColumnTitle",
-         QT_TRANSLATE_NOOP("Quillet", "Start Date"), "isDateColumn", true},
-        {Name::Hours, "hours", "hours", "hours", "hoursColumnTitle",
-         QT_TRANSLATE_NOOP("Quillet", "Hours"), "isHoursColumn", true},
-        {Name::Title, "title", "title", "title", "titleColumnTitle",
-         QT_TRANSLATE_NOOP("Quillet", "Title"), "isTitleColumn", true},
-        {Name::Notes, "notes", "notes", "notes", "notesColumnTitle",
-         QT_TRANSLATE_NOOP("Quillet", "Notes"), "isNotesColumn", false},
-        {Name::Url, "url", "url", "URL", "urlColumnTitle", QT_TRANSLATE_NOOP("Quillet", "URL"),
-         "isUrlColumn", false},
-        {Name::Location, "location", "location", "location", "locationColumnTitle",
-         QT_TRANSLATE_NOOP("Quillet", "Location"), "isLocationColumn", false},
-        {Name::Weekday, "weekday", "weekday", "startWeekday", "startWeekdayColumnTitle",
-         QT_TRANSLATE_NOOP("Quillet", "Start Weekday"), "isWeekdayColumn", false},
-        {Name::EndWeekday, "endWeekday", "endWeekday", "endWeekday", "endWeekdayColumnTitle",
-         QT_TRANSLATE_NOOP("Quillet", "End Weekday"), "isEndWeekdayColumn", false},
-        {Name::Cost, "cost", "cost", "cost", "costColumnTitle",
-         QT_TRANSLATE_NOOP("Quillet", "Cost"), "isCostColumn", true},
-        {Name::Start, "start", "startTime", "startTime", "startTimeColumnTitle",
-         QT_TRANSLATE_NOOP("Quillet", "Start Time"), "isStartTimeColumn", false},
-        {Name::End, "end", "endTime", "endTime", "endTimeColumnTitle",
-         QT_TRANSLATE_NOOP("Quillet", "End Time"), "isEndTimeColumn", false},
-        {Name::EndDate, "endDate", "endDate", "adjustedEndDate", "endDateColumnTitle",
-         QT_TRANSLATE_NOOP("Quillet", "End Date"), "isEndDateColumn", false},
-        {Name::Calendar, "calendar", "calendar", "calendarTitle", "calendarColumnTitle",
-         QT_TRANSLATE_NOOP("Quillet", "Calendar"), "isCalendarColumn", true},
-        {Name::Rate, "rate", "rate", "rate", "rateColumnTitle",
-         QT_TRANSLATE_NOOP("Quillet", "Rate"), "isRateColumn", false},
-        {Name::Duration, "duration", "duration", "duration", "durationColumnTitle",
-         QT_TRANSLATE_NOOP("Quillet", "Duration"), "isHoursColumn", true},
-        {Name::Minutes, "minutes", "minutes", "minutes", "minutesColumnTitle",
-         QT_TRANSLATE_NOOP("Quillet", "Minutes"), "isHoursColumn", true},
-    }};
+namespace {
+
+// The title key of the start weekday does not follow its stem; stored settings depend on that.
+constexpr std::array<EventColumn, 16> columns{{
+    {"date", "date", "dateColumnTitle", "Start Date", "isDateColumn", true},
+    {"hours", "hours", "hoursColumnTitle", "Hours", "isHoursColumn", true},
+    {"title", "title", "titleColumnTitle", "Title", "isTitleColumn", true},
+    {"notes", "notes", "notesColumnTitle", "Notes", "isNotesColumn", false},
+    {"url", "url", "urlColumnTitle", "URL", "isUrlColumn", false},
+    {"location", "location", "locationColumnTitle", "Location", "isLocationColumn", false},
+    {"weekday", "weekday", "startWeekdayColumnTitle", "Start Weekday", "isWeekdayColumn", false},
+    {"endWeekday", "endWeekday", "endWeekdayColumnTitle", "End Weekday", "isEndWeekdayColumn",
+     false},
+    {"cost", "cost", "costColumnTitle", "Cost", "isCostColumn", true},
+    {"start", "startTime", "startTimeColumnTitle", "Start Time", "isStartTimeColumn", false},
+    {"end", "endTime", "endTimeColumnTitle", "End Time", "isEndTimeColumn", false},
+    {"endDate", "endDate", "endDateColumnTitle", "End Date", "isEndDateColumn", false},
+    {"calendar", "calendar", "calendarColumnTitle", "Calendar", "isCalendarColumn", true},
+    {"rate", "rate", "rateColumnTitle", "Rate", "isRateColumn", false},
+    {"duration", "duration", "durationColumnTitle", "Duration", "isHoursColumn", true},
+    {"minutes", "minutes", "minutesColumnTitle", "Minutes", "isHoursColumn", true},
+}};
+
+} // namespace
+
+std::span<const EventColumn, 16> eventColumns() {
     return columns;
 }
 
-const EventColumn& eventColumn(EventColumnName name) {
-    return eventColumns().at(static_cast<std::size_t>(name));
-}
-
-const EventColumn* eventColumnWithIdentifier(const QString& identifier) {
-    const auto found = std::ranges::find(eventColumns(), identifier, &EventColumn::identifier);
-    return found == eventColumns().end() ? nullptr : found;
+const EventColumn& eventColumn(const QString& identifier) {
+    const auto found = std::ranges::find_if(columns, [&](const EventColumn& column) {
+        return identifier == QLatin1StringView(column.identifier);
+    });
+    Q_ASSERT(found != columns.end());
+    return *found;
 }
 
 } // namespace quillet

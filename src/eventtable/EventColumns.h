@@ -3,54 +3,31 @@
 #include <QString>
 
 #include <array>
+#include <span>
 
 namespace quillet {
 
-enum class EventColumnName {
-    Date,
-    Hours,
-    Title,
-    Notes,
-    Url,
-    Location,
-    Weekday,
-    EndWeekday,
-    Cost,
-    Start,
-    End,
-    EndDate,
-    Calendar,
-    Rate,
-    Duration,
-    Minutes,
-};
-
-/// What is fixed about one column of the event table.
+/// One column of the event table.
 struct EventColumn {
-    EventColumnName name;
-    /// The column's name in the table.
-    QString identifier;
-    /// What the column's members of a column layout begin with.
-    QString stem;
-    /// The field of an event that the column shows; see EventFields.
-    QString field;
-    /// The settings key of the title.
-    QString titleKey;
-    /// English; the key of the string table.
+    /// By which everyone knows the column.
+    const char* identifier;
+    /// With which the column's keys in a layout begin.
+    const char* stem;
+    /// The settings key of its title, and the English title that is its default.
+    const char* titleKey;
     const char* defaultTitle;
-    /// The settings key of the visibility; the three time columns share one.
-    QString visibilityKey;
+    /// The settings key of its visibility; the three time columns share one.
+    const char* visibilityKey;
     bool isVisibleByDefault;
 };
 
-inline constexpr std::size_t eventColumnCount = 16;
+/// The sixteen columns in the order in which they are declared and layouts handle them.
+[[nodiscard]] std::span<const EventColumn, 16> eventColumns();
 
-/// All columns, in the order in which they are declared, stored in layouts and handled.
-[[nodiscard]] const std::array<EventColumn, eventColumnCount>& eventColumns();
+/// The column of an identifier, which must be one of the sixteen.
+[[nodiscard]] const EventColumn& eventColumn(const QString& identifier);
 
-[[nodiscard]] const EventColumn& eventColumn(EventColumnName name);
-
-/// Null when no column has that identifier.
-[[nodiscard]] const EventColumn* eventColumnWithIdentifier(const QString& identifier);
+/// Which time column is shown; any other stored value changes nothing.
+enum class TimeType { Hours = 1, Minutes = 2, Duration = 3 };
 
 } // namespace quillet

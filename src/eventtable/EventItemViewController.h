@@ -6,94 +6,81 @@
 #include "platform/InterfaceItems.h"
 #include "platform/ListController.h"
 #include "platform/LocaleFormats.h"
-#include "platform/Observation.h"
 #include "platform/SettingsStore.h"
 #include "platform/TableColumn.h"
 
 #include <QObject>
 
-#include <optional>
+#include <array>
 #include <vector>
 
 namespace quillet {
 
-/// Keeps the columns of the event table in step with the settings, and makes the three labels
-/// that stand with the table.
+/// Keeps the event table's columns in step with the settings, and makes the labels that stand
+/// with the table.
 class EventItemViewController : public QObject {
     Q_OBJECT
-    Q_PROPERTY(QString periodLabelString READ periodLabelString NOTIFY periodLabelStringChanged)
-    Q_PROPERTY(
-        QString dateRangeLabelString READ dateRangeLabelString NOTIFY dateRangeLabelStringChanged)
-    Q_PROPERTY(QString currencySymbol READ currencySymbol NOTIFY currencySymbolChanged)
-    Q_PROPERTY(QString hourlyRateLabelString READ hourlyRateLabelString NOTIFY
-                   hourlyRateLabelStringChanged)
 
 public:
-    /// One menu entry for each time type.
-    struct TimeTypeMenuItems {
+    /// The menu entries of one set, of which only the one of the time type is shown.
+    struct TimeMenuItems {
         MenuItem& hours;
         MenuItem& minutes;
         MenuItem& duration;
     };
-
     struct Collaborators {
         SettingsStore& settings;
-        /// Holds all sixteen columns; their headers follow the title keys without this class.
         ColumnTable& eventsTableView;
-        TimeTypeMenuItems menuItems;
-        /// The second set, for the text report.
-        TimeTypeMenuItems txtMenuItems;
+        TimeMenuItems menuItems;
+        /// The set that belongs to the text report.
+        TimeMenuItems txtMenuItems;
         ListController<CalendarRecord>& calendarsArrayController;
-        const LocaleFormats& formats;
-        /// Gregorian, in the system time zone.
         const CalendarArithmetic& calendar;
+        const LocaleFormats& formats;
     };
 
     explicit EventItemViewController(const Collaborators& collaborators);
+    ~EventItemViewController() override;
+    Q_DISABLE_COPY_MOVE(EventItemViewController)
 
     void awakeFromNib();
-    /// Reacts to a changed settings key, or to "selection" of the calendar list. The period and
-    /// date-range labels follow their keys only through this: whoever writes those keys calls it.
-    void observeValueForKeyPath(const QString& keyPath);
-    /// One visibility pass: applies visibility keys, time type and money display to the columns.
-    /// Writes the defaults of absent visibility keys and flips `hiddenColumnsChangedTrigger`.
+    /// Applies the visibility keys, the time type and money to the columns, creating keys that are
+    /// absent, and flips `hiddenColumnsChangedTrigger`.
     void setHiddenEventColumns();
-    /// Writes all default titles over what the user made of them.
+    /// Writes all default titles over the users' own.
     void resetAllColumnTitles();
     void setHourlyRateLabelString();
     void setPeriodLabel();
     void setDateRangeLabel();
-    /// Long style, without time; empty where there is no date.
-    [[nodiscard]] QString formatDate(std::optional<Instant> date) const;
-    /// Calendar days from `eventStartDate` to `eventEndDate`, both counted; 0 where one is absent.
-    [[nodiscard]] qint64 totalDays() const;
+    /// Whole days from `eventStartDate` to `eventEndDate`, both counted; 0 without both.
+    [[nodiscard]] int totalDays() const;
 
-    [[nodiscard]] const QString& periodLabelString() const { return periodLabelString_; }
-    [[nodiscard]] const QString& dateRangeLabelString() const { return dateRangeLabelString_; }
-    [[nodiscard]] const QString& currencySymbol() const { return currencySymbol_; }
-    [[nodiscard]] const QString& hourlyRateLabelString() const { return hourlyRateLabelString_; }
+    [[nodiscard]] QString hourlyRateLabelString() const { return hourlyRateLabel_; }
+    [[nodiscard]] QString periodLabelString() const { return periodLabel_; }
+    [[nodiscard]] QString dateRangeLabelString() const { return dateRangeLabel_; }
+    [[nodiscard]] QString currencySymbol() const { return currencySymbol_; }
 
 Q_SIGNALS:
+    void hourlyRateLabelStringChanged();
     void periodLabelStringChanged();
     void dateRangeLabelStringChanged();
-    void currencySymbolChanged();
-    void hourlyRateLabelStringChanged();
 
 private:
-    [[nodiscard]] TableColumn& column(EventColumnName name) const;
-    [[nodiscard]] bool isVisible(EventColumnName name);
-    void ensureVisibilityKey(EventColumnName name);
-    void followVisibilityKey(EventColumnName name);
-    void showTimeColumn();
-    void replaceTimeColumn(EventColumnName chosen, EventColumnName rival);
-    void registerForChanges();
+    void observe(const char* key, std::function<void()> reaction);
+    void visibilityChanged();
+    [[nodiscard]] TableColumn& column(const char* identifier);
+    void setHiddenByKey(const EventColumn& column);
+    void setHiddenTimeColumns();
+    void showOnly(TimeType timeType);
+    void replaceRival(const char* chosen, const char* rival);
+    void setHiddenMoneyColumns();
 
     Collaborators with_;
-    bool isCreatingKey_ = false;
-    QString periodLabelString_;
-    QString dateRangeLabelString_;
     QString currencySymbol_;
-    QString hourlyRateLabelString_;
+    QString hourlyRateLabel_;
+    QString periodLabel_;
+    QString dateRangeLabel_;
+    bool isPassRunning_ = false;
     std::vector<Observation> observations_;
 };
 

@@ -37,10 +37,9 @@ public:
     using Filter = std::function<bool(const Record&)>;
     /// Strict weak order: whether the left record stands before the right one.
     using Order = std::function<bool(const Record&, const Record&)>;
-    /// A strict weak order of two indexes of one content, and what makes it for a content. It can
-    /// compute once for each record what a comparison takes.
-    using IndexOrder = std::function<bool(std::size_t, std::size_t)>;
-    using PreparedOrder = std::function<IndexOrder(const std::vector<Record>&)>;
+    /// Puts rows, indexes into the content that stand in the content's order, into another order.
+    using Sorter =
+        std::function<void(const std::vector<Record>& content, std::vector<std::size_t>& rows)>;
     /// A name that two records share exactly when they are the same one at different times.
     using Identity = std::function<std::size_t(const Record&)>;
     using SameRecord = std::function<bool(const Record&, const Record&)>;
@@ -78,22 +77,19 @@ public:
     }
     [[nodiscard]] const QString& filterName() const { return filterName_; }
 
-    /// Sorts, stably on the content's own order; an empty order restores that one.
-    void setOrder(Order order) {
-        if (!order) {
-            setPreparedOrder({});
-            return;
-        }
-        setPreparedOrder([order = std::move(order)](const std::vector<Record>& content) {
-            return [&order, &content](std::size_t left, std::size_t right) {
-                return order(content[left], content[right]);
-            };
-        });
-    }
-    /// As setOrder(); the order is made anew whenever the list is arranged.
-    void setPreparedOrder(PreparedOrder order) {
-        order_ = std::move(order);
+    /// Sorts; an empty sorter restores the content's own order.
+    void setSorter(Sorter sorter) {
+        sorter_ = std::move(sorter);
         rearrangeKeepingSelection();
+    }
+    /// Sorts, stably on the content's own order.
+    void setOrder(Order order) {
+        setSorter([order = std::move(order)](const std::vector<Record>& content,
+                                             std::vector<std::size_t>& rows) {
+            std::ranges::stable_sort(rows, [&](std::size_t left, std::size_t right) {
+                return order(content[left], content[right]);
+            });
+        });
     }
 
     [[nodiscard]] std::size_t arrangedCount() const { return rows_.size(); }
@@ -135,8 +131,8 @@ private:
                 rows_.push_back(index);
             }
         }
-        if (order_) {
-            std::ranges::stable_sort(rows_, order_(*content_));
+        if (sorter_) {
+            sorter_(*content_, rows_);
         }
     }
 
@@ -183,7 +179,7 @@ private:
     Content content_ = std::make_shared<const std::vector<Record>>();
     QString filterName_;
     Filter filter_;
-    PreparedOrder order_;
+    Sorter sorter_;
     Identity hash_;
     SameRecord same_;
     std::vector<std::size_t> rows_;

@@ -70,7 +70,7 @@ TEST_F(ListControllerTest, FiltersAndSortsStably) {
     list.setFilter("not c", [](const Entry& entry) { return entry.text != "c"; });
     EXPECT_EQ(arranged(), "aab");
     list.setFilter({}, {});
-    list.setOrder({});
+    list.setSorter({});
     EXPECT_EQ(arranged(), "caba");
 }
 
