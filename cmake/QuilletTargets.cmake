@@ -49,6 +49,7 @@ function(quillet_tests folder)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS")
   string(REPLACE "/" "_" suffix ${folder})
   set(target ${suffix}_tests)
+  set_property(GLOBAL APPEND PROPERTY quillet_test_folders ${folder})
   file(GLOB sources CONFIGURE_DEPENDS
     ${CMAKE_SOURCE_DIR}/tests/${folder}/*.cpp ${CMAKE_SOURCE_DIR}/tests/${folder}/*.h)
   add_executable(${target} ${sources})
@@ -59,4 +60,19 @@ function(quillet_tests folder)
   target_precompile_headers(${target} REUSE_FROM quillet_test_support)
   gtest_discover_tests(${target} TEST_PREFIX "${folder}/" DISCOVERY_MODE PRE_TEST
     PROPERTIES TIMEOUT 120)
+endfunction()
+
+# quillet_require_registered_tests()
+#
+# Stops the configuration when a folder holds a test that no quillet_tests() call above named.
+function(quillet_require_registered_tests)
+  file(GLOB_RECURSE tests CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR}/tests
+    ${CMAKE_SOURCE_DIR}/tests/*Test.cpp)
+  get_property(folders GLOBAL PROPERTY quillet_test_folders)
+  foreach(test IN LISTS tests)
+    cmake_path(GET test PARENT_PATH folder)
+    if(NOT folder IN_LIST folders)
+      message(FATAL_ERROR "tests/${test} is not registered: add quillet_tests(${folder})")
+    endif()
+  endforeach()
 endfunction()
