@@ -1,0 +1,94 @@
+"""Finding and using the program's controls as a screen reader does, waiting for conditions only."""
+
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+PATIENCE_SECONDS = 30
+ROLE = Atspi.Role
+
+
+class NotSeen(AssertionError):
+    """A condition that the window never met."""
+
+
+def wait_for(what, condition, seconds=PATIENCE_SECONDS):
+    """The condition's first true value; controls that vanish while being looked at are looked for
+    again."""
+    deadline = time.monotonic() + seconds
+    while True:
+        try:
+            if value := condition():
+                return value
+        except GLib.Error:
+            pass
+        if time.monotonic() > deadline:
+            raise NotSeen(f"not within {seconds} seconds: {what}")
+        time.sleep(0.02)
+
+
+def children(control):
+    return [child for index in range(control.get_child_count())
+            if (child := control.get_child_at_index(index)) is not None]
+
+
+def is_table(control):
+    return control.get_role() in (ROLE.TABLE, ROLE.TREE, ROLE.TREE_TABLE, ROLE.LIST)
+
+
+def below(control):
+    """The control and everything in it; a table's cells are read through the table instead."""
+    yield control
+    if not is_table(control):
+        for child in children(control):
+            yield from below(child)
+
+
+def has_state(control, state):
+    return control.get_state_set().contains(state)
+
+
+def application(process_identifier):
+    desktop = Atspi.get_desktop(0)
+    desktop.clear_cache()
+    for child in children(desktop):
+        if child.get_process_id() == process_identifier:
+            child.set_cache_mask(Atspi.Cache.NONE)
+            return child
+    return None
+
+
+def press(control):
+    """The control's own first action: what Space or a click does."""
+    action = control.get_action_iface()
+    names = [action.get_action_name(index) for index in range(action.get_n_actions())]
+    for name in ("Press", "Toggle", "press", "toggle"):
+        if name in names:
+            action.do_action(names.index(name))
+            return
+    raise AssertionError(f'"{control.get_name()}" can only {names}')
+
+
+def type_text(control, text):
+    control.get_editable_text_iface().set_text_contents(text)
+
+
+def text_of(control):
+    text = control.get_text_iface()
+    return text.get_text(0, text.get_character_count())
+
+
+def row_names(table):
+    """The texts of a table's cells, row by row."""
+    cells = table.get_table_iface()
+    columns = range(cells.get_n_columns())
+    return [[cells.get_accessible_at(row, column).get_name() for column in columns]
+            for row in range(cells.get_n_rows())]
+
+
+def column_titles(table):
+    cells = table.get_table_iface()
+    return [cells.get_column_header(column).get_name() for column in range(cells.get_n_columns())]
