@@ -1,0 +1,61 @@
+#pragma once
+
+#include "backends/combined/CalendarAccess.h"
+#include "platform/EventStore.h"
+#include "platform/ObserverList.h"
+
+#include <QObject>
+#include <QTimeZone>
+
+#include <expected>
+#include <memory>
+
+namespace quillet {
+
+class FolderLoader;
+
+/// A folder of calendars: each of its sub-folders (with one event to a file) and each .ics file in
+/// it, links followed, is one calendar. Files are only read. They are read in the background once
+/// access is granted, and singly again when they change.
+class IcsFolderStore final : public EventStore {
+public:
+    /// The root folder is created when it is missing. Floating times and whole days are those of
+    /// the zone. `access` must outlive the store.
+    IcsFolderStore(QString rootPath, CalendarAccess& access,
+                   const QTimeZone& zone = QTimeZone::systemTimeZone());
+    IcsFolderStore(const IcsFolderStore&) = delete;
+    IcsFolderStore& operator=(const IcsFolderStore&) = delete;
+    ~IcsFolderStore() override;
+
+    /// The user's answer; Restricted when the root folder cannot be read or created.
+    [[nodiscard]] AuthorizationStatus authorizationStatus() const override;
+    void requestAccess(AccessCompletion completion) override;
+    /// Sorted by the names of their files. Known as soon as access is granted, before any event
+    /// is. A calendar whose link leads nowhere at the moment stays listed.
+    [[nodiscard]] CalendarList calendars() const override;
+    /// Waits for the first load to finish; never call it on the main thread before that.
+    [[nodiscard]] EventList events(const CalendarList& calendars, Instant from,
+                                   Instant to) const override;
+    [[nodiscard]] Observation observeChanges(std::function<void()> callback) override;
+    [[nodiscard]] std::vector<StoreProblem> problems() const override;
+
+    /// Whether the first load is still running. A change notice tells when it has ended.
+    [[nodiscard]] bool isLoading() const;
+    /// Links a folder or an .ics file into the root folder; the change notice follows. The error is
+    /// a sentence for the user.
+    [[nodiscard]] std::expected<void, QString> addCalendar(const QString& path);
+
+private:
+    void startLoadingIfAllowed();
+
+    QString rootPath_;
+    CalendarAccess& access_;
+    QTimeZone zone_;
+    ObserverList<> observers_;
+    /// Receives the loader's notices on the main thread.
+    QObject mainContext_;
+    std::unique_ptr<FolderLoader> loader_;
+    Observation accessObservation_;
+};
+
+} // namespace quillet
