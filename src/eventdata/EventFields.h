@@ -34,6 +34,7 @@ public:
 
     [[nodiscard]] const BillingSettings& billing() const { return billing_.current(); }
     [[nodiscard]] const LocaleFormats& formats() const { return formats_; }
+    [[nodiscard]] const CalendarArithmetic& gregorian() const { return gregorian_; }
 
     /// `endDate` cut to the whole minute, less one second: the last second of an event that ends
     /// on the minute. So an all-day event ends on its last day.

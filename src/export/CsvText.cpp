@@ -1,8 +1,30 @@
 #include "export/CsvText.h"
 
-#include "eventdata/EventFigures.h"
+#include <QHash>
 
 namespace quillet {
+
+namespace {
+
+using DerivedText = QString (EventTexts::*)();
+
+/// Null for a column that shows none of these.
+DerivedText derivedText(const QString& identifier) {
+    static const QHash<QString, DerivedText> texts{{"date", &EventTexts::startDate},
+                                                   {"endDate", &EventTexts::adjustedEndDate},
+                                                   {"start", &EventTexts::startTime},
+                                                   {"end", &EventTexts::endTime},
+                                                   {"weekday", &EventTexts::startWeekday},
+                                                   {"endWeekday", &EventTexts::endWeekday},
+                                                   {"hours", &EventTexts::hours},
+                                                   {"minutes", &EventTexts::minutes},
+                                                   {"duration", &EventTexts::duration},
+                                                   {"cost", &EventTexts::cost},
+                                                   {"rate", &EventTexts::rate}};
+    return texts.value(identifier, nullptr);
+}
+
+} // namespace
 
 QChar csvSeparator(const QString& decimalSeparator) {
     return decimalSeparator == u"," ? u';' : u',';
@@ -12,7 +34,7 @@ CsvText::CsvText(std::vector<ExportColumn> columns, const CsvSettings& settings,
                  const EventFields& fields)
     : columns_(std::move(columns))
     , settings_(settings)
-    , fields_(fields)
+    , texts_(fields.billing(), fields.formats(), fields.gregorian())
     , separator_(csvSeparator(fields.formats().decimalSeparator())) {
     for (const ExportColumn& column : columns_) {
         if (auto appender = appenderFor(column.identifier)) {
@@ -32,22 +54,19 @@ void CsvText::appendHeader() {
 }
 
 void CsvText::appendEvent(const Event& event) {
+    texts_.setEvent(event);
     if (settings_.includesIdentifier) {
         appendQuoted(event.details->eventIdentifier);
     }
     for (const Append& append : appenders_) {
-        append(event);
+        append(*event.details);
     }
     endRecord();
 }
 
-CsvText::Append CsvText::quoted(std::function<QString(const Event&)> read) {
-    return [this, read = std::move(read)](const Event& event) { appendQuoted(read(event)); };
-}
-
-CsvText::Append CsvText::freeText(bool isQuoted, std::function<QString(const Event&)> read) {
-    return [this, isQuoted, read = std::move(read)](const Event& event) {
-        const QString value = read(event);
+CsvText::Append CsvText::freeText(bool isQuoted, QString EventDetails::* text) {
+    return [this, isQuoted, text](const EventDetails& details) {
+        const QString& value = details.*text;
         if (value.isNull()) {
             text_ += separator_;
         } else {
@@ -57,91 +76,55 @@ CsvText::Append CsvText::freeText(bool isQuoted, std::function<QString(const Eve
 }
 
 CsvText::Append CsvText::appenderFor(const QString& identifier) {
-    const LocaleFormats& formats = fields_.formats();
-    const EventFields& fields = fields_;
     if (identifier == u"title") {
-        return freeText(settings_.quotesTitle,
-                        [](const Event& event) { return event.details->title; });
+        return freeText(settings_.quotesTitle, &EventDetails::title);
     }
     if (identifier == u"notes") {
-        return freeText(settings_.quotesNotes,
-                        [](const Event& event) { return event.details->notes; });
+        return freeText(settings_.quotesNotes, &EventDetails::notes);
     }
     if (identifier == u"location") {
-        return freeText(settings_.quotesLocation,
-                        [](const Event& event) { return event.details->location; });
+        return freeText(settings_.quotesLocation, &EventDetails::location);
     }
     if (identifier == u"calendar") {
-        return [this](const Event& event) {
-            appendFree(event.details->calendar->title, settings_.quotesCalendar);
+        return [this](const EventDetails& details) {
+            appendFree(details.calendar->title, settings_.quotesCalendar);
         };
     }
     if (identifier == u"url") {
-        return [this](const Event& event) {
-            if (event.details->url.isNull()) {
+        return [this](const EventDetails& details) {
+            if (details.url.isNull()) {
                 text_ += separator_;
             } else {
-                appendQuoted(event.details->url);
+                appendQuoted(details.url);
             }
         };
     }
-    if (identifier == u"date") {
-        return quoted(
-            [&formats](const Event& event) { return formats.shortDate(event.startDate); });
-    }
-    if (identifier == u"endDate") {
-        return quoted(
-            [&](const Event& event) { return formats.shortDate(fields.adjustedEndDate(event)); });
-    }
-    if (identifier == u"hours") {
-        return quoted([&](const Event& event) {
-            return formats.number(figures(event, fields.billing()).hours);
-        });
-    }
-    if (identifier == u"minutes") {
-        return quoted([&](const Event& event) {
-            return formats.number(Decimal::fromInteger(billableMinutes(event, fields.billing())));
-        });
-    }
-    if (identifier == u"cost") {
-        return quoted([&](const Event& event) {
-            const auto cost = figures(event, fields.billing()).cost;
-            return cost ? formats.currency(*cost) : QString();
-        });
-    }
-    if (identifier == u"rate") {
-        return quoted([&](const Event& event) {
-            return formats.currency(billableRate(event, fields.billing()));
-        });
-    }
-    static const QHash<QString, QString> textFields{{"duration", "duration"},
-                                                    {"start", "startTime"},
-                                                    {"end", "endTime"},
-                                                    {"weekday", "startWeekday"},
-                                                    {"endWeekday", "endWeekday"}};
-    if (const QString key = textFields.value(identifier); !key.isEmpty()) {
-        return quoted([&fields, key](const Event& event) {
-            return fields.valueForKey(event, key).toString();
-        });
+    if (const DerivedText derived = derivedText(identifier)) {
+        return [this, derived](const EventDetails&) { appendQuoted((texts_.*derived)()); };
     }
     return {};
 }
 
 void CsvText::appendQuoted(const QString& value) {
-    text_ += u'"' + value + u'"' + separator_;
+    text_ += u'"';
+    text_ += value;
+    text_ += u'"';
+    text_ += separator_;
 }
 
-void CsvText::appendFree(QString value, bool isQuoted) {
+void CsvText::appendFree(const QString& value, bool isQuoted) {
+    QString written = value;
     if (isQuoted) {
-        value.replace(u'"', QStringLiteral("\"\""));
+        written.replace(QStringLiteral("\""), QStringLiteral("\"\""));
     }
     if (settings_.removesReturns) {
-        value.replace(u'\n', u' ');
+        written.replace(u'\n', u' ');
     }
     if (isQuoted) {
-        appendQuoted(value);
+        appendQuoted(written);
     } else {
-        text_ += value + separator_;
+        text_ += written;
+        text_ += separator_;
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "eventdata/EventFields.h"
+#include "export/EventTexts.h"
 #include "platform/Event.h"
 #include "platform/LocaleFormats.h"
 
@@ -33,29 +34,30 @@ struct CsvSettings {
 
 /// Writes events as CSV: an optional header record, then one record an event, each ended by a line
 /// feed. Only the four free texts (title, notes, location, calendar) are ever escaped or lose their
-/// line feeds; every other value is quoted as it is, a missing one is empty.
+/// line feeds; every other value is quoted as it is, a missing one is empty. Settings and locale
+/// must stay as they are while it is used.
 class CsvText {
 public:
     CsvText(std::vector<ExportColumn> columns, const CsvSettings& settings,
             const EventFields& fields);
+    Q_DISABLE_COPY_MOVE(CsvText)
 
     void appendHeader();
     void appendEvent(const Event& event);
     [[nodiscard]] const QString& text() const { return text_; }
 
 private:
-    using Append = std::function<void(const Event&)>;
+    using Append = std::function<void(const EventDetails&)>;
 
     [[nodiscard]] Append appenderFor(const QString& identifier);
-    [[nodiscard]] Append freeText(bool isQuoted, std::function<QString(const Event&)> read);
-    [[nodiscard]] Append quoted(std::function<QString(const Event&)> read);
+    [[nodiscard]] Append freeText(bool isQuoted, QString EventDetails::* text);
     void appendQuoted(const QString& value);
-    void appendFree(QString value, bool isQuoted);
+    void appendFree(const QString& value, bool isQuoted);
     void endRecord();
 
     std::vector<ExportColumn> columns_;
     CsvSettings settings_;
-    const EventFields& fields_;
+    EventTexts texts_;
     QChar separator_;
     std::vector<Append> appenders_;
     QString text_;
