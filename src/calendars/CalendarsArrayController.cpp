@@ -140,10 +140,11 @@ void CalendarsArrayController::moneySettingChanged() {
 }
 
 void CalendarsArrayController::calendarTableViewClicked(ControlKey controlKey) {
-    if (controlKey == ControlKey::Up || selectedRows().empty()) {
+    if (controlKey == ControlKey::Up) {
         return;
     }
-    const bool isSelected = !arranged(selectedRows().front()).isSelected;
+    // No selected record reads as one that is not ticked.
+    const bool isSelected = selectedRows().empty() || !arranged(selectedRows().front()).isSelected;
     std::vector<CalendarRecord> records = *content();
     for (std::size_t row = 0; row < arrangedCount(); ++row) {
         records[contentIndex(row)].isSelected = isSelected;
@@ -182,10 +183,10 @@ void CalendarsArrayController::reload() {
 }
 
 void CalendarsArrayController::writeBack(std::vector<CalendarRecord> records) {
-    const QVariantList values = valuesFrom(records);
     setContent(std::move(records));
     isWritingBack_ = true;
-    settings_.setObject(calendarsKey, values);
+    // From the content: whoever was told of the change may have changed the list further.
+    settings_.setObject(calendarsKey, valuesFrom(*content()));
     isWritingBack_ = false;
 }
 

@@ -143,6 +143,28 @@ TEST_F(CalendarsArrayControllerTest, AControlClickClearsOrTicksAll) {
     }
 }
 
+TEST_F(CalendarsArrayControllerTest, AControlClickWithoutASelectedRowTicksAll) {
+    wakeWithAccess();
+    controller.setSelected(1, false);
+    controller.setSelectedRows({});
+    controller.calendarTableViewClicked(CalendarsArrayController::ControlKey::Held);
+    for (const CalendarRecord& record : stored()) {
+        EXPECT_TRUE(record.isSelected);
+    }
+}
+
+TEST_F(CalendarsArrayControllerTest, AControlClickReachesOnlyTheCalendarsThatAFilterLeaves) {
+    wakeWithAccess();
+    controller.setFilter("not Home", [](const CalendarRecord& record) {
+        return record.calendarIdentifier != QStringLiteral("h");
+    });
+    controller.setSelectedRows({0});
+    controller.calendarTableViewClicked(CalendarsArrayController::ControlKey::Held);
+    for (const CalendarRecord& record : stored()) {
+        EXPECT_EQ(record.isSelected, record.calendarIdentifier == QStringLiteral("h"));
+    }
+}
+
 TEST_F(CalendarsArrayControllerTest, WhileTheGroupsSheetIsOpenSettingsDoNotSync) {
     wakeWithAccess();
     settings.setObject("isCalendarGroupsSheetActive", true);

@@ -8,6 +8,7 @@
 #include "platform/OneShotTimer.h"
 #include "platform/SavePanel.h"
 #include "platform/SerialQueue.h"
+#include "platform/Sheet.h"
 #include "platform/SoftwareUpdater.h"
 #include "platform/TableColumn.h"
 #include "platform/TaskLauncher.h"
@@ -89,6 +90,17 @@ public:
     std::vector<SavePanelRequest> requests;
     Completion pending;
     std::vector<int> stopCodes;
+};
+
+/// Remembers what was asked of it, in order.
+class FakeSheet final : public Sheet {
+public:
+    void begin() override { calls.append(QStringLiteral("begin")); }
+    void commitEditing() override { calls.append(QStringLiteral("commitEditing")); }
+    void end() override { calls.append(QStringLiteral("end")); }
+    void orderOut() override { calls.append(QStringLiteral("orderOut")); }
+
+    QStringList calls;
 };
 
 class FakeWorkspace final : public Workspace {

@@ -1,0 +1,93 @@
+#include "calendars/CalendarGroupsArraySelectedCalendarsArrayController.h"
+
+namespace quillet {
+
+namespace {
+
+const QString calendarsKey = QStringLiteral("calendars");
+const QString sheetKey = QStringLiteral("isCalendarGroupsSheetActive");
+
+} // namespace
+
+CalendarGroupsArraySelectedCalendarsArrayController::
+    CalendarGroupsArraySelectedCalendarsArrayController(
+        SettingsStore& settings, CalendarGroupsArrayController& calendarGroupsArrayController)
+    : ListController(
+          [](const CalendarGroupEntry& entry) { return qHash(entry.calendarIdentifier); },
+          [](const CalendarGroupEntry& left, const CalendarGroupEntry& right) {
+              return left.calendarIdentifier == right.calendarIdentifier;
+          })
+    , settings_(settings)
+    , groups_(calendarGroupsArrayController) {}
+
+void CalendarGroupsArraySelectedCalendarsArrayController::awakeFromNib() {
+    setIfAbsent(settings_, sheetKey, false);
+    setOrder([](const CalendarGroupEntry& left, const CalendarGroupEntry& right) {
+        return left.title < right.title;
+    });
+    observations_.push_back(settings_.observe(calendarsKey, [this] { syncWhileSheetIsOpen(); }));
+    connect(&groups_, &ListControllerNotices::selectedObjectsChanged, this,
+            [this] { selectedGroupChanged(); });
+    shown_ = {groups_.selectionIndex(), groups_.arrangedCount()};
+    reload();
+    syncCalendars();
+}
+
+void CalendarGroupsArraySelectedCalendarsArrayController::syncCalendars() {
+    if (groups_.selectionIndex() == 0) {
+        return;
+    }
+    isCalendarsSyncing_ = true;
+    setIfAbsent(settings_, calendarsKey, QVariantList());
+    CalendarGroupEntries entries = syncedEntries(*content(), storedCalendarRecords(settings_));
+    if (entries != *content()) {
+        writeBack(std::move(entries));
+    }
+    isCalendarsSyncing_ = false;
+}
+
+void CalendarGroupsArraySelectedCalendarsArrayController::setSelected(std::size_t row,
+                                                                      bool isSelected) {
+    CalendarGroupEntries entries = *content();
+    const QString identifier = arranged(row).calendarIdentifier;
+    for (CalendarGroupEntry& entry : entries) {
+        if (entry.calendarIdentifier == identifier) {
+            entry.isSelected = isSelected;
+        }
+    }
+    writeBack(std::move(entries));
+}
+
+void CalendarGroupsArraySelectedCalendarsArrayController::selectedGroupChanged() {
+    if (isWritingBack_) {
+        return;
+    }
+    reload();
+    // The groups announce their selection also when only a name or a tick was edited. That must
+    // not sync: syncing is how further missing calendars come in.
+    const std::pair shown(groups_.selectionIndex(), groups_.arrangedCount());
+    if (shown != std::exchange(shown_, shown)) {
+        syncWhileSheetIsOpen();
+    }
+}
+
+void CalendarGroupsArraySelectedCalendarsArrayController::syncWhileSheetIsOpen() {
+    if (!isCalendarsSyncing_ && boolForKey(settings_, sheetKey)) {
+        syncCalendars();
+    }
+}
+
+void CalendarGroupsArraySelectedCalendarsArrayController::reload() {
+    setContent(groups_.arrangedCount() == 0
+                   ? CalendarGroupEntries()
+                   : groups_.arranged(groups_.selectionIndex()).calendarGroupArray);
+}
+
+void CalendarGroupsArraySelectedCalendarsArrayController::writeBack(CalendarGroupEntries entries) {
+    isWritingBack_ = true;
+    groups_.setCalendarGroupArray(groups_.selectionIndex(), entries);
+    isWritingBack_ = false;
+    setContent(std::move(entries));
+}
+
+} // namespace quillet
