@@ -139,6 +139,7 @@ private:
     void rearrangeKeepingSelection() {
         Q_EMIT arrangedObjectsWillChange();
         std::vector<std::size_t> selectedIndexes;
+        selectedIndexes.reserve(selectedRows_.size());
         for (const std::size_t row : selectedRows_) {
             selectedIndexes.push_back(rows_[row]);
         }

@@ -29,7 +29,7 @@ public:
         });
     }
 
-    void notify(Arguments... arguments) const {
+    void notify(const Arguments&... arguments) const {
         const auto snapshot = *entries_;
         for (const auto& entry : snapshot) {
             if (*entry) {

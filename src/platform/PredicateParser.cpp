@@ -121,7 +121,10 @@ QVariant PredicateParser::quotedText() {
             rest_ = rest_.sliced(position + 1);
             return text;
         }
-        if (rest_[position] == u'\\' && ++position == rest_.size()) {
+        if (rest_[position] == u'\\') {
+            ++position;
+        }
+        if (position == rest_.size()) {
             break;
         }
         text.append(rest_[position]);
