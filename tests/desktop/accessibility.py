@@ -1,5 +1,6 @@
 """Finding and using the program's controls as a screen reader does, waiting for conditions only."""
 
+import subprocess
 import time
 
 import gi
@@ -81,11 +82,24 @@ def text_of(control):
     return text.get_text(0, text.get_character_count())
 
 
+def press_key(name):
+    """A key typed into whatever has the focus."""
+    subprocess.run(["xdotool", "key", name], check=True)
+
+
+def cell(table, row, column):
+    return table.get_table_iface().get_accessible_at(row, column)
+
+
+def cell_names(table, column):
+    return [cell(table, row, column).get_name()
+            for row in range(table.get_table_iface().get_n_rows())]
+
+
 def row_names(table):
     """The texts of a table's cells, row by row."""
     cells = table.get_table_iface()
-    columns = range(cells.get_n_columns())
-    return [[cells.get_accessible_at(row, column).get_name() for column in columns]
+    return [[cell(table, row, column).get_name() for column in range(cells.get_n_columns())]
             for row in range(cells.get_n_rows())]
 
 

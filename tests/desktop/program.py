@@ -5,10 +5,12 @@ import subprocess
 import sys
 from pathlib import Path
 
-from accessibility import (ROLE, Atspi, NotSeen, application, below, children, has_state, press,
-                           row_names, type_text, wait_for)
+from accessibility import (ROLE, Atspi, application, below, cell, cell_names, children,
+                           column_titles, has_state, press, press_key, row_names, type_text,
+                           wait_for)
 
 CALENDARS = Path(os.environ["XDG_DATA_HOME"]) / "calendars"
+LOG = Path(os.environ["HOME"]) / "log"
 SETTINGS = Path(os.environ["XDG_CONFIG_HOME"]) / "quillet" / "quillet.json"
 
 
@@ -27,89 +29,146 @@ def write_event(folder, uid, title, start, end, extra=()):
 
 
 class Quillet:
-    """with Quillet() as program: … starts the program and ends it; what it logged is in `log`."""
+    """with Quillet() as program: … starts the program, and quits it as a user does. What it wrote
+    to its standard output and error is in `log`."""
 
     def __init__(self):
-        self.log = ""
         self._process = None
+        self._application = None
+
+    @property
+    def log(self):
+        return LOG.read_text(errors="replace")
 
     def __enter__(self):
-        self._process = subprocess.Popen([sys.argv[1]], stdout=subprocess.PIPE,
-                                         stderr=subprocess.STDOUT, text=True)
+        with LOG.open("w") as log:
+            self._process = subprocess.Popen([sys.argv[1]], stdout=log, stderr=log)
         try:
-            self._application = wait_for("the program on the accessibility bus", self._find)
-        except NotSeen:
-            self._end(is_failing=True)
+            self._application = wait_for("the program on the accessibility bus", self._started)
+        except AssertionError:
+            self._give_up()
             raise
         return self
 
     def __exit__(self, kind, value, trace):
-        self._end(is_failing=kind is not None)
-        if kind is None and self._process.returncode != 0:
-            raise AssertionError(f"the program ended with {self._process.returncode}:\n{self.log}")
-
-    def _find(self):
-        if self._process.poll() is not None:
-            raise AssertionError(f"the program ended at its start:\n{self._process.stdout.read()}")
-        return application(self._process.pid)
-
-    def _end(self, is_failing):
-        if is_failing:
-            self._print_what_is_shown()
-            self._process.kill()
-        elif self._process.poll() is None:
-            press(self.control("Quit", {ROLE.MENU_ITEM}, is_shown=False))
+        if kind is not None:
+            self._give_up()
+            return
         try:
-            self.log = self._process.communicate(timeout=30)[0]
-        except subprocess.TimeoutExpired:
-            self._process.kill()
-            self.log = self._process.communicate()[0]
-            raise AssertionError(f"the program did not quit:\n{self.log}") from None
-        if is_failing:
-            print(self.log, file=sys.stderr)
+            self.press_menu_item("Quit")
+            code = self._process.wait(timeout=30)
+        except (AssertionError, subprocess.TimeoutExpired):
+            self._give_up()
+            raise
+        if code != 0:
+            raise AssertionError(f"the program ended with {code}:\n{self.log}")
 
-    def _print_what_is_shown(self):
+    def _started(self):
+        if self._process.poll() is not None:
+            raise AssertionError("the program ended at its start")
         found = application(self._process.pid)
-        for window in children(found) if found else []:
-            for control in below(window):
-                if has_state(control, Atspi.StateType.SHOWING):
-                    print(control.get_role_name(), repr(control.get_name()), file=sys.stderr)
+        return found if found and children(found) else None
 
-    def find(self, name, roles=None, is_shown=True):
-        """The control of that name, or nothing."""
+    def _give_up(self):
+        for control in self._controls() if self._application else []:
+            if has_state(control, Atspi.StateType.SHOWING):
+                print(control.get_role_name(), repr(control.get_name()), file=sys.stderr)
+        self._process.kill()
+        self._process.wait()
+        print(self.log, file=sys.stderr)
+
+    def _controls(self):
         for window in children(self._application):
-            for control in below(window):
-                if (control.get_name() == name and (roles is None or control.get_role() in roles)
-                        and (not is_shown or has_state(control, Atspi.StateType.SHOWING))):
-                    return control
+            yield from below(window)
+
+    def find(self, name, roles=None):
+        """The shown control of that name, or nothing."""
+        for control in self._controls():
+            if (control.get_name() == name and (roles is None or control.get_role() in roles)
+                    and has_state(control, Atspi.StateType.SHOWING)):
+                return control
         return None
 
-    def control(self, name, roles=None, is_shown=True):
-        return wait_for(f'a control "{name}"', lambda: self.find(name, roles, is_shown))
+    def control(self, name, roles=None):
+        return wait_for(f'a control "{name}"', lambda: self.find(name, roles))
 
-    def press(self, name, roles=None):
-        press(self.control(name, roles))
+    def press(self, name):
+        """A button of any kind."""
+        press(self.control(name, {ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON, ROLE.RADIO_BUTTON,
+                                  ROLE.CHECK_BOX, ROLE.BUTTON_MENU}))
+
+    def press_menu_item(self, name):
+        items = {ROLE.MENU_ITEM, ROLE.CHECK_MENU_ITEM, ROLE.RADIO_MENU_ITEM}
+        press(wait_for(f'a menu item "{name}"', lambda: next(
+            (control for control in self._controls()
+             if control.get_role() in items and control.get_name() == name), None)))
 
     def texts(self):
         """Every name that is shown outside tables."""
-        return [control.get_name() for window in children(self._application)
-                for control in below(window)
+        return [control.get_name() for control in self._controls()
                 if control.get_name() and has_state(control, Atspi.StateType.SHOWING)]
 
-    def wait_for_text(self, *parts):
-        return wait_for(f"a text with {parts}", lambda: [
-            text for text in self.texts() if all(part in text for part in parts)])[0]
+    def wait_for_text(self, part):
+        wait_for(f'a text with "{part}"', lambda: any(part in text for text in self.texts()))
+
+    def wait_for_log(self, part):
+        wait_for(f'"{part}" in the log', lambda: part in self.log)
+
+    def dismiss_message(self):
+        self.press("OK")
+
+    def type_and_confirm(self, field, text):
+        control = self.control(field, {ROLE.TEXT})
+        control.get_component_iface().grab_focus()
+        wait_for(f'"{field}" to have the focus',
+                 lambda: has_state(control, Atspi.StateType.FOCUSED))
+        type_text(control, text)
+        press_key("Return")
 
     def rows(self, table):
-        return row_names(self.control(table))
+        return row_names(self.control(table, {ROLE.TABLE, ROLE.TREE}))
 
-    def save(self, toolbar_button, path):
+    def column_titles(self, table):
+        return column_titles(self.control(table, {ROLE.TABLE, ROLE.TREE}))
+
+    def _events(self):
+        return self.control("Events", {ROLE.TABLE, ROLE.TREE})
+
+    def _titles(self):
+        events = self._events()
+        return cell_names(events, column_titles(events).index("Title"))
+
+    def wait_for_titles(self, titles, seconds=30):
+        """Until the table shows just these events, in this order."""
+        wait_for(f"the events {titles}", lambda: self.find("Events") and self._titles() == titles,
+                 seconds)
+
+    def select_row(self, row):
+        self._events().get_table_iface().add_row_selection(row)
+
+    def selected_titles(self):
+        cells = self._events().get_table_iface()
+        return [title for row, title in enumerate(self._titles()) if cells.is_row_selected(row)]
+
+    def calendar_titles(self):
+        return [" ".join(row).strip() for row in self.rows("Calendars")]
+
+    def wait_for_calendars(self, titles):
+        wait_for(f"the calendars {titles}", lambda: self.calendar_titles() == titles)
+
+    def toggle_calendar(self, title):
+        row = self.calendar_titles().index(title)
+        press(cell(self.control("Calendars"), row, 0))
+
+    def save(self, button, path):
         """Through the save dialog, typing the path."""
-        self.press(toolbar_button)
+        self.press(button)
         dialog = wait_for("the save dialog", self._file_dialog)
-        field = next(control for control in below(dialog) if control.get_role() == ROLE.TEXT)
+        field = next(control for control in below(dialog)
+                     if control.get_role() == ROLE.TEXT
+                     and has_state(control, Atspi.StateType.EDITABLE))
         type_text(field, str(path))
-        press(next(control for control in below(dialog) if control.get_name() in ("Save", "&Save")))
+        press(next(control for control in below(dialog) if control.get_name() == "Save"))
         wait_for("the save dialog to close", lambda: not self._file_dialog())
 
     def _file_dialog(self):
