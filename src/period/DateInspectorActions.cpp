@@ -191,8 +191,10 @@ void DateInspectorController::pickStartDate(Instant day) {
 }
 
 void DateInspectorController::pickEndDate(Instant day) {
-    becomeCustom();
+    // Before the kind, whose action asks for a fetch: while that one runs, the request of the
+    // picker's own action is dropped, so the first must already find the new end.
     setEndDate(day);
+    becomeCustom();
     endDateControlClicked();
 }
 

@@ -80,6 +80,7 @@ public:
     void choosePeriodKind(PeriodKind kind);
     void pickStartDate(Instant day);
     /// The end keeps its 23:59:59, and a kind that becomes Custom is applied as if it was chosen.
+    /// Whoever hears `datesChangedTrigger` finds both dates as they will stay.
     void pickEndDate(Instant day);
     void switchEndDateLock();
     /// @}

@@ -1,5 +1,8 @@
 #include "period/PeriodArithmetic.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace quillet {
 
 Instant PeriodArithmetic::firstSecondOfDayFromDate(Instant date) const {
@@ -54,7 +57,9 @@ std::int32_t PeriodArithmetic::totalDaysFromStartDate(Instant start, Instant end
     // Half a day absorbs the hours that changes of the clock add or take.
     const double seconds =
         secondsBetween(gregorian_.startOfDay(start), gregorian_.startOfDay(end)) + 43'200.0;
-    return static_cast<std::int32_t>(seconds / 86'400.0 + 1.0);
+    using Limits = std::numeric_limits<std::int32_t>;
+    return static_cast<std::int32_t>(
+        std::clamp(seconds / 86'400.0 + 1.0, double{Limits::min()}, double{Limits::max()}));
 }
 
 } // namespace quillet

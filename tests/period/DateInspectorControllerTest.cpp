@@ -1,13 +1,8 @@
 #include "period/DateInspectorController.h"
 
-#include "backends/icu/IcuCalendarArithmetic.h"
-#include "backends/icu/IcuLocaleFormats.h"
-#include "support/Fakes.h"
-#include "support/MemorySettings.h"
+#include "period/DateInspectorFixture.h"
 
 #include <gtest/gtest.h>
-
-#include <memory>
 
 namespace quillet {
 
@@ -15,58 +10,7 @@ namespace {
 
 using test::utc;
 
-class DateInspectorControllerTest : public testing::Test {
-protected:
-    void SetUp() override { useZone("UTC", "en_GB"); }
-
-    /// Starts the program anew in another zone and locale; settings and clock stay.
-    void useZone(const char* zone, const char* locale) {
-        const QString localeName = QString::fromLatin1(locale);
-        const QString zoneName = QString::fromLatin1(zone);
-        controller.reset();
-        gregorian = std::make_unique<IcuCalendarArithmetic>(localeName, zoneName,
-                                                            CalendarSystem::Gregorian);
-        current =
-            std::make_unique<IcuCalendarArithmetic>(localeName, zoneName, CalendarSystem::OfLocale);
-        formats =
-            std::make_unique<IcuLocaleFormats>(LocaleNames{"en_US", "en_US", "en_US"}, zoneName);
-        controller =
-            std::make_unique<DateInspectorController>(DateInspectorController::Collaborators{
-                settings, clock, *gregorian, *current, *formats});
-        settings.setObject("isCalendarAccessGranted", true);
-        controller->awakeFromNib();
-    }
-    std::string day(Instant instant) const {
-        const DateComponents fields = gregorian->components(instant);
-        char text[32];
-        (void)std::snprintf(text, sizeof text, "%04d-%02d-%02d %02d:%02d:%02d", fields.year,
-                            fields.month, fields.day, fields.hour, fields.minute, fields.second);
-        return text;
-    }
-    /// The published period, in local time.
-    std::string period() const {
-        return day(*dateForKey(settings, "filterStartDate")) + " - " +
-               day(*dateForKey(settings, "filterEndDate"));
-    }
-    Instant local(int year, int month, int dayOfMonth) const {
-        return gregorian->startOfDay(gregorian->instant({year, month, dayOfMonth, 12}));
-    }
-    void choose(PeriodKind kind, Instant anchor) {
-        controller->setSelectedDate(anchor);
-        settings.remove("quickDatePeriodPreviousValue");
-        controller->choosePeriodKind(kind);
-    }
-    int triggerFlips() const {
-        return static_cast<int>(settings.writes.count("datesChangedTrigger"));
-    }
-
-    test::MemorySettings settings;
-    test::FakeClock clock{utc(2024, 3, 6, 15)};
-    std::unique_ptr<IcuCalendarArithmetic> gregorian;
-    std::unique_ptr<IcuCalendarArithmetic> current;
-    std::unique_ptr<IcuLocaleFormats> formats;
-    std::unique_ptr<DateInspectorController> controller;
-};
+class DateInspectorControllerTest : public test::DateInspectorFixture {};
 
 } // namespace
 
@@ -186,6 +130,34 @@ TEST_F(DateInspectorControllerTest, AMonthComesBackAfterAWeekThatBeganBeforeIt) 
     EXPECT_EQ(period(), "2024-02-01 00:00:00 - 2024-02-29 23:59:59") << "the reference is spent";
 }
 
+TEST_F(DateInspectorControllerTest, AWeekSteppedBackIsStillFollowedByTheMonthItCameFrom) {
+    choose(PeriodKind::Week, local(2024, 4, 1));
+    controller->setQuickDates(PeriodStep::Previous);
+    EXPECT_EQ(period(), "2024-03-25 00:00:00 - 2024-03-31 23:59:59");
+    EXPECT_EQ(day(controller->selectedDate()), "2024-03-25 00:00:00");
+    controller->choosePeriodKind(PeriodKind::Month);
+    EXPECT_EQ(period(), "2024-04-01 00:00:00 - 2024-04-30 23:59:59");
+}
+
+TEST_F(DateInspectorControllerTest, AYearComesBackAfterAWeekThatBeganBeforeIt) {
+    choose(PeriodKind::Year, local(2025, 5, 5));
+    controller->setSelectedDate(local(2025, 1, 1));
+    controller->choosePeriodKind(PeriodKind::Week);
+    EXPECT_EQ(period(), "2024-12-30 00:00:00 - 2025-01-05 23:59:59");
+    controller->setSelectedDate(local(2024, 12, 30));
+    controller->choosePeriodKind(PeriodKind::Year);
+    EXPECT_EQ(period(), "2025-01-01 00:00:00 - 2025-12-31 23:59:59");
+}
+
+TEST_F(DateInspectorControllerTest, ADayForgetsTheWeeksReference) {
+    choose(PeriodKind::Month, local(2024, 3, 1));
+    controller->choosePeriodKind(PeriodKind::Week);
+    controller->setSelectedDate(local(2024, 2, 26));
+    controller->choosePeriodKind(PeriodKind::Day);
+    controller->choosePeriodKind(PeriodKind::Month);
+    EXPECT_EQ(period(), "2024-02-01 00:00:00 - 2024-02-29 23:59:59");
+}
+
 TEST_F(DateInspectorControllerTest, APickedStartKeepsTheKindsLengthWithoutSnapping) {
     choose(PeriodKind::Week, local(2024, 3, 4));
     controller->pickStartDate(local(2024, 3, 6));
@@ -213,6 +185,97 @@ TEST_F(DateInspectorControllerTest, APickedEndMakesThePeriodCustomAndEndsOnItsLa
     EXPECT_GT(triggerFlips(), flips);
     controller->choosePeriodKind(PeriodKind::Month);
     EXPECT_EQ(period(), "2024-03-01 00:00:00 - 2024-03-31 23:59:59") << "Month acts again";
+}
+
+TEST_F(DateInspectorControllerTest, AnEndPickedAt1461DaysMovesTheStart) {
+    choose(PeriodKind::Day, local(2020, 3, 1));
+    controller->pickEndDate(gregorian->add(local(2020, 3, 1), {.days = 1459}));
+    EXPECT_EQ(period(), "2020-03-01 00:00:00 - 2024-02-28 23:59:59") << "exactly 1460 days";
+    controller->pickEndDate(gregorian->add(local(2020, 3, 1), {.days = 1460}));
+    EXPECT_EQ(period(), "2020-03-02 00:00:00 - 2024-02-29 23:59:59");
+}
+
+TEST_F(DateInspectorControllerTest, TheFirstTriggerOfAnActionFindsBothDatesAsTheyStay) {
+    choose(PeriodKind::Month, local(2024, 3, 4));
+    std::vector<std::string> periods;
+    const Observation observation =
+        settings.observe("datesChangedTrigger", [&] { periods.push_back(period()); });
+    controller->pickEndDate(local(2024, 3, 12));
+    ASSERT_FALSE(periods.empty());
+    EXPECT_EQ(periods.front(), "2024-03-01 00:00:00 - 2024-03-12 23:59:59");
+}
+
+TEST_F(DateInspectorControllerTest, EachActionFlipsTheTriggerOnceAndLast) {
+    choose(PeriodKind::Month, local(2024, 3, 4));
+    const auto flipsOf = [&](const std::function<void()>& action) {
+        const int before = triggerFlips();
+        action();
+        return triggerFlips() - before;
+    };
+    const auto expectOneLast = [&](const std::function<void()>& action) {
+        const bool wasOn = boolForKey(settings, "datesChangedTrigger");
+        EXPECT_EQ(flipsOf(action), 1);
+        EXPECT_EQ(settings.writes.back(), QStringLiteral("datesChangedTrigger"));
+        EXPECT_NE(boolForKey(settings, "datesChangedTrigger"), wasOn);
+    };
+    expectOneLast([&] { controller->choosePeriodKind(PeriodKind::Week); });
+    expectOneLast([&] { controller->setQuickDates(PeriodStep::Next); });
+    expectOneLast([&] { controller->startDateControlClicked(); });
+    expectOneLast([&] { controller->endDateControlClicked(); });
+    EXPECT_EQ(flipsOf([&] { controller->setStartDate(local(2024, 5, 1)); }), 0);
+    EXPECT_EQ(flipsOf([&] { controller->setEndDate(local(2024, 5, 9)); }), 0);
+    EXPECT_EQ(flipsOf([&] { controller->setSelectedDate(local(2024, 5, 9)); }), 0);
+}
+
+TEST_F(DateInspectorControllerTest, AKindOutsideTheFiveHasNoLabelAndChangesNoDate) {
+    for (const qint64 index : {qint64{5}, qint64{-1}}) {
+        choose(PeriodKind::Day, local(2024, 3, 4));
+        const std::string before = period();
+        controller->setQuickDatePeriodIndex(index);
+        controller->setQuickDatePeriod();
+        controller->setQuickDates(PeriodStep::Next);
+        EXPECT_EQ(period(), before);
+        EXPECT_EQ(controller->periodLabelString(), QString());
+        EXPECT_EQ(controller->dateRangeLabelString().contains(QStringLiteral(" - ")), index > 0);
+    }
+}
+
+TEST_F(DateInspectorControllerTest, LabelsFollowWritesFromElsewhere) {
+    controller->choosePeriodKind(PeriodKind::Custom);
+    settings.setObject("filterStartDate", QVariant::fromValue(local(2024, 3, 1)));
+    EXPECT_EQ(controller->periodLabelString(), QStringLiteral("10 Days"));
+    EXPECT_EQ(controller->dateRangeLabelString(), QStringLiteral("March 1, 2024 - March 10, 2024"));
+    settings.setObject("quickDatePeriod", 0);
+    EXPECT_EQ(controller->periodLabelString(), QStringLiteral("Day"));
+    EXPECT_EQ(controller->dateRangeLabelString(), QStringLiteral("March 1, 2024"));
+}
+
+TEST_F(DateInspectorControllerTest, AKindStoredAsTextCounts) {
+    settings.setObject("quickDatePeriod", "3");
+    EXPECT_EQ(controller->quickDatePeriodIndex(), 3);
+    EXPECT_EQ(controller->periodLabelString(), QStringLiteral("Year"));
+    settings.setObject("quickDatePeriod", "abc");
+    EXPECT_EQ(controller->quickDatePeriodIndex(), 0);
+}
+
+TEST_F(DateInspectorControllerTest, StoredDatesBeyondEveryCalendarStillStart) {
+    settings.setObject("filterStartDate", QVariant::fromValue(Instant::min()));
+    settings.setObject("filterEndDate", QVariant::fromValue(Instant::max()));
+    settings.setObject("selectedDate", "yesterday");
+    useZone("Europe/Berlin", "en_GB");
+    EXPECT_EQ(controller->totalDays(), PeriodArithmetic::longestPeriodDays);
+    EXPECT_EQ(day(controller->selectedDate()), "2024-03-04 00:00:00");
+}
+
+TEST_F(DateInspectorControllerTest, EachLaunchBeginsWithTheEndLockedAtItsLength) {
+    choose(PeriodKind::Month, local(2024, 3, 4));
+    controller->pickEndDate(local(2024, 3, 12));
+    EXPECT_TRUE(controller->isCustomDateOn());
+    useZone("UTC", "en_GB");
+    EXPECT_FALSE(controller->isCustomDateOn());
+    EXPECT_EQ(controller->lockedPeriod(), 12);
+    controller->pickStartDate(local(2024, 4, 1));
+    EXPECT_EQ(period(), "2024-04-01 00:00:00 - 2024-04-12 23:59:59");
 }
 
 TEST_F(DateInspectorControllerTest, ALockedEndMovesWithTheStart) {
@@ -327,14 +390,6 @@ TEST_P(WholeDayTest, ADayIsOneDayAndItsMonthIsItsMonth) {
     controller->setQuickDates(PeriodStep::Next);
     controller->setQuickDates(PeriodStep::Previous);
     EXPECT_EQ(controller->startDate(), firstOfMonth);
-}
-
-TEST_F(DateInspectorControllerTest, CountsWholeDaysOverAChangeOfTheClock) {
-    useZone("Europe/Berlin", "de_DE");
-    const PeriodArithmetic arithmetic(*gregorian, *current);
-    EXPECT_EQ(arithmetic.totalDaysFromStartDate(local(2024, 3, 30), local(2024, 4, 1)), 3);
-    EXPECT_EQ(arithmetic.totalDaysFromStartDate(local(2024, 3, 1), local(2024, 3, 31)), 31);
-    EXPECT_EQ(arithmetic.totalDaysFromStartDate(local(2024, 3, 1), local(2024, 3, 1)), 1);
 }
 
 } // namespace quillet
