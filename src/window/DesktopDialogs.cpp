@@ -1,0 +1,94 @@
+#include "window/DesktopDialogs.h"
+
+#include "platform/Localized.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QUrl>
+
+namespace quillet {
+
+int DesktopDialogs::runModal(const Alert& alert) {
+    QMessageBox box(window_);
+    box.setIcon(alert.style == AlertStyle::Warning ? QMessageBox::Warning
+                                                   : QMessageBox::Information);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(alert.messageText);
+    box.setInformativeText(alert.informativeText);
+    QList<QAbstractButton*> buttons;
+    for (const QString& title : alert.buttonTitles) {
+        buttons << box.addButton(title, buttons.isEmpty() ? QMessageBox::AcceptRole
+                                                          : QMessageBox::RejectRole);
+    }
+    box.setEscapeButton(buttons.last());
+    box.exec();
+    const auto chosen = buttons.indexOf(box.clickedButton());
+    return static_cast<int>(chosen < 0 ? buttons.size() - 1 : chosen);
+}
+
+void DesktopDialogs::beginSheet(const SavePanelRequest& request, Completion completion) {
+    auto* dialog = new QFileDialog(window_, request.message);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setNameFilters(
+        {QStringLiteral("%1 (*.%2)").arg(request.fileType.toUpper(), request.fileType)});
+    dialog->setDefaultSuffix(request.fileType);
+    dialog->setLabelText(QFileDialog::FileName, request.nameFieldLabel);
+    dialog->setDirectory(QFileInfo(request.startingFolder).isDir() ? request.startingFolder
+                                                                   : QDir::homePath());
+    dialog->selectFile(request.suggestedName + u'.' + request.fileType);
+    dialog->setWindowModality(Qt::WindowModal);
+    QObject::connect(
+        dialog, &QFileDialog::finished, dialog,
+        [dialog, type = request.fileType, completion = std::move(completion)](int result) {
+            if (result != QDialog::Accepted) {
+                completion(std::nullopt);
+                return;
+            }
+            QString path = dialog->selectedFiles().value(0);
+            if (!path.endsWith(u'.' + type, Qt::CaseInsensitive)) {
+                path += u'.' + type;
+            }
+            completion(path);
+        });
+    dialog->open();
+}
+
+void DesktopDialogs::stopModal(int /*code*/) {
+    // The sheet ends by itself: it is modal to its window, not a session of its own.
+}
+
+void DesktopDialogs::checkForUpdates() {
+    QMessageBox box(window_);
+    box.setIcon(QMessageBox::Information);
+    box.setText(localized("Quillet is updated with your system"));
+    box.setInformativeText(
+        localized("This is version %1. Newer versions arrive with the updates of "
+                  "your system; its software centre shows them.")
+            .arg(QCoreApplication::applicationVersion()));
+    auto* open = box.addButton(localized("Open Software Centre"), QMessageBox::ActionRole);
+    box.addButton(localized("OK"), QMessageBox::AcceptRole);
+    box.exec();
+    if (box.clickedButton() == open) {
+        QDesktopServices::openUrl(QUrl(QStringLiteral("appstream:org.quillet.Quillet")));
+    }
+}
+
+bool DesktopDialogs::askForCalendarAccess() {
+    QMessageBox box(window_);
+    box.setIcon(QMessageBox::Question);
+    box.setText(localized("May Quillet read your calendars?"));
+    box.setInformativeText(
+        localized("Quillet lists the events of your calendars and adds up their hours. It reads "
+                  "them on this computer only, and changes nothing."));
+    const auto* allow = box.addButton(localized("Allow"), QMessageBox::AcceptRole);
+    box.addButton(localized("Don’t Allow"), QMessageBox::RejectRole);
+    box.exec();
+    return box.clickedButton() == allow;
+}
+
+} // namespace quillet

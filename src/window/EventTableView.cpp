@@ -1,0 +1,199 @@
+#include "window/EventTableView.h"
+
+#include "eventtable/EventColumns.h"
+#include "eventtable/EventOrder.h"
+#include "platform/Localized.h"
+#include "window/SettingsBinding.h"
+
+#include <QHeaderView>
+#include <QMenu>
+#include <QScrollBar>
+#include <QSet>
+
+namespace quillet {
+
+/// A header section, which forgets its width while it is hidden: it is remembered here.
+class EventTableView::HeaderColumn final : public TableColumn {
+public:
+    HeaderColumn(QHeaderView& header, int logicalIndex, const EventColumn& column)
+        : header_(header)
+        , logicalIndex_(logicalIndex)
+        , column_(column)
+        , width_(header.sectionSize(logicalIndex)) {}
+
+    [[nodiscard]] QString identifier() const override {
+        return QString::fromLatin1(column_.identifier);
+    }
+    [[nodiscard]] QString headerTitle() const override {
+        return header_.model()->headerData(logicalIndex_, Qt::Horizontal).toString();
+    }
+    [[nodiscard]] double widthPoints() const override { return width_; }
+    void setWidthPoints(double width) override {
+        width_ = width;
+        if (!isHidden()) {
+            header_.resizeSection(logicalIndex_, static_cast<int>(width));
+        }
+    }
+    [[nodiscard]] bool isHidden() const override { return header_.isSectionHidden(logicalIndex_); }
+    void setHidden(bool isHidden) override {
+        header_.setSectionHidden(logicalIndex_, isHidden);
+        if (!isHidden) {
+            header_.resizeSection(logicalIndex_, static_cast<int>(width_));
+        }
+    }
+    void userResized(int width) { width_ = width; }
+
+private:
+    QHeaderView& header_;
+    int logicalIndex_;
+    const EventColumn& column_;
+    double width_;
+};
+
+EventTableView::EventTableView(QAbstractItemModel& model, ListController<Event>& events,
+                               SettingsStore& settings, MakeSorter makeSorter, QWidget* parent)
+    : QTableView(parent)
+    , events_(events)
+    , settings_(settings)
+    , makeSorter_(std::move(makeSorter)) {
+    setModel(&model);
+    setAccessibleName(localized("Events"));
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(ExtendedSelection);
+    setEditTriggers(NoEditTriggers);
+    setShowGrid(false);
+    setAlternatingRowColors(true);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setFrameShape(QFrame::NoFrame);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
+    setUpHeader();
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &EventTableView::takeSelectionFromView);
+    connect(&events_, &ListControllerNotices::arrangedObjectsWillChange, this,
+            [this] { scrollPosition_ = verticalScrollBar()->value(); });
+    connect(&events_, &ListControllerNotices::arrangedObjectsChanged, this,
+            [this] { verticalScrollBar()->setValue(scrollPosition_); });
+    connect(&events_, &ListControllerNotices::selectedObjectsChanged, this,
+            &EventTableView::showSelectionOfList);
+}
+
+EventTableView::~EventTableView() = default;
+
+void EventTableView::setUpHeader() {
+    QHeaderView& header = *horizontalHeader();
+    header.setSectionsMovable(true);
+    header.setSectionsClickable(true);
+    header.setHighlightSections(false);
+    header.setStretchLastSection(true);
+    header.setMinimumSectionSize(fontMetrics().averageCharWidth() * 4);
+    header.setSortIndicatorClearable(true);
+    header.setSortIndicator(-1, Qt::AscendingOrder);
+    header.setSortIndicatorShown(true);
+    header.setContextMenuPolicy(Qt::CustomContextMenu);
+    for (int index = 0; index < header.count(); ++index) {
+        columns_.push_back(std::make_unique<HeaderColumn>(
+            header, index, eventColumns()[static_cast<std::size_t>(index)]));
+    }
+    connect(&header, &QHeaderView::sectionResized, this, [this](int index, int, int width) {
+        if (width > 0) {
+            columns_[static_cast<std::size_t>(index)]->userResized(width);
+        }
+    });
+    connect(&header, &QHeaderView::sortIndicatorChanged, this, &EventTableView::sort);
+    connect(&header, &QWidget::customContextMenuRequested, this, &EventTableView::showHeaderMenu);
+}
+
+int EventTableView::columnCount() const {
+    return horizontalHeader()->count();
+}
+
+TableColumn& EventTableView::columnAt(int position) {
+    return *columns_[static_cast<std::size_t>(horizontalHeader()->logicalIndex(position))];
+}
+
+int EventTableView::positionOf(const QString& identifier) const {
+    for (std::size_t index = 0; index < columns_.size(); ++index) {
+        if (columns_[index]->identifier() == identifier) {
+            return horizontalHeader()->visualIndex(static_cast<int>(index));
+        }
+    }
+    return -1;
+}
+
+void EventTableView::moveColumn(int from, int to) {
+    horizontalHeader()->moveSection(from, to);
+}
+
+QByteArray EventTableView::columnState() const {
+    return horizontalHeader()->saveState();
+}
+
+bool EventTableView::restoreColumnState(const QByteArray& state) {
+    return horizontalHeader()->restoreState(state);
+}
+
+void EventTableView::showHeaderMenu(const QPoint& position) {
+    QMenu menu(this);
+    QSet<QString> listed;
+    for (const EventColumn& column : eventColumns()) {
+        const QString key = QString::fromLatin1(column.visibilityKey);
+        if (!listed.contains(key)) {
+            listed.insert(key);
+            bindAction(
+                *menu.addAction(stringForKey(settings_, QString::fromLatin1(column.titleKey))),
+                settings_, key);
+        }
+    }
+    menu.exec(horizontalHeader()->mapToGlobal(position));
+}
+
+void EventTableView::sort(int logicalIndex, Qt::SortOrder order) {
+    if (logicalIndex < 0) {
+        events_.setSorter({});
+        return;
+    }
+    events_.setSorter(makeSorter_(columns_[static_cast<std::size_t>(logicalIndex)]->identifier(),
+                                  order == Qt::AscendingOrder ? SortDirection::Ascending
+                                                              : SortDirection::Descending));
+}
+
+void EventTableView::takeSelectionFromView() {
+    if (isShowingSelection_) {
+        return;
+    }
+    std::vector<std::size_t> rows;
+    for (const QItemSelectionRange& range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            rows.push_back(static_cast<std::size_t>(row));
+        }
+    }
+    isShowingSelection_ = true;
+    events_.setSelectedRows(std::move(rows));
+    isShowingSelection_ = false;
+}
+
+void EventTableView::showSelectionOfList() {
+    if (isShowingSelection_) {
+        return;
+    }
+    QItemSelection selection;
+    const std::vector<std::size_t>& rows = events_.selectedRows();
+    for (std::size_t first = 0; first < rows.size();) {
+        std::size_t last = first;
+        while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1) {
+            ++last;
+        }
+        selection.append(QItemSelectionRange(
+            model()->index(static_cast<int>(rows[first]), 0),
+            model()->index(static_cast<int>(rows[last]), model()->columnCount() - 1)));
+        first = last + 1;
+    }
+    isShowingSelection_ = true;
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    isShowingSelection_ = false;
+}
+
+} // namespace quillet

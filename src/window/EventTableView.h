@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/Event.h"
+#include "platform/ListController.h"
+#include "platform/SettingsStore.h"
+#include "platform/TableColumn.h"
+
+#include <QTableView>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace quillet {
+
+enum class SortDirection;
+
+/// The event table on screen. Its columns can be moved, resized, hidden and sorted by the user; its
+/// selection and that of the list controller are one.
+class EventTableView : public QTableView, public ColumnTable {
+    Q_OBJECT
+
+public:
+    /// Makes the order of a column's identifier; see eventSorter().
+    using MakeSorter = std::function<ListController<Event>::Sorter(const QString& column,
+                                                                   SortDirection direction)>;
+
+    EventTableView(QAbstractItemModel& model, ListController<Event>& events,
+                   SettingsStore& settings, MakeSorter makeSorter, QWidget* parent = nullptr);
+    ~EventTableView() override;
+    Q_DISABLE_COPY_MOVE(EventTableView)
+
+    [[nodiscard]] int columnCount() const override;
+    [[nodiscard]] TableColumn& columnAt(int position) override;
+    [[nodiscard]] int positionOf(const QString& identifier) const override;
+    void moveColumn(int from, int to) override;
+
+    /// The order, widths and sorting of the columns, for the next start.
+    [[nodiscard]] QByteArray columnState() const;
+    /// False when the state is not one of columnState().
+    bool restoreColumnState(const QByteArray& state);
+
+private:
+    class HeaderColumn;
+
+    void setUpHeader();
+    void showHeaderMenu(const QPoint& position);
+    void sort(int logicalIndex, Qt::SortOrder order);
+    void takeSelectionFromView();
+    void showSelectionOfList();
+
+    ListController<Event>& events_;
+    SettingsStore& settings_;
+    MakeSorter makeSorter_;
+    std::vector<std::unique_ptr<HeaderColumn>> columns_;
+    bool isShowingSelection_ = false;
+    int scrollPosition_ = 0;
+};
+
+} // namespace quillet

@@ -1,0 +1,154 @@
+#include "window/InspectorPane.h"
+
+#include "platform/Localized.h"
+#include "window/SettingsBinding.h"
+
+#include <QButtonGroup>
+#include <QCalendarWidget>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QSignalBlocker>
+#include <QTextCharFormat>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace quillet {
+
+namespace {
+
+QLabel* heading(const QString& text, QWidget* buddy) {
+    auto* label = new QLabel(text);
+    QFont font = label->font();
+    font.setBold(true);
+    label->setFont(font);
+    label->setBuddy(buddy);
+    return label;
+}
+
+} // namespace
+
+InspectorPane::InspectorPane(DateInspectorController& inspector, SettingsStore& settings,
+                             const CalendarArithmetic& calendar, QWidget* parent)
+    : QWidget(parent)
+    , inspector_(inspector)
+    , calendar_(calendar)
+    , kinds_(new QButtonGroup(this))
+    , startPicker_(makePicker(localized("Start Date")))
+    , endPicker_(makePicker(localized("End Date")))
+    , lock_(makeLock()) {
+    const int space = fontMetrics().height() / 2;
+    auto* endHeading = new QHBoxLayout;
+    endHeading->addWidget(heading(localized("End Date"), endPicker_));
+    endHeading->addStretch();
+    endHeading->addWidget(lock_);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(space, space, space, space);
+    layout->setSpacing(space);
+    layout->addWidget(makeKindChooser());
+    layout->addSpacing(space);
+    layout->addWidget(heading(localized("Start Date"), startPicker_));
+    layout->addWidget(startPicker_);
+    layout->addSpacing(space);
+    layout->addLayout(endHeading);
+    layout->addWidget(endPicker_);
+    layout->addStretch();
+
+    connect(startPicker_, &QCalendarWidget::clicked, this,
+            [this](QDate date) { inspector_.pickStartDate(noonOf(date)); });
+    connect(startPicker_, &QCalendarWidget::activated, this,
+            [this](QDate date) { inspector_.pickStartDate(noonOf(date)); });
+    connect(endPicker_, &QCalendarWidget::clicked, this,
+            [this](QDate date) { inspector_.pickEndDate(noonOf(date)); });
+    connect(endPicker_, &QCalendarWidget::activated, this,
+            [this](QDate date) { inspector_.pickEndDate(noonOf(date)); });
+    connect(&inspector_, &DateInspectorController::labelsChanged, this, &InspectorPane::showPeriod);
+    connect(&inspector_, &DateInspectorController::isCustomDateOnChanged, this,
+            &InspectorPane::showPeriod);
+    connect(&inspector_, &DateInspectorController::isInterfaceEnabledChanged, this,
+            [this] { setEnabled(inspector_.isInterfaceEnabled()); });
+    observeWhileAlive(*this, settings, QStringLiteral("quickDatePeriod"), [this] { showPeriod(); });
+    setEnabled(inspector_.isInterfaceEnabled());
+    showPeriod();
+}
+
+InspectorPane::~InspectorPane() = default;
+
+QWidget* InspectorPane::makeKindChooser() {
+    auto* chooser = new QWidget(this);
+    chooser->setAccessibleName(localized("Period"));
+    auto* layout = new QHBoxLayout(chooser);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    constexpr std::array names{"Day", "Week", "Month", "Year", "Custom"};
+    for (int kind = 0; kind < static_cast<int>(names.size()); ++kind) {
+        auto* button = new QToolButton(chooser);
+        button->setText(localized(names[static_cast<std::size_t>(kind)]));
+        button->setAccessibleName(button->text());
+        button->setCheckable(true);
+        button->setAutoRaise(false);
+        button->setFocusPolicy(Qt::StrongFocus);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        kinds_->addButton(button, kind);
+        layout->addWidget(button);
+    }
+    connect(kinds_, &QButtonGroup::idClicked, this,
+            [this](int kind) { inspector_.choosePeriodKind(static_cast<PeriodKind>(kind)); });
+    return chooser;
+}
+
+QCalendarWidget* InspectorPane::makePicker(const QString& name) {
+    auto* picker = new QCalendarWidget(this);
+    picker->setAccessibleName(name);
+    picker->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    picker->setHorizontalHeaderFormat(QCalendarWidget::ShortDayNames);
+    picker->setGridVisible(false);
+    // Ours counts from Sunday = 1, Qt from Monday = 1.
+    picker->setFirstDayOfWeek(static_cast<Qt::DayOfWeek>((calendar_.firstWeekday() + 5) % 7 + 1));
+    const QTextCharFormat plain;
+    picker->setWeekdayTextFormat(Qt::Saturday, plain);
+    picker->setWeekdayTextFormat(Qt::Sunday, plain);
+    return picker;
+}
+
+QToolButton* InspectorPane::makeLock() {
+    auto* lock = new QToolButton(this);
+    lock->setObjectName(QStringLiteral("toggleEndDateLock"));
+    lock->setAccessibleName(localized("Lock End Date"));
+    lock->setToolTip(localized("While locked, the end moves with the start"));
+    lock->setCheckable(true);
+    lock->setAutoRaise(true);
+    lock->setFocusPolicy(Qt::StrongFocus);
+    lock->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    connect(lock, &QToolButton::clicked, this, [this] { inspector_.switchEndDateLock(); });
+    return lock;
+}
+
+void InspectorPane::showPeriod() {
+    const QSignalBlocker startBlocker(startPicker_);
+    const QSignalBlocker endBlocker(endPicker_);
+    startPicker_->setSelectedDate(dateOf(inspector_.startDate()));
+    endPicker_->setSelectedDate(dateOf(inspector_.endDate()));
+    if (QAbstractButton* button =
+            kinds_->button(static_cast<int>(inspector_.quickDatePeriodIndex()))) {
+        button->setChecked(true);
+    }
+    const bool isLocked = !inspector_.isCustomDateOn();
+    lock_->setChecked(isLocked);
+    lock_->setIcon(QIcon::fromTheme(isLocked ? QStringLiteral("changes-prevent-symbolic")
+                                             : QStringLiteral("changes-allow-symbolic")));
+    lock_->setText(isLocked ? localized("Locked") : localized("Unlocked"));
+}
+
+QDate InspectorPane::dateOf(Instant instant) const {
+    const DateComponents fields = calendar_.components(instant);
+    return {fields.year, fields.month, fields.day};
+}
+
+Instant InspectorPane::noonOf(QDate date) const {
+    return calendar_.instant(
+        {.year = date.year(), .month = date.month(), .day = date.day(), .hour = 12});
+}
+
+} // namespace quillet

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "period/DateInspectorController.h"
+
+#include <QWidget>
+
+class QButtonGroup;
+class QCalendarWidget;
+class QToolButton;
+
+namespace quillet {
+
+/// The controls of the reporting period: its kind, its two ends and the lock between them.
+class InspectorPane : public QWidget {
+    Q_OBJECT
+
+public:
+    InspectorPane(DateInspectorController& inspector, SettingsStore& settings,
+                  const CalendarArithmetic& calendar, QWidget* parent = nullptr);
+    ~InspectorPane() override;
+    Q_DISABLE_COPY_MOVE(InspectorPane)
+
+private:
+    [[nodiscard]] QWidget* makeKindChooser();
+    [[nodiscard]] QCalendarWidget* makePicker(const QString& name);
+    [[nodiscard]] QToolButton* makeLock();
+    void showPeriod();
+    [[nodiscard]] QDate dateOf(Instant instant) const;
+    [[nodiscard]] Instant noonOf(QDate date) const;
+
+    DateInspectorController& inspector_;
+    const CalendarArithmetic& calendar_;
+    QButtonGroup* kinds_;
+    QCalendarWidget* startPicker_;
+    QCalendarWidget* endPicker_;
+    QToolButton* lock_;
+};
+
+} // namespace quillet

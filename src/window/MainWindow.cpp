@@ -1,0 +1,208 @@
+#include "window/MainWindow.h"
+
+#include "platform/Localized.h"
+#include "window/BusyIndicator.h"
+#include "window/CalendarPane.h"
+#include "window/EmptyState.h"
+#include "window/EventTableView.h"
+#include "window/InspectorPane.h"
+#include "window/RatePane.h"
+#include "window/ResultsPane.h"
+#include "window/SettingsBinding.h"
+
+#include <QDragEnterEvent>
+#include <QLabel>
+#include <QMimeData>
+#include <QSettings>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace quillet {
+
+namespace {
+
+const QString accessKey = QStringLiteral("isCalendarAccessGranted");
+const QString progressKey = QStringLiteral("isProgressIndicatorOn");
+
+QFrame* line() {
+    auto* frame = new QFrame;
+    frame->setFrameShape(QFrame::HLine);
+    frame->setFrameShadow(QFrame::Sunken);
+    return frame;
+}
+
+} // namespace
+
+MainWindow::MainWindow(Collaborators collaborators, QWidget* parent)
+    : QMainWindow(parent)
+    , with_(std::move(collaborators)) {
+    setWindowTitle(QStringLiteral("Quillet"));
+    setAcceptDrops(true);
+    makeStepActions();
+    makePanes();
+    makeToolBar();
+    makeMenus();
+    new BusyIndicator(with_.settings, this);
+    followState();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::makePanes() {
+    calendarPane_ =
+        new CalendarPane(with_.calendarsArrayController, with_.calendarActions.colorOf, this);
+    auto* inspector =
+        new InspectorPane(with_.dateInspectorController, with_.settings, with_.calendar, this);
+    splitter_ = new QSplitter(this);
+    splitter_->setObjectName(QStringLiteral("panes"));
+    splitter_->setChildrenCollapsible(false);
+    splitter_->addWidget(calendarPane_);
+    splitter_->addWidget(makeCentre());
+    splitter_->addWidget(inspector);
+    splitter_->setStretchFactor(1, 1);
+    const int unit = fontMetrics().averageCharWidth();
+    calendarPane_->setMinimumWidth(unit * 18);
+    splitter_->setSizes({unit * 32, unit * 110, unit * 40});
+    setCentralWidget(splitter_);
+}
+
+QWidget* MainWindow::makeCentre() {
+    periodTitle_ = new QLabel(this);
+    periodTitle_->setTextFormat(Qt::PlainText);
+    periodTitle_->setAccessibleName(localized("Reporting Period"));
+    const int space = fontMetrics().height() / 2;
+    periodTitle_->setContentsMargins(space, space, space, space);
+    constexpr double titleScale = 1.3;
+    QFont font = periodTitle_->font();
+    font.setPointSizeF(font.pointSizeF() * titleScale);
+    font.setBold(true);
+    periodTitle_->setFont(font);
+    emptyState_ = new EmptyState(this);
+    centreStack_ = new QStackedWidget(this);
+    centreStack_->addWidget(&with_.eventTable);
+    centreStack_->addWidget(emptyState_);
+
+    auto* centre = new QWidget(this);
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(periodTitle_);
+    layout->addWidget(centreStack_, 1);
+    layout->addWidget(line());
+    layout->addWidget(new RatePane(with_.calendarsArrayController, with_.eventItemViewController,
+                                   with_.settings, with_.formats, this));
+    layout->addWidget(new ResultsPane(with_.eventsController, with_.eventsArrayController,
+                                      with_.billing, with_.formats, with_.settings, this));
+    return centre;
+}
+
+void MainWindow::followState() {
+    const auto reason = [this] { showTableOrReason(); };
+    connect(&with_.eventsArrayController, &ListControllerNotices::arrangedObjectsChanged, this,
+            reason);
+    connect(&with_.calendarsArrayController, &ListControllerNotices::arrangedObjectsChanged, this,
+            reason);
+    for (const QString& key : {accessKey, progressKey}) {
+        observeWhileAlive(*this, with_.settings, key, reason);
+    }
+    connect(&with_.dateInspectorController, &DateInspectorController::labelsChanged, this,
+            &MainWindow::showPeriodTitle);
+    showPeriodTitle();
+    showTableOrReason();
+}
+
+void MainWindow::showPeriodTitle() {
+    periodTitle_->setText(
+        QStringLiteral("%1 · %2").arg(with_.dateInspectorController.periodLabelString(),
+                                      with_.dateInspectorController.dateRangeLabelString()));
+}
+
+void MainWindow::showTableOrReason() {
+    // While a fetch runs what was shown stays, so that nothing flickers.
+    if (boolForKey(with_.settings, progressKey) &&
+        with_.eventsArrayController.arrangedCount() == 0) {
+        return;
+    }
+    const auto& calendars = with_.calendarsArrayController;
+    bool isAnyTicked = false;
+    for (std::size_t row = 0; row < calendars.arrangedCount(); ++row) {
+        isAnyTicked = isAnyTicked || calendars.arranged(row).isSelected;
+    }
+    if (!boolForKey(with_.settings, accessKey)) {
+        emptyState_->show(localized("Quillet may not read your calendars yet"),
+                          localized("Your events appear here once you allow it."),
+                          localized("Allow Calendar Access…"), with_.calendarActions.allowAccess);
+    } else if (calendars.arrangedCount() == 0) {
+        emptyState_->show(localized("No calendars"),
+                          localized("Add a folder or a file of calendars, or drop one here."),
+                          localized("Add Calendar Folder or File…"),
+                          [this] { chooseCalendarToAdd(); });
+    } else if (!isAnyTicked) {
+        emptyState_->show(localized("No calendar is ticked"),
+                          localized("Tick the calendars whose time counts."),
+                          localized("Tick All Calendars"), [this] { tickAllCalendars(); });
+    } else if (with_.eventsArrayController.arrangedCount() == 0) {
+        emptyState_->show(localized("No events in this period"),
+                          localized("The ticked calendars have no events on these days."),
+                          localized("Show the Current Period"),
+                          [this] { currentAction_->trigger(); });
+    } else {
+        centreStack_->setCurrentWidget(&with_.eventTable);
+        return;
+    }
+    centreStack_->setCurrentWidget(emptyState_);
+}
+
+void MainWindow::tickAllCalendars() {
+    auto& calendars = with_.calendarsArrayController;
+    if (calendars.selectedRows().empty()) {
+        calendars.setSelectedRows({0});
+    }
+    // None is ticked, so that the click that turns all around ticks all.
+    calendars.calendarTableViewClicked(CalendarsArrayController::ControlKey::Held);
+}
+
+void MainWindow::refreshProblems() {
+    calendarPane_->showProblems(with_.calendarActions.problems());
+    calendarPane_->refreshColors();
+}
+
+void MainWindow::showMessage(const QString& message) {
+    statusBar()->setVisible(!message.isEmpty());
+    statusBar()->showMessage(message);
+}
+
+void MainWindow::restoreState(const QString& stateFile) {
+    const QSettings state(stateFile, QSettings::IniFormat);
+    if (!restoreGeometry(state.value(QStringLiteral("geometry")).toByteArray())) {
+        const int unit = fontMetrics().averageCharWidth();
+        resize(unit * 182, fontMetrics().height() * 46);
+    }
+    splitter_->restoreState(state.value(QStringLiteral("panes")).toByteArray());
+}
+
+void MainWindow::saveState(const QString& stateFile) const {
+    QSettings state(stateFile, QSettings::IniFormat);
+    state.setValue(QStringLiteral("geometry"), saveGeometry());
+    state.setValue(QStringLiteral("panes"), splitter_->saveState());
+    state.setValue(QStringLiteral("columns"), with_.eventTable.columnState());
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls()) {
+        event->acceptProposedAction();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    for (const QUrl& url : event->mimeData()->urls()) {
+        if (url.isLocalFile()) {
+            addCalendar(url.toLocalFile());
+        }
+    }
+}
+
+} // namespace quillet

@@ -1,0 +1,111 @@
+#pragma once
+
+#include "app/AppDelegate.h"
+#include "calendars/CalendarsArrayController.h"
+#include "eventdata/EventsController.h"
+#include "eventtable/EventItemViewController.h"
+#include "export/ExportCSV.h"
+#include "period/DateInspectorController.h"
+#include "window/CalendarListModel.h"
+
+#include <QMainWindow>
+
+#include <expected>
+#include <functional>
+
+class QLabel;
+class QSplitter;
+class QStackedWidget;
+
+namespace quillet {
+
+class CalendarPane;
+class EmptyState;
+class EventTableView;
+class PreferencesDialog;
+
+/// What the window can ask for around the calendars themselves.
+struct CalendarActions {
+    /// Adds a folder or file of calendars; the error is a sentence for the user.
+    std::function<std::expected<void, QString>(const QString& path)> addCalendar;
+    /// Asks for access again, whatever was answered before.
+    std::function<void()> allowAccess;
+    /// What could not be read, a line each.
+    std::function<QStringList()> problems;
+    CalendarListModel::ColorOf colorOf;
+};
+
+/// The main window: the calendars to the left, the events in the middle, the period to the right.
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    struct Collaborators {
+        SettingsStore& settings;
+        const LocaleFormats& formats;
+        const CalendarArithmetic& calendar;
+        BillingSettingsSource& billing;
+        ListController<Event>& eventsArrayController;
+        CalendarsArrayController& calendarsArrayController;
+        EventsController& eventsController;
+        DateInspectorController& dateInspectorController;
+        EventItemViewController& eventItemViewController;
+        ExportCSV& exportCSV;
+        AppDelegate& appDelegate;
+        EventTableView& eventTable;
+        QAction& exportCsvAction;
+        CalendarActions calendarActions;
+    };
+
+    explicit MainWindow(Collaborators collaborators, QWidget* parent = nullptr);
+    ~MainWindow() override;
+    Q_DISABLE_COPY_MOVE(MainWindow)
+
+    /// Sizes and positions as the last run left them; true when there were any.
+    void restoreState(const QString& stateFile);
+    void saveState(const QString& stateFile) const;
+    /// Shows a message in the status area until the next one.
+    void showMessage(const QString& message);
+    /// Shows anew what could not be read.
+    void refreshProblems();
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+
+private:
+    void makePanes();
+    [[nodiscard]] QWidget* makeCentre();
+    void makeToolBar();
+    void makeMenus();
+    void makeFileMenu();
+    void makeEditMenu();
+    void makeViewMenu();
+    void makePeriodMenu();
+    void makeCalendarsMenu();
+    void makeHelpMenu();
+    QAction* addAction(QMenu& menu, const QString& text, const char* name,
+                       const QKeySequence& shortcut, std::function<void()> action);
+    void makeStepActions();
+    void followState();
+    void showPeriodTitle();
+    void showTableOrReason();
+    void tickAllCalendars();
+    void chooseCalendarToAdd();
+    void addCalendar(const QString& path);
+    void showPreferences();
+    void showAbout();
+
+    Collaborators with_;
+    CalendarPane* calendarPane_ = nullptr;
+    QLabel* periodTitle_ = nullptr;
+    QStackedWidget* centreStack_ = nullptr;
+    EmptyState* emptyState_ = nullptr;
+    QSplitter* splitter_ = nullptr;
+    QAction* previousAction_ = nullptr;
+    QAction* currentAction_ = nullptr;
+    QAction* nextAction_ = nullptr;
+    PreferencesDialog* preferences_ = nullptr;
+};
+
+} // namespace quillet

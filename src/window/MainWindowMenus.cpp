@@ -1,0 +1,240 @@
+#include "window/MainWindow.h"
+
+#include "eventtable/EventColumns.h"
+#include "platform/Localized.h"
+#include "window/EventTableView.h"
+#include "window/PreferencesDialog.h"
+#include "window/SettingsBinding.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QFileDialog>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSet>
+#include <QToolBar>
+
+#include <array>
+
+namespace quillet {
+
+namespace {
+
+QIcon themeIcon(const char* name, QStyle::StandardPixmap fallBack) {
+    return QIcon::fromTheme(QString::fromLatin1(name),
+                            QApplication::style()->standardIcon(fallBack));
+}
+
+} // namespace
+
+QAction* MainWindow::addAction(QMenu& menu, const QString& text, const char* name,
+                               const QKeySequence& shortcut, std::function<void()> action) {
+    QAction* added = menu.addAction(text);
+    added->setObjectName(QString::fromLatin1(name));
+    added->setShortcut(shortcut);
+    connect(added, &QAction::triggered, this, std::move(action));
+    return added;
+}
+
+void MainWindow::makeStepActions() {
+    struct Step {
+        QAction*& action;
+        const char* text;
+        const char* icon;
+        QStyle::StandardPixmap fallBack;
+        QKeySequence shortcut;
+        PeriodStep step;
+    };
+    const std::array steps{
+        Step{previousAction_, "Previous", "go-previous", QStyle::SP_ArrowLeft,
+             QKeySequence(Qt::ALT | Qt::Key_Left), PeriodStep::Previous},
+        Step{currentAction_, "Current", "go-jump-today", QStyle::SP_ArrowDown,
+             QKeySequence(Qt::CTRL | Qt::Key_T), PeriodStep::Current},
+        Step{nextAction_, "Next", "go-next", QStyle::SP_ArrowRight,
+             QKeySequence(Qt::ALT | Qt::Key_Right), PeriodStep::Next},
+    };
+    for (const Step& step : steps) {
+        step.action = new QAction(themeIcon(step.icon, step.fallBack), localized(step.text), this);
+        step.action->setObjectName(QStringLiteral("setQuickDates") +
+                                   QString::fromLatin1(step.text));
+        step.action->setShortcut(step.shortcut);
+        step.action->setEnabled(with_.dateInspectorController.isInterfaceEnabled());
+        connect(step.action, &QAction::triggered, this,
+                [this, which = step.step] { with_.dateInspectorController.setQuickDates(which); });
+    }
+    connect(&with_.dateInspectorController, &DateInspectorController::isInterfaceEnabledChanged,
+            this, [this] {
+                for (QAction* action : {previousAction_, currentAction_, nextAction_}) {
+                    action->setEnabled(with_.dateInspectorController.isInterfaceEnabled());
+                }
+            });
+}
+
+void MainWindow::makeToolBar() {
+    auto* bar = addToolBar(localized("Toolbar"));
+    bar->setObjectName(QStringLiteral("toolbar"));
+    bar->setMovable(false);
+    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    with_.exportCsvAction.setText(localized("CSV"));
+    with_.exportCsvAction.setIcon(themeIcon("document-save-as", QStyle::SP_DialogSaveButton));
+    with_.exportCsvAction.setToolTip(localized("Save the listed events as a CSV file"));
+    connect(&with_.exportCsvAction, &QAction::triggered, this,
+            [this] { with_.exportCSV.saveAsCSV(); });
+    bar->addAction(&with_.exportCsvAction);
+    bar->addSeparator();
+    bar->addActions({previousAction_, currentAction_, nextAction_});
+    for (QToolButton* button : bar->findChildren<QToolButton*>()) {
+        button->setFocusPolicy(Qt::TabFocus);
+    }
+}
+
+void MainWindow::makeMenus() {
+    makeFileMenu();
+    makeEditMenu();
+    makeViewMenu();
+    makePeriodMenu();
+    makeCalendarsMenu();
+    makeHelpMenu();
+}
+
+void MainWindow::makeFileMenu() {
+    QMenu& menu = *menuBar()->addMenu(localized("&File"));
+    addAction(menu, localized("&Save as CSV…"), "saveAsCSV", QKeySequence::Save,
+              [this] { with_.exportCSV.saveAsCSV(); });
+    menu.addSeparator();
+    addAction(menu, localized("&Restart Quillet"), "relaunch", {},
+              [this] { with_.appDelegate.relaunch(); });
+    addAction(menu, localized("&Quit"), "terminate", QKeySequence::Quit, [this] { close(); });
+}
+
+void MainWindow::makeEditMenu() {
+    QMenu& menu = *menuBar()->addMenu(localized("&Edit"));
+    addAction(menu, localized("Select &All Events"), "selectAll", QKeySequence::SelectAll,
+              [this] { with_.eventTable.selectAll(); });
+    menu.addSeparator();
+    QAction* preferences =
+        addAction(menu, localized("&Preferences…"), "showPreferences",
+                  QKeySequence(Qt::CTRL | Qt::Key_Comma), [this] { showPreferences(); });
+    preferences->setMenuRole(QAction::PreferencesRole);
+}
+
+void MainWindow::makeViewMenu() {
+    QMenu& menu = *menuBar()->addMenu(localized("&View"));
+    bindAction(*menu.addAction(localized("&Money")), with_.settings, QStringLiteral("isDollarsOn"));
+    menu.addSeparator();
+    auto* group = new QActionGroup(this);
+    const QString timeTypeKey = QStringLiteral("timeTypeSelection");
+    constexpr std::array texts{"Time as &Hours", "Time as M&inutes", "Time as &Duration"};
+    for (qint64 number = 1; number <= static_cast<qint64>(texts.size()); ++number) {
+        QAction* action = menu.addAction(localized(texts[static_cast<std::size_t>(number - 1)]));
+        action->setCheckable(true);
+        action->setActionGroup(group);
+        const auto refresh = [this, action, number, timeTypeKey] {
+            action->setChecked(integerForKey(with_.settings, timeTypeKey) == number);
+        };
+        refresh();
+        observeWhileAlive(*action, with_.settings, timeTypeKey, refresh);
+        connect(action, &QAction::triggered, this,
+                [this, number, timeTypeKey] { with_.settings.setObject(timeTypeKey, number); });
+    }
+    menu.addSeparator();
+    QMenu& columns = *menu.addMenu(localized("&Columns"));
+    QSet<QString> listed;
+    for (const EventColumn& column : eventColumns()) {
+        const QString key = QString::fromLatin1(column.visibilityKey);
+        if (!listed.contains(key)) {
+            listed.insert(key);
+            bindAction(*columns.addAction(localized(column.defaultTitle)), with_.settings, key);
+        }
+    }
+}
+
+void MainWindow::makePeriodMenu() {
+    QMenu& menu = *menuBar()->addMenu(localized("&Period"));
+    menu.addActions({previousAction_, currentAction_, nextAction_});
+    menu.addSeparator();
+    constexpr std::array texts{"&Day", "&Week", "&Month", "&Year", "C&ustom"};
+    for (int kind = 0; kind < static_cast<int>(texts.size()); ++kind) {
+        addAction(menu, localized(texts[static_cast<std::size_t>(kind)]), "setQuickDatePeriod",
+                  QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + kind)), [this, kind] {
+                      with_.dateInspectorController.choosePeriodKind(static_cast<PeriodKind>(kind));
+                  });
+    }
+}
+
+void MainWindow::makeCalendarsMenu() {
+    QMenu& menu = *menuBar()->addMenu(localized("&Calendars"));
+    addAction(menu, localized("&Add Calendar Folder or File…"), "addCalendar", QKeySequence::Open,
+              [this] { chooseCalendarToAdd(); });
+    addAction(menu, localized("Allow Calendar A&ccess…"), "requestEventCalendarsAccess", {},
+              with_.calendarActions.allowAccess);
+    addAction(menu, localized("&Tick or Clear All"), "calendarTableViewClicked",
+              QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A), [this] {
+                  auto& calendars = with_.calendarsArrayController;
+                  if (calendars.arrangedCount() > 0 && calendars.selectedRows().empty()) {
+                      calendars.setSelectedRows({0});
+                  }
+                  calendars.calendarTableViewClicked(CalendarsArrayController::ControlKey::Held);
+              });
+}
+
+void MainWindow::makeHelpMenu() {
+    QMenu& menu = *menuBar()->addMenu(localized("&Help"));
+    addAction(menu, localized("&Release Notes"), "openReleaseNotes", {},
+              [this] { with_.appDelegate.openReleaseNotes(); });
+    addAction(menu, localized("&Web Site"), "openWebsite", {},
+              [this] { with_.appDelegate.openWebsite(); });
+    addAction(menu, localized("Check for &Updates…"), "checkForUpdates", {},
+              [this] { with_.appDelegate.checkForUpdates(); });
+    menu.addSeparator();
+    addAction(menu, localized("&About Quillet"), "showAbout", {}, [this] { showAbout(); });
+}
+
+void MainWindow::chooseCalendarToAdd() {
+    QMessageBox box(this);
+    box.setIcon(QMessageBox::Question);
+    box.setText(localized("What would you like to add?"));
+    box.setInformativeText(localized("A folder holds a calendar with one file an event; a file "
+                                     "holds a whole calendar."));
+    const auto* folder = box.addButton(localized("&Folder…"), QMessageBox::AcceptRole);
+    const auto* file = box.addButton(localized("F&ile…"), QMessageBox::AcceptRole);
+    box.addButton(QMessageBox::Cancel);
+    box.exec();
+    QString path;
+    if (box.clickedButton() == folder) {
+        path = QFileDialog::getExistingDirectory(this, localized("Add Calendar Folder"));
+    } else if (box.clickedButton() == file) {
+        path = QFileDialog::getOpenFileName(this, localized("Add Calendar File"), {},
+                                            localized("Calendars (*.ics)"));
+    }
+    if (!path.isEmpty()) {
+        addCalendar(path);
+    }
+}
+
+void MainWindow::addCalendar(const QString& path) {
+    if (const auto result = with_.calendarActions.addCalendar(path); !result) {
+        QMessageBox box(QMessageBox::Warning, {}, localized("The calendar could not be added"),
+                        QMessageBox::Ok, this);
+        box.setInformativeText(result.error());
+        box.exec();
+    }
+}
+
+void MainWindow::showPreferences() {
+    if (preferences_ == nullptr) {
+        preferences_ = new PreferencesDialog(
+            with_.settings, [this] { with_.eventItemViewController.resetAllColumnTitles(); }, this);
+    }
+    preferences_->show();
+    preferences_->raise();
+    preferences_->activateWindow();
+}
+
+void MainWindow::showAbout() {
+    QMessageBox::about(this, localized("About Quillet"),
+                       localized("Quillet %1\n\nThe hours in your calendars, ready to bill.")
+                           .arg(QCoreApplication::applicationVersion()));
+}
+
+} // namespace quillet

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/SettingsStore.h"
+
+#include <QDialog>
+
+class QTabWidget;
+
+namespace quillet {
+
+/// The settings that have no place in the main window. Every control takes effect at once.
+class PreferencesDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    PreferencesDialog(SettingsStore& settings, std::function<void()> resetAllColumnTitles,
+                      QWidget* parent = nullptr);
+    ~PreferencesDialog() override;
+    Q_DISABLE_COPY_MOVE(PreferencesDialog)
+
+private:
+    [[nodiscard]] QWidget* makeGeneralPage();
+    [[nodiscard]] QWidget* makeColumnsPage(std::function<void()> resetAllColumnTitles);
+    [[nodiscard]] QWidget* makeCsvPage();
+    QWidget* makeCheckBox(const QString& text, const char* key);
+
+    SettingsStore& settings_;
+};
+
+} // namespace quillet

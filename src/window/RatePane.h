@@ -1,0 +1,38 @@
+#pragma once
+
+#include "calendars/CalendarsArrayController.h"
+#include "eventtable/EventItemViewController.h"
+
+#include <QWidget>
+
+class QLabel;
+class QLineEdit;
+
+namespace quillet {
+
+/// The hourly rates: one for all calendars, or that of the calendars selected in the list. Shown
+/// while money is on.
+class RatePane : public QWidget {
+    Q_OBJECT
+
+public:
+    RatePane(CalendarsArrayController& calendars, EventItemViewController& labels,
+             SettingsStore& settings, const LocaleFormats& formats, QWidget* parent = nullptr);
+    ~RatePane() override;
+    Q_DISABLE_COPY_MOVE(RatePane)
+
+private:
+    void showRate();
+    void takeRate();
+    [[nodiscard]] bool isSingleRate() const;
+
+    CalendarsArrayController& calendars_;
+    EventItemViewController& labels_;
+    SettingsStore& settings_;
+    const LocaleFormats& formats_;
+    QLabel* label_;
+    QLineEdit* field_;
+    QLabel* complaint_;
+};
+
+} // namespace quillet
