@@ -2,6 +2,7 @@
 
 #include "platform/Localized.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
@@ -85,7 +86,7 @@ bool DesktopDialogs::askForCalendarAccess() {
     box.setInformativeText(
         localized("Quillet lists the events of your calendars and adds up their hours. It reads "
                   "them on this computer only, and changes nothing."));
-    const auto* allow = box.addButton(localized("Allow"), QMessageBox::AcceptRole);
+    const QAbstractButton* allow = box.addButton(localized("Allow"), QMessageBox::AcceptRole);
     box.addButton(localized("Don’t Allow"), QMessageBox::RejectRole);
     box.exec();
     return box.clickedButton() == allow;

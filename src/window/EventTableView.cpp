@@ -3,12 +3,11 @@
 #include "eventtable/EventColumns.h"
 #include "eventtable/EventOrder.h"
 #include "platform/Localized.h"
-#include "window/SettingsBinding.h"
+#include "window/ColumnsMenu.h"
 
 #include <QHeaderView>
 #include <QMenu>
 #include <QScrollBar>
-#include <QSet>
 
 namespace quillet {
 
@@ -51,11 +50,13 @@ private:
 };
 
 EventTableView::EventTableView(QAbstractItemModel& model, ListController<Event>& events,
-                               SettingsStore& settings, MakeSorter makeSorter, QWidget* parent)
+                               SettingsStore& settings, MakeSorter makeSorter,
+                               TimeColumnActions& timeColumnActions, QWidget* parent)
     : QTableView(parent)
     , events_(events)
     , settings_(settings)
-    , makeSorter_(std::move(makeSorter)) {
+    , makeSorter_(std::move(makeSorter))
+    , timeColumnActions_(timeColumnActions) {
     setModel(&model);
     setAccessibleName(localized("Events"));
     setSelectionBehavior(SelectRows);
@@ -137,16 +138,7 @@ bool EventTableView::restoreColumnState(const QByteArray& state) {
 
 void EventTableView::showHeaderMenu(const QPoint& position) {
     QMenu menu(this);
-    QSet<QString> listed;
-    for (const EventColumn& column : eventColumns()) {
-        const QString key = QString::fromLatin1(column.visibilityKey);
-        if (!listed.contains(key)) {
-            listed.insert(key);
-            bindAction(
-                *menu.addAction(stringForKey(settings_, QString::fromLatin1(column.titleKey))),
-                settings_, key);
-        }
-    }
+    fillColumnsMenu(menu, settings_, timeColumnActions_);
     menu.exec(horizontalHeader()->mapToGlobal(position));
 }
 

@@ -14,9 +14,10 @@
 namespace quillet {
 
 enum class SortDirection;
+struct TimeColumnActions;
 
 /// The event table on screen. Its columns can be moved, resized, hidden and sorted by the user; its
-/// selection and that of the list controller are one.
+/// selection and that of the list controller are one. The header's menu shows and hides columns.
 class EventTableView : public QTableView, public ColumnTable {
     Q_OBJECT
 
@@ -26,7 +27,8 @@ public:
                                                                    SortDirection direction)>;
 
     EventTableView(QAbstractItemModel& model, ListController<Event>& events,
-                   SettingsStore& settings, MakeSorter makeSorter, QWidget* parent = nullptr);
+                   SettingsStore& settings, MakeSorter makeSorter,
+                   TimeColumnActions& timeColumnActions, QWidget* parent = nullptr);
     ~EventTableView() override;
     Q_DISABLE_COPY_MOVE(EventTableView)
 
@@ -52,6 +54,7 @@ private:
     ListController<Event>& events_;
     SettingsStore& settings_;
     MakeSorter makeSorter_;
+    TimeColumnActions& timeColumnActions_;
     std::vector<std::unique_ptr<HeaderColumn>> columns_;
     bool isShowingSelection_ = false;
     int scrollPosition_ = 0;

@@ -7,6 +7,7 @@
 #include "export/ExportCSV.h"
 #include "period/DateInspectorController.h"
 #include "window/CalendarListModel.h"
+#include "window/InterfaceActions.h"
 
 #include <QMainWindow>
 
@@ -54,6 +55,7 @@ public:
         AppDelegate& appDelegate;
         EventTableView& eventTable;
         QAction& exportCsvAction;
+        TimeColumnActions& timeColumnActions;
         CalendarActions calendarActions;
     };
 
@@ -61,7 +63,7 @@ public:
     ~MainWindow() override;
     Q_DISABLE_COPY_MOVE(MainWindow)
 
-    /// Sizes and positions as the last run left them; true when there were any.
+    /// Sizes and positions as the last run left them, or the first ones.
     void restoreState(const QString& stateFile);
     void saveState(const QString& stateFile) const;
     /// Shows a message in the status area until the next one.

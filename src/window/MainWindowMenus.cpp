@@ -1,7 +1,7 @@
 #include "window/MainWindow.h"
 
-#include "eventtable/EventColumns.h"
 #include "platform/Localized.h"
+#include "window/ColumnsMenu.h"
 #include "window/EventTableView.h"
 #include "window/PreferencesDialog.h"
 #include "window/SettingsBinding.h"
@@ -11,8 +11,9 @@
 #include <QFileDialog>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QSet>
+#include <QPushButton>
 #include <QToolBar>
+#include <QToolButton>
 
 #include <array>
 
@@ -139,14 +140,12 @@ void MainWindow::makeViewMenu() {
     }
     menu.addSeparator();
     QMenu& columns = *menu.addMenu(localized("&Columns"));
-    QSet<QString> listed;
-    for (const EventColumn& column : eventColumns()) {
-        const QString key = QString::fromLatin1(column.visibilityKey);
-        if (!listed.contains(key)) {
-            listed.insert(key);
-            bindAction(*columns.addAction(localized(column.defaultTitle)), with_.settings, key);
-        }
-    }
+    // The users' own titles may change while the window is open.
+    connect(&columns, &QMenu::aboutToShow, this, [this, &columns] {
+        columns.clear();
+        fillColumnsMenu(columns, with_.settings, with_.timeColumnActions);
+    });
+    fillColumnsMenu(columns, with_.settings, with_.timeColumnActions);
 }
 
 void MainWindow::makePeriodMenu() {
@@ -196,8 +195,8 @@ void MainWindow::chooseCalendarToAdd() {
     box.setText(localized("What would you like to add?"));
     box.setInformativeText(localized("A folder holds a calendar with one file an event; a file "
                                      "holds a whole calendar."));
-    const auto* folder = box.addButton(localized("&Folder…"), QMessageBox::AcceptRole);
-    const auto* file = box.addButton(localized("F&ile…"), QMessageBox::AcceptRole);
+    QAbstractButton* folder = box.addButton(localized("&Folder…"), QMessageBox::AcceptRole);
+    QAbstractButton* file = box.addButton(localized("F&ile…"), QMessageBox::AcceptRole);
     box.addButton(QMessageBox::Cancel);
     box.exec();
     QString path;

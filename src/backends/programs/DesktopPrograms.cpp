@@ -45,6 +45,7 @@ QString ProcessTaskLauncher::executablePath() const {
 
 std::expected<void, QString> ProcessTaskLauncher::launch(const QString& path,
                                                          const QStringList& arguments) {
+    prepare_();
     if (QProcess::startDetached(path, arguments)) {
         return {};
     }

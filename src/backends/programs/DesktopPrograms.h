@@ -3,6 +3,8 @@
 #include "platform/TaskLauncher.h"
 #include "platform/Workspace.h"
 
+#include <functional>
+
 namespace quillet {
 
 /// Opens files and web addresses with the desktop's programs; no other kind of address is opened.
@@ -14,10 +16,17 @@ public:
 
 class ProcessTaskLauncher final : public TaskLauncher {
 public:
+    /// `prepare` is called before a program starts, so that it finds on disk what this one knows.
+    explicit ProcessTaskLauncher(std::function<void()> prepare)
+        : prepare_(std::move(prepare)) {}
+
     [[nodiscard]] qint64 processIdentifier() const override;
     [[nodiscard]] QString executablePath() const override;
     std::expected<void, QString> launch(const QString& path, const QStringList& arguments) override;
     void terminate() override;
+
+private:
+    std::function<void()> prepare_;
 };
 
 } // namespace quillet

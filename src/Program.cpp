@@ -1,0 +1,140 @@
+#include "Program.h"
+
+#include "eventtable/ColumnLayout.h"
+#include "eventtable/EventOrder.h"
+#include "platform/Localized.h"
+
+#include <QSettings>
+#include <QTimer>
+
+namespace quillet {
+
+namespace {
+
+const QString windowStateFile = QStringLiteral("/window.ini");
+
+EventItemViewController::TimeMenuItems items(TimeColumnActions& actions) {
+    return {actions.hours, actions.minutes, actions.duration};
+}
+
+} // namespace
+
+Program::Program(const ProgramPaths& paths)
+    : paths_(paths)
+    , settings_(paths.settingsFile)
+    , timeZone_(systemTimeZoneName())
+    , locales_(localeNamesOfProcess())
+    , gregorian_(locales_.time, timeZone_, CalendarSystem::Gregorian)
+    , currentCalendar_(locales_.time, timeZone_, CalendarSystem::OfLocale)
+    , formats_(locales_, timeZone_)
+    , taskLauncher_([this] { settings_.flush(); })
+    , access_(
+          paths.stateFolder,
+          [this](const CalendarAccess::Answer& answer) { answer(dialogs_.askForCalendarAccess()); })
+    , folderStore_(paths.calendarsFolder, access_)
+    , store_({folderStore_})
+    , mainQueue_(makeMainQueue())
+    , timer_(makeOneShotTimer())
+    , eventKitManager_(store_, settings_, dialogs_, *mainQueue_)
+    , billing_(settings_, gregorian_)
+    , fields_(billing_, formats_, gregorian_, currentCalendar_)
+    , events_(eventIdentityHash, isSameEvent)
+    , calendars_(settings_, eventKitManager_, formats_, *timer_)
+    , fetchQueue_(makeBackgroundQueue(EventsController::backgroundEventFetchQueueLabel()))
+    , eventsController_({eventKitManager_, settings_, billing_, gregorian_, events_, calendars_,
+                         *fetchQueue_, *mainQueue_})
+    , dateInspector_({settings_, clock_, gregorian_, currentCalendar_, formats_})
+    , eventModel_(events_, fields_, settings_)
+    , eventTable_(new EventTableView(
+          eventModel_, events_, settings_,
+          [this](const QString& column, SortDirection direction) {
+              return eventSorter(column, direction, fields_, currentCalendar_);
+          },
+          headerTimeColumns_))
+    , eventItemView_({settings_, *eventTable_, items(menuTimeColumns_), items(headerTimeColumns_),
+                      calendars_, gregorian_, formats_})
+    , exportCSV_({settings_, *eventTable_, events_, fields_, dialogs_})
+    , appDelegate_(
+          {settings_, workspace_, taskLauncher_, dialogs_, {&csvItem_}, paths.releaseNotes})
+    , activation_([this] { eventKitManager_.becomeActive(); }) {}
+
+Program::~Program() {
+    if (window_) {
+        window_->saveState(paths_.stateFolder + windowStateFile);
+    }
+    // The main queue's last tasks would find their receivers gone.
+    fetchQueue_.reset();
+}
+
+void Program::start() {
+    wake();
+    window_ = std::make_unique<MainWindow>(MainWindow::Collaborators{
+        settings_, formats_, currentCalendar_, billing_, events_, calendars_, eventsController_,
+        dateInspector_, eventItemView_, exportCSV_, appDelegate_, *eventTable_, csvItem_.action(),
+        menuTimeColumns_, calendarActions()});
+    dialogs_.setWindow(window_.get());
+    connectNotices();
+    appDelegate_.awakeFromNib();
+    appDelegate_.applicationDidFinishLaunching();
+    window_->restoreState(paths_.stateFolder + windowStateFile);
+    window_->refreshProblems();
+    window_->showMessage(settings_.startMessage().value_or(QString()));
+    window_->show();
+    QTimer::singleShot(0, window_.get(), [this] { eventKitManager_.becomeActive(); });
+}
+
+void Program::wake() {
+    billing_.migrateHourlyRate();
+    calendars_.awakeFromNib();
+    dateInspector_.awakeFromNib();
+    arrangeColumns();
+    eventItemView_.awakeFromNib();
+    eventsController_.awakeFromNib();
+}
+
+void Program::arrangeColumns() {
+    const QSettings state(paths_.stateFolder + windowStateFile, QSettings::IniFormat);
+    if (!eventTable_->restoreColumnState(state.value(QStringLiteral("columns")).toByteArray())) {
+        applyPlacements(defaultColumnPlacements(), *eventTable_);
+    }
+}
+
+void Program::connectNotices() {
+    QObject::connect(&eventKitManager_, &EventKitManager::accessGranted, window_.get(),
+                     [this] { appDelegate_.accessGranted(); });
+    storeObservation_ = store_.observeChanges([this] { window_->refreshProblems(); });
+    settingsProblemObservation_ = settings_.observeWriteProblem(
+        [this](const QString& problem) { window_->showMessage(problem); });
+}
+
+CalendarActions Program::calendarActions() {
+    return {.addCalendar = [this](const QString& path) { return folderStore_.addCalendar(path); },
+            .allowAccess = [this] { askForAccessAgain(); },
+            .problems =
+                [this] {
+                    QStringList lines;
+                    for (const StoreProblem& problem : store_.problems()) {
+                        lines << QStringLiteral("%1: %2").arg(problem.subject, problem.reason);
+                    }
+                    return lines;
+                },
+            .colorOf =
+                [this](const QString& identifier) {
+                    for (const auto& calendar : eventKitManager_.eventCalendars()) {
+                        if (calendar->calendarIdentifier == identifier) {
+                            return QColor(calendar->colorName);
+                        }
+                    }
+                    return QColor();
+                }};
+}
+
+void Program::askForAccessAgain() {
+    access_.forget();
+    eventKitManager_.becomeActive();
+    if (access_.status() == AuthorizationStatus::Denied) {
+        eventKitManager_.becomeActive();
+    }
+}
+
+} // namespace quillet

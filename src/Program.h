@@ -1,0 +1,85 @@
+#pragma once
+
+#include "backends/combined/CalendarAccess.h"
+#include "backends/combined/CombinedEventStore.h"
+#include "backends/icsfolder/IcsFolderStore.h"
+#include "backends/icu/IcuCalendarArithmetic.h"
+#include "backends/icu/IcuLocaleFormats.h"
+#include "backends/programs/DesktopPrograms.h"
+#include "backends/settingsfile/SettingsFile.h"
+#include "window/ActivationWatcher.h"
+#include "window/DesktopDialogs.h"
+#include "window/EventTableModel.h"
+#include "window/EventTableView.h"
+#include "window/InterfaceActions.h"
+#include "window/MainWindow.h"
+
+namespace quillet {
+
+/// Where the program keeps its files.
+struct ProgramPaths {
+    QString settingsFile;
+    QString calendarsFolder;
+    QString stateFolder;
+    QString releaseNotes;
+};
+
+/// Every part of the program, built and wired. The members stand in the order in which they need
+/// each other.
+class Program {
+public:
+    explicit Program(const ProgramPaths& paths);
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    /// Wakes the controllers, shows the window and comes to the front for the first time.
+    void start();
+
+private:
+    [[nodiscard]] CalendarActions calendarActions();
+    void wake();
+    void arrangeColumns();
+    void askForAccessAgain();
+    void connectNotices();
+
+    ProgramPaths paths_;
+    SettingsFile settings_;
+    QString timeZone_;
+    LocaleNames locales_;
+    IcuCalendarArithmetic gregorian_;
+    IcuCalendarArithmetic currentCalendar_;
+    IcuLocaleFormats formats_;
+    SystemClock clock_;
+    DesktopDialogs dialogs_;
+    DesktopWorkspace workspace_;
+    ProcessTaskLauncher taskLauncher_;
+    CalendarAccess access_;
+    IcsFolderStore folderStore_;
+    CombinedEventStore store_;
+    std::unique_ptr<SerialQueue> mainQueue_;
+    std::unique_ptr<OneShotTimer> timer_;
+    EventKitManager eventKitManager_;
+    BillingSettingsSource billing_;
+    EventFields fields_;
+    ListController<Event> events_;
+    CalendarsArrayController calendars_;
+    std::unique_ptr<SerialQueue> fetchQueue_;
+    EventsController eventsController_;
+    DateInspectorController dateInspector_;
+    TimeColumnActions menuTimeColumns_;
+    TimeColumnActions headerTimeColumns_;
+    ActionToolbarItem csvItem_;
+    EventTableModel eventModel_;
+    /// Belongs to the window once that is built.
+    EventTableView* eventTable_;
+    EventItemViewController eventItemView_;
+    ExportCSV exportCSV_;
+    AppDelegate appDelegate_;
+    std::unique_ptr<MainWindow> window_;
+    ActivationWatcher activation_;
+    Observation storeObservation_;
+    Observation settingsProblemObservation_;
+};
+
+} // namespace quillet
