@@ -54,7 +54,8 @@ bool CalendarListModel::setData(const QModelIndex& index, const QVariant& value,
 }
 
 Qt::ItemFlags CalendarListModel::flags(const QModelIndex& index) const {
-    return QAbstractTableModel::flags(index) | Qt::ItemIsUserCheckable;
+    return index.isValid() ? QAbstractTableModel::flags(index) | Qt::ItemIsUserCheckable
+                           : QAbstractTableModel::flags(index);
 }
 
 } // namespace quillet

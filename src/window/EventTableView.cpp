@@ -88,7 +88,7 @@ void EventTableView::setUpHeader() {
     header.setSectionsMovable(true);
     header.setSectionsClickable(true);
     header.setHighlightSections(false);
-    header.setStretchLastSection(true);
+    header.setStretchLastSection(false);
     header.setMinimumSectionSize(fontMetrics().averageCharWidth() * 4);
     header.setSortIndicatorClearable(true);
     header.setSortIndicator(-1, Qt::AscendingOrder);

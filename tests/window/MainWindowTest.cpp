@@ -1,0 +1,231 @@
+#include "WindowFixture.h"
+
+#include "window/CalendarListModel.h"
+#include "window/CalendarPane.h"
+#include "window/EmptyState.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemModelTester>
+#include <QCalendarWidget>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QTabBar>
+#include <QTest>
+
+namespace quillet {
+
+using test::utc;
+using MainWindowTest = test::WindowFixture;
+
+TEST_F(MainWindowTest, ShowsTheEventsOfThePeriodWithTheirFigures) {
+    const QAbstractItemModelTester tester(&model,
+                                          QAbstractItemModelTester::FailureReportingMode::Warning);
+    open();
+    ASSERT_EQ(model.rowCount(), 3);
+    const auto cell = [&](int row, const char* column) {
+        const int position = table->positionOf(column);
+        return model.index(row, table->horizontalHeader()->logicalIndex(position))
+            .data()
+            .toString();
+    };
+    EXPECT_EQ(cell(0, "title"), QStringLiteral("Planning"));
+    EXPECT_EQ(cell(0, "hours"), QStringLiteral("2"));
+    EXPECT_EQ(cell(0, "cost"), QStringLiteral("$180.00"));
+    EXPECT_EQ(cell(0, "date"), QStringLiteral("3/4/24"));
+    EXPECT_EQ(cell(1, "calendar"), QStringLiteral("Home"));
+    EXPECT_TRUE(table->isVisible());
+    settings.setObject("isDollarsOn", false);
+    EXPECT_TRUE(table->columnAt(table->positionOf("cost")).isHidden());
+}
+
+TEST_F(MainWindowTest, TheColumnsStandInTheirFirstOrderAndCanBeMoved) {
+    open();
+    EXPECT_EQ(table->positionOf("date"), 0);
+    EXPECT_EQ(table->positionOf("calendar"), 1);
+    table->moveColumn(table->positionOf("title"), 0);
+    EXPECT_EQ(table->columnAt(0).identifier(), QStringLiteral("title"));
+    const QByteArray state = table->columnState();
+    table->moveColumn(0, 5);
+    EXPECT_TRUE(table->restoreColumnState(state));
+    EXPECT_EQ(table->positionOf("title"), 0);
+}
+
+TEST_F(MainWindowTest, AHiddenColumnKeepsItsWidth) {
+    open();
+    TableColumn& title = table->columnAt(table->positionOf("title"));
+    title.setWidthPoints(333);
+    settings.setObject("isTitleColumn", false);
+    EXPECT_TRUE(title.isHidden());
+    EXPECT_EQ(title.widthPoints(), 333);
+    settings.setObject("isTitleColumn", true);
+    EXPECT_EQ(table->horizontalHeader()->sectionSize(2), 333);
+}
+
+TEST_F(MainWindowTest, HeadersFollowTheirTitles) {
+    open();
+    settings.setObject("titleColumnTitle", "What");
+    EXPECT_EQ(table->columnAt(table->positionOf("title")).headerTitle(), QStringLiteral("What"));
+}
+
+TEST_F(MainWindowTest, ClicksOnAHeaderSortAndTheThirdRestoresTheOrderOfTime) {
+    open();
+    const auto first = [&] { return model.index(0, 2).data().toString().toStdString(); };
+    table->horizontalHeader()->setSortIndicator(2, Qt::AscendingOrder);
+    fetch();
+    EXPECT_EQ(first(), "Dentist");
+    table->horizontalHeader()->setSortIndicator(2, Qt::DescendingOrder);
+    fetch();
+    EXPECT_EQ(first(), "Workshop");
+    table->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    fetch();
+    EXPECT_EQ(first(), "Planning");
+}
+
+TEST_F(MainWindowTest, TheSelectionOfTheTableAndOfTheListAreOneAndSurviveAFetch) {
+    open();
+    table->selectRow(2);
+    ASSERT_EQ(events.selectedRows(), std::vector<std::size_t>{2});
+    flipBool(settings, "datesChangedTrigger");
+    fetch();
+    ASSERT_EQ(events.selectedRows(), std::vector<std::size_t>{2});
+    ASSERT_EQ(table->selectionModel()->selectedRows().size(), 1);
+    EXPECT_EQ(table->selectionModel()->selectedRows().first().row(), 2);
+}
+
+TEST_F(MainWindowTest, UntickingACalendarTakesItsEventsAway) {
+    CalendarListModel listModel(calendars, [](const QString&) { return QColor(); });
+    const QAbstractItemModelTester tester(&listModel,
+                                          QAbstractItemModelTester::FailureReportingMode::Warning);
+    open();
+    auto* list = named<QTableView>("Calendars");
+    ASSERT_EQ(list->model()->rowCount(), 2);
+    EXPECT_EQ(list->model()->index(0, 0).data(Qt::AccessibleTextRole), QVariant("Home"));
+    list->model()->setData(list->model()->index(0, 0), Qt::Unchecked, Qt::CheckStateRole);
+    fetch();
+    EXPECT_EQ(model.rowCount(), 2);
+}
+
+TEST_F(MainWindowTest, AControlClickOnACalendarClearsAllTicks) {
+    open();
+    auto* list = named<QTableView>("Calendars");
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                      list->visualRect(list->model()->index(1, 0)).center());
+    EXPECT_FALSE(calendars.arranged(0).isSelected);
+    EXPECT_FALSE(calendars.arranged(1).isSelected);
+    fetch();
+    auto* empty = window->findChild<EmptyState*>();
+    ASSERT_TRUE(empty->isVisible());
+    empty->findChild<QAbstractButton*>()->click();
+    fetch();
+    EXPECT_EQ(model.rowCount(), 3);
+    EXPECT_FALSE(empty->isVisible());
+}
+
+TEST_F(MainWindowTest, ThePeriodIsChosenAndStepped) {
+    open();
+    auto* title = named<QLabel>("Reporting Period");
+    EXPECT_EQ(title->text(), QString::fromUtf8("Month · March 1, 2024 - March 31, 2024"));
+    named<QAbstractButton>("Day")->click();
+    fetch();
+    EXPECT_EQ(title->text(), QString::fromUtf8("Day · March 3, 2024"));
+    EXPECT_TRUE(window->findChild<EmptyState*>()->isVisible());
+    window->findChild<QAction*>("setQuickDatesNext")->trigger();
+    fetch();
+    EXPECT_EQ(title->text(), QString::fromUtf8("Day · March 4, 2024"));
+    EXPECT_EQ(model.rowCount(), 1);
+}
+
+TEST_F(MainWindowTest, PickingAnEndMakesThePeriodCustom) {
+    open();
+    auto* picker = named<QCalendarWidget>("End Date");
+    EXPECT_EQ(picker->selectedDate(), QDate(2024, 3, 31));
+    Q_EMIT picker->clicked(QDate(2024, 3, 5));
+    fetch();
+    EXPECT_TRUE(named<QAbstractButton>("Custom")->isChecked());
+    EXPECT_FALSE(named<QAbstractButton>("Lock End Date")->isChecked());
+    EXPECT_EQ(model.rowCount(), 2);
+    named<QAbstractButton>("Lock End Date")->click();
+    Q_EMIT named<QCalendarWidget>("Start Date")->clicked(QDate(2024, 3, 11));
+    EXPECT_EQ(picker->selectedDate(), QDate(2024, 3, 15));
+}
+
+TEST_F(MainWindowTest, ANewSharedRateChangesTheCosts) {
+    open();
+    auto* field = named<QLineEdit>("Hourly Rate");
+    EXPECT_EQ(field->text(), QStringLiteral("90"));
+    field->selectAll();
+    QTest::keyClicks(field, "12.5");
+    QTest::keyClick(field, Qt::Key_Return);
+    fetch();
+    EXPECT_EQ(decimalFromValue(settings.object("hourlyRate")), Decimal::fromDouble(12.5));
+    field->selectAll();
+    QTest::keyClicks(field, "ten");
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(field->text(), QStringLiteral("12.5"));
+    EXPECT_TRUE(named<QLabel>("Hourly Rate Problem")->text().contains("ten"));
+    EXPECT_EQ(decimalFromValue(settings.object("hourlyRate")), Decimal::fromDouble(12.5));
+}
+
+TEST_F(MainWindowTest, TheResultsFollowTheChosenTab) {
+    open();
+    table->selectRow(0);
+    fetch();
+    EXPECT_EQ(named<QLabel>("Total")->text(), QStringLiteral("11h"));
+    EXPECT_EQ(named<QLabel>("Cost")->text(), QStringLiteral("$990.00"));
+    named<QTabBar>("Results")->setCurrentIndex(1);
+    QApplication::processEvents();
+    EXPECT_EQ(integerForKey(settings, "totalsTabViewSelection"), 1);
+    EXPECT_EQ(named<QLabel>("Total")->text(), QStringLiteral("2h"));
+    EXPECT_EQ(named<QLabel>("Cost")->text(), QStringLiteral("$180.00"));
+}
+
+TEST_F(MainWindowTest, TheExportActionAsksForAPlace) {
+    open();
+    csvItem.action().trigger();
+    ASSERT_EQ(panel.requests.size(), 1U);
+    EXPECT_EQ(exportCSV.text().section(u'\n', 0, 0),
+              QString("\"Start Date\",\"Calendar\",\"Title\",\"Hours\",\"Cost\""));
+}
+
+TEST_F(MainWindowTest, ProblemsStandAtTheFootOfTheList) {
+    open();
+    auto* foot = named<QLabel>("Calendar Problems");
+    EXPECT_FALSE(foot->isVisible());
+    problems = {"work.ics: not a calendar file"};
+    window->refreshProblems();
+    EXPECT_TRUE(foot->isVisible());
+    EXPECT_EQ(foot->text(), problems.first());
+}
+
+TEST_F(MainWindowTest, WithoutAccessTheWindowSaysSo) {
+    settings.setObject("isCalendarAccessGranted", false);
+    open();
+    EXPECT_TRUE(window->findChild<EmptyState*>()->isVisible());
+    EXPECT_FALSE(named<QAbstractButton>("Month")->isEnabled());
+}
+
+TEST_F(MainWindowTest, EveryMenuActionHasANameAndNoShortcutIsTakenTwice) {
+    open();
+    QSet<QString> shortcuts;
+    for (const QAction* menu : window->menuBar()->actions()) {
+        for (const QAction* action : menu->menu()->actions()) {
+            if (action->isSeparator() || action->menu() != nullptr) {
+                continue;
+            }
+            EXPECT_FALSE(action->text().isEmpty());
+            const QString shortcut = action->shortcut().toString();
+            EXPECT_TRUE(shortcut.isEmpty() || !shortcuts.contains(shortcut))
+                << shortcut.toStdString();
+            shortcuts.insert(shortcut);
+        }
+    }
+    if (const QString path = qEnvironmentVariable("QUILLET_TEST_SCREENSHOT"); !path.isEmpty()) {
+        window->resize(1280, 800);
+        QApplication::processEvents();
+        EXPECT_TRUE(window->grab().save(path));
+    }
+}
+
+} // namespace quillet

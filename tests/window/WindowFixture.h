@@ -1,0 +1,136 @@
+#pragma once
+
+#include "backends/icu/IcuCalendarArithmetic.h"
+#include "backends/icu/IcuLocaleFormats.h"
+#include "eventtable/ColumnLayout.h"
+#include "eventtable/EventOrder.h"
+#include "support/EventSamples.h"
+#include "support/Fakes.h"
+#include "support/MemorySettings.h"
+#include "window/EventTableModel.h"
+#include "window/EventTableView.h"
+#include "window/InterfaceActions.h"
+#include "window/MainWindow.h"
+
+#include <QApplication>
+
+#include <gtest/gtest.h>
+
+namespace quillet::test {
+
+/// The real window and controllers over a store, a clock and queues that the test holds.
+class WindowFixture : public testing::Test {
+protected:
+    WindowFixture() {
+        store.storedCalendars = {calendar("w", "Work", "#3584e4"),
+                                 calendar("h", "Home", "#e66100")};
+        for (const char* key : {"isCalendarAccessGranted", "isDollarsOn", "isSingleRate"}) {
+            settings.setObject(key, true);
+        }
+        settings.setObject("hourlyRate", 90);
+        settings.setObject("timeTypeSelection", 1);
+        settings.setObject("quickDatePeriod", 2);
+        settings.setObject("filterStartDate", QVariant::fromValue(utc(2024, 3, 1)));
+        settings.setObject("filterEndDate", QVariant::fromValue(utc(2024, 3, 31, 23, 59, 59)));
+        store.storedEvents = {event("w", "Planning", 4, 9, 11), event("h", "Dentist", 5, 8, 9),
+                              event("w", "Workshop", 11, 9, 17)};
+    }
+    ~WindowFixture() override { window.reset(); }
+
+    static std::shared_ptr<const StoreCalendar>
+    calendar(const QString& identifier, const QString& title, const QString& color) {
+        return std::make_shared<const StoreCalendar>(StoreCalendar{identifier, title, color});
+    }
+    Event event(const QString& calendarIdentifier, const QString& title, unsigned day, int from,
+                int to) const {
+        EventDetails details;
+        details.calendar = *std::ranges::find(store.storedCalendars, calendarIdentifier,
+                                              &StoreCalendar::calendarIdentifier);
+        details.title = title;
+        details.eventIdentifier = title;
+        return {utc(2024, 3, day, from), utc(2024, 3, day, to), Instant(),
+                std::make_shared<const EventDetails>(std::move(details))};
+    }
+
+    void open() {
+        calendars.awakeFromNib();
+        inspector.awakeFromNib();
+        applyPlacements(defaultColumnPlacements(), *table);
+        itemView.awakeFromNib();
+        eventsController.awakeFromNib();
+        window = std::make_unique<MainWindow>(MainWindow::Collaborators{
+            settings, formats, gregorian, billing, events, calendars, eventsController, inspector,
+            itemView, exportCSV, delegate, *table, csvItem.action(), menuTimeColumns,
+            CalendarActions{
+                .addCalendar = [](const QString&) { return std::expected<void, QString>(); },
+                .allowAccess = [] {},
+                .problems = [this] { return problems; },
+                .colorOf = [](const QString&) { return QColor(Qt::red); }}});
+        delegate.awakeFromNib();
+        delegate.applicationDidFinishLaunching();
+        window->show();
+        fetch();
+    }
+    /// Lets the fetch that is under way, and what follows from it, finish.
+    void fetch() {
+        while (background.runOne() || main.runOne()) {
+        }
+        QApplication::processEvents();
+    }
+    template <typename Widget>
+    Widget* named(const char* accessibleName) const {
+        for (Widget* widget : window->findChildren<Widget*>()) {
+            if (widget->accessibleName() == QLatin1StringView(accessibleName)) {
+                return widget;
+            }
+        }
+        ADD_FAILURE() << "no widget is called " << accessibleName;
+        return nullptr;
+    }
+
+    MemorySettings settings;
+    FakeEventStore store;
+    FakeAlerts alerts;
+    FakeQueue background;
+    FakeQueue main;
+    FakeTimer timer;
+    FakeClock clock{utc(2024, 3, 6, 12)};
+    FakeSavePanel panel;
+    FakeWorkspace workspace;
+    FakeTaskLauncher launcher;
+    FakeUpdater updater;
+    QStringList problems;
+    IcuCalendarArithmetic gregorian{"en_US", "UTC", CalendarSystem::Gregorian};
+    IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "UTC"};
+    EventKitManager manager{store, settings, alerts, main};
+    BillingSettingsSource billing{settings, gregorian};
+    EventFields fields{billing, formats, gregorian, gregorian};
+    ListController<Event> events{eventIdentityHash, isSameEvent};
+    CalendarsArrayController calendars{settings, manager, formats, timer};
+    EventsController eventsController{
+        {manager, settings, billing, gregorian, events, calendars, background, main}};
+    DateInspectorController inspector{{settings, clock, gregorian, gregorian, formats}};
+    TimeColumnActions menuTimeColumns;
+    TimeColumnActions headerTimeColumns;
+    ActionToolbarItem csvItem;
+    EventTableModel model{events, fields, settings};
+    EventTableView* table = new EventTableView(
+        model, events, settings,
+        [this](const QString& column, SortDirection direction) {
+            return eventSorter(column, direction, fields, gregorian);
+        },
+        headerTimeColumns);
+    EventItemViewController itemView{
+        {settings,
+         *table,
+         {menuTimeColumns.hours, menuTimeColumns.minutes, menuTimeColumns.duration},
+         {headerTimeColumns.hours, headerTimeColumns.minutes, headerTimeColumns.duration},
+         calendars,
+         gregorian,
+         formats}};
+    ExportCSV exportCSV{{settings, *table, events, fields, panel}};
+    AppDelegate delegate{{settings, workspace, launcher, updater, {&csvItem}, {}}};
+    std::unique_ptr<MainWindow> window;
+};
+
+} // namespace quillet::test
