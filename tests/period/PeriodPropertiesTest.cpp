@@ -160,7 +160,7 @@ RC_GTEST_PROP(PeriodPropertiesTest, NoSequenceOfActionsLeavesAKindWithOtherDates
     const Observation observation = inspector->settings.observe("datesChangedTrigger", [&] {
         announced.emplace_back(inspector->start(), inspector->end());
     });
-    const int actions = *rc::gen::inRange(1, 12).as("actions");
+    const int actions = *rc::gen::inRange(1, 40).as("actions");
     for (int action = 0; action < actions; ++action) {
         announced.clear();
         doAnything(*inspector);
