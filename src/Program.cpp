@@ -40,6 +40,8 @@ Program::Program(const ProgramPaths& paths)
     , fields_(billing_, formats_, gregorian_, currentCalendar_)
     , events_(eventIdentityHash, isSameEvent)
     , calendars_(settings_, eventKitManager_, formats_, *timer_)
+    , calendarGroups_(settings_, dialogs_)
+    , calendarGroupsFilter_({settings_, calendars_, calendarGroups_, *timer_})
     , fetchQueue_(makeBackgroundQueue(EventsController::backgroundEventFetchQueueLabel()))
     , eventsController_({eventKitManager_, settings_, billing_, gregorian_, events_, calendars_,
                          *fetchQueue_, *mainQueue_})
@@ -51,8 +53,11 @@ Program::Program(const ProgramPaths& paths)
               return eventSorter(column, direction, fields_, currentCalendar_);
           },
           headerTimeColumns_))
+    , resultsPane_(new ResultsPane(settings_))
     , eventItemView_({settings_, *eventTable_, items(menuTimeColumns_), items(headerTimeColumns_),
                       calendars_, gregorian_, formats_})
+    , eventResults_({settings_, *resultsPane_, eventsController_, events_, billing_, formats_})
+    , columnLayouts_({settings_, *eventTable_, dialogs_})
     , exportCSV_({settings_, *eventTable_, events_, fields_, dialogs_})
     , appDelegate_(
           {settings_, workspace_, taskLauncher_, dialogs_, {&csvItem_}, paths.releaseNotes})
@@ -69,9 +74,9 @@ Program::~Program() {
 void Program::start() {
     wake();
     window_ = std::make_unique<MainWindow>(MainWindow::Collaborators{
-        settings_, formats_, currentCalendar_, billing_, events_, calendars_, eventsController_,
-        dateInspector_, eventItemView_, exportCSV_, appDelegate_, *eventTable_, csvItem_.action(),
-        menuTimeColumns_, calendarActions()});
+        settings_, formats_, currentCalendar_, events_, calendars_, dateInspector_, eventItemView_,
+        exportCSV_, appDelegate_, *eventTable_, *resultsPane_, csvItem_.action(), menuTimeColumns_,
+        calendarActions()});
     dialogs_.setWindow(window_.get());
     connectNotices();
     appDelegate_.awakeFromNib();
@@ -86,8 +91,13 @@ void Program::start() {
 void Program::wake() {
     billing_.migrateHourlyRate();
     calendars_.awakeFromNib();
+    calendarGroups_.awakeFromNib();
+    calendarGroupsFilter_.awakeFromNib();
     dateInspector_.awakeFromNib();
     arrangeColumns();
+    eventResults_.awakeFromNib();
+    resultsPane_->follow(eventResults_);
+    columnLayouts_.awakeFromNib();
     eventItemView_.awakeFromNib();
     eventsController_.awakeFromNib();
 }

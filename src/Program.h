@@ -7,12 +7,16 @@
 #include "backends/icu/IcuLocaleFormats.h"
 #include "backends/programs/DesktopPrograms.h"
 #include "backends/settingsfile/SettingsFile.h"
+#include "calendars/CalendarGroupsArrayController.h"
+#include "calendars/CalendarGroupsController.h"
+#include "eventtable/ColumnLayoutsArrayController.h"
 #include "window/ActivationWatcher.h"
 #include "window/DesktopDialogs.h"
 #include "window/EventTableModel.h"
 #include "window/EventTableView.h"
 #include "window/InterfaceActions.h"
 #include "window/MainWindow.h"
+#include "window/ResultsPane.h"
 
 namespace quillet {
 
@@ -64,6 +68,8 @@ private:
     EventFields fields_;
     ListController<Event> events_;
     CalendarsArrayController calendars_;
+    CalendarGroupsArrayController calendarGroups_;
+    CalendarGroupsController calendarGroupsFilter_;
     std::unique_ptr<SerialQueue> fetchQueue_;
     EventsController eventsController_;
     DateInspectorController dateInspector_;
@@ -71,9 +77,12 @@ private:
     TimeColumnActions headerTimeColumns_;
     ActionToolbarItem csvItem_;
     EventTableModel eventModel_;
-    /// Belongs to the window once that is built.
+    /// Belong to the window once that is built.
     EventTableView* eventTable_;
+    ResultsPane* resultsPane_;
     EventItemViewController eventItemView_;
+    EventResultsViewController eventResults_;
+    ColumnLayoutsArrayController columnLayouts_;
     ExportCSV exportCSV_;
     AppDelegate appDelegate_;
     std::unique_ptr<MainWindow> window_;

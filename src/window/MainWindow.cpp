@@ -94,8 +94,7 @@ QWidget* MainWindow::makeCentre() {
     layout->addWidget(line());
     layout->addWidget(new RatePane(with_.calendarsArrayController, with_.eventItemViewController,
                                    with_.settings, with_.formats, this));
-    layout->addWidget(new ResultsPane(with_.eventsController, with_.eventsArrayController,
-                                      with_.billing, with_.formats, with_.settings, this));
+    layout->addWidget(&with_.resultsPane);
     return centre;
 }
 

@@ -2,7 +2,6 @@
 
 #include "app/AppDelegate.h"
 #include "calendars/CalendarsArrayController.h"
-#include "eventdata/EventsController.h"
 #include "eventtable/EventItemViewController.h"
 #include "export/ExportCSV.h"
 #include "period/DateInspectorController.h"
@@ -24,6 +23,7 @@ class CalendarPane;
 class EmptyState;
 class EventTableView;
 class PreferencesDialog;
+class ResultsPane;
 
 /// What the window can ask for around the calendars themselves.
 struct CalendarActions {
@@ -45,15 +45,15 @@ public:
         SettingsStore& settings;
         const LocaleFormats& formats;
         const CalendarArithmetic& calendar;
-        BillingSettingsSource& billing;
         ListController<Event>& eventsArrayController;
         CalendarsArrayController& calendarsArrayController;
-        EventsController& eventsController;
         DateInspectorController& dateInspectorController;
         EventItemViewController& eventItemViewController;
         ExportCSV& exportCSV;
         AppDelegate& appDelegate;
+        /// Become the window's.
         EventTableView& eventTable;
+        ResultsPane& resultsPane;
         QAction& exportCsvAction;
         TimeColumnActions& timeColumnActions;
         CalendarActions calendarActions;

@@ -13,133 +13,128 @@ namespace quillet {
 
 namespace {
 
-const QString selectionKey = QStringLiteral("totalsTabViewSelection");
-
-QVBoxLayout* column(QLabel* name, QLabel* value) {
-    auto* layout = new QVBoxLayout;
-    layout->setSpacing(0);
-    layout->addWidget(name);
-    layout->addWidget(value);
-    return layout;
-}
+const QString tabKey = QStringLiteral("totalsTabViewSelection");
+const QString moneyKey = QStringLiteral("isDollarsOn");
 
 } // namespace
 
-ResultsPane::ResultsPane(EventsController& controller, ListController<Event>& events,
-                         BillingSettingsSource& billing, const LocaleFormats& formats,
-                         SettingsStore& settings, QWidget* parent)
+ResultsPane::ResultsPane(SettingsStore& settings, QWidget* parent)
     : QWidget(parent)
-    , controller_(controller)
-    , events_(events)
-    , billing_(billing)
-    , formats_(formats)
     , settings_(settings)
-    , tabs_(new QTabBar(this))
-    , count_(addFigure(localized("Events")))
-    , total_(addFigure(localized("Total")))
-    , shortest_(addFigure(localized("Shortest")))
-    , longest_(addFigure(localized("Longest")))
-    , average_(addFigure(localized("Average")))
-    , days_(addFigure(localized("Days")))
-    , cost_(addFigure(localized("Cost"))) {
-    tabs_->addTab(localized("All Events"));
-    tabs_->addTab(localized("Selected Events"));
-    tabs_->setDocumentMode(true);
-    tabs_->setExpanding(false);
-    tabs_->setAccessibleName(localized("Results"));
+    , tabs_(new QTabBar(this)) {
+    makeTabs();
+    makeFigures();
     const int space = fontMetrics().height() / 2;
     auto* row = new QHBoxLayout;
     row->setContentsMargins(space, space, space, space);
     row->setSpacing(space * 4);
-    for (const Figure& figure : {count_, total_, shortest_, longest_, average_, days_}) {
-        row->addLayout(column(figure.name, figure.value));
+    for (int position = 0; position < PositionCount; ++position) {
+        if (position == Cost) {
+            row->addStretch();
+        }
+        auto* column = new QVBoxLayout;
+        column->setSpacing(0);
+        column->addWidget(names_.at(static_cast<std::size_t>(position)));
+        column->addWidget(values_.at(static_cast<std::size_t>(position)));
+        row->addLayout(column);
     }
-    row->addStretch();
-    cost_.name->setAlignment(Qt::AlignRight);
-    cost_.value->setAlignment(Qt::AlignRight);
-    row->addLayout(column(cost_.name, cost_.value));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(tabs_);
     layout->addLayout(row);
-
-    connect(tabs_, &QTabBar::tabBarClicked, this, [this](int tab) {
-        if (tab >= 0) {
-            settings_.setObject(selectionKey, QVariant::fromValue<qint64>(tab));
-        }
-    });
-    connect(tabs_, &QTabBar::currentChanged, this, [this](int tab) {
-        if (tab != integerForKey(settings_, selectionKey)) {
-            settings_.setObject(selectionKey, QVariant::fromValue<qint64>(tab));
-        }
-    });
-    connect(&controller_, &EventsController::aggregateChanged, this, &ResultsPane::scheduleRefresh);
-    for (const char* key : {"totalsTabViewSelection", "isDollarsOn", "timeTypeSelection"}) {
-        observeWhileAlive(*this, settings_, QString::fromLatin1(key),
-                          [this] { scheduleRefresh(); });
-    }
-    refresh();
 }
 
 ResultsPane::~ResultsPane() = default;
 
-ResultsPane::Figure ResultsPane::addFigure(const QString& name) {
-    const Figure figure{new QLabel(name, this), new QLabel(this)};
-    figure.name->setForegroundRole(QPalette::PlaceholderText);
-    figure.value->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    figure.value->setAccessibleName(name);
-    QFont font = figure.value->font();
-    font.setBold(true);
-    figure.value->setFont(font);
-    return figure;
+void ResultsPane::makeTabs() {
+    tabs_->setDocumentMode(true);
+    tabs_->setExpanding(false);
+    tabs_->setDrawBase(false);
+    tabs_->setAccessibleName(localized("Results"));
+    tabs_->addTab(localized("All Events"));
+    tabs_->addTab(localized("Selected Events"));
+    connect(tabs_, &QTabBar::currentChanged, this, [this](int tab) {
+        if (tab != integerForKey(settings_, tabKey)) {
+            settings_.setObject(tabKey, QVariant::fromValue<qint64>(tab));
+        }
+    });
+    for (const QString& key : {tabKey, moneyKey}) {
+        observeWhileAlive(*this, settings_, key, [this] { scheduleRefresh(); });
+    }
+}
+
+void ResultsPane::makeFigures() {
+    constexpr std::array texts{"Events", "Total", "Shortest", "Longest", "Average", "Days", "Cost"};
+    for (std::size_t position = 0; position < texts.size(); ++position) {
+        auto* name = new QLabel(localized(texts.at(position)), this);
+        auto* value = new QLabel(this);
+        QFont font = value->font();
+        font.setBold(true);
+        value->setFont(font);
+        value->setTextFormat(Qt::PlainText);
+        value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        value->setAccessibleName(name->text());
+        names_.at(position) = name;
+        values_.at(position) = value;
+    }
+    names_.at(Cost)->setAlignment(Qt::AlignRight);
+    values_.at(Cost)->setAlignment(Qt::AlignRight);
+}
+
+void ResultsPane::installTabContent(ResultsTab tab) {
+    tabs_->setTabVisible(static_cast<int>(tab), true);
+}
+
+void ResultsPane::setTokenizingCharacters(const QString& /*fieldName*/,
+                                          const QString& /*characters*/) {}
+
+void ResultsPane::follow(EventResultsViewController& controller) {
+    controller_ = &controller;
+    connect(controller_, &EventResultsViewController::textsChanged, this,
+            &ResultsPane::scheduleRefresh);
+    connect(controller_, &EventResultsViewController::isDurationHiddenChanged, this,
+            &ResultsPane::scheduleRefresh);
+    refresh();
 }
 
 void ResultsPane::scheduleRefresh() {
-    // The ten aggregates are announced one by one; they are shown once.
+    // Many values change one by one; they are shown once.
     if (!isRefreshScheduled_) {
         isRefreshScheduled_ = true;
         QTimer::singleShot(0, this, &ResultsPane::refresh);
     }
 }
 
-bool ResultsPane::showsSelection() const {
-    return integerForKey(settings_, selectionKey) == 1;
+ResultsTab ResultsPane::shownTab() const {
+    return integerForKey(settings_, tabKey) == 1 ? ResultsTab::SelectedEvents
+                                                 : ResultsTab::AllEvents;
+}
+
+std::array<ResultField, ResultsPane::PositionCount> ResultsPane::shownFields() const {
+    using enum ResultField;
+    if (!controller_->isHoursHidden()) {
+        return {CountEvents, SumHours, MinHours, MaxHours, AvgHours, TotalDays, SumCost};
+    }
+    if (!controller_->isMinutesHidden()) {
+        return {CountEvents, SumMinutes, MinMinutes, MaxMinutes, AvgMinutes, TotalDays, SumCost};
+    }
+    return {CountEvents, SumDuration, MinDuration, MaxDuration, AvgDuration, TotalDays, SumCost};
 }
 
 void ResultsPane::refresh() {
-    using Aggregate = EventsController::Aggregate;
     isRefreshScheduled_ = false;
-    const bool isSelection = showsSelection();
-    tabs_->setCurrentIndex(isSelection ? 1 : 0);
-    const auto show = [&](const Figure& figure, Aggregate all, Aggregate selected) {
-        figure.value->setText(controller_.aggregate(isSelection ? selected : all).toString());
-    };
-    count_.value->setText(formats_.number(Decimal::fromInteger(static_cast<std::int64_t>(
-        isSelection ? events_.selectedRows().size() : events_.arrangedCount()))));
-    show(total_, Aggregate::TotalDuration, Aggregate::TotalSelectedDuration);
-    show(shortest_, Aggregate::MinDuration, Aggregate::MinSelectedDuration);
-    show(longest_, Aggregate::MaxDuration, Aggregate::MaxSelectedDuration);
-    show(average_, Aggregate::AvgDuration, Aggregate::AvgSelectedDuration);
-    show(days_, Aggregate::TotalDays, Aggregate::TotalSelectedDays);
-    const bool isMoneyOn = billing_.current().isMoneyOn;
-    cost_.name->setVisible(isMoneyOn);
-    cost_.value->setVisible(isMoneyOn);
-    cost_.value->setText(isMoneyOn ? totalCost() : QString());
-}
-
-QString ResultsPane::totalCost() const {
-    MoneySummary summary(billing_.current());
-    if (showsSelection()) {
-        for (const std::size_t row : events_.selectedRows()) {
-            summary.add(events_.arranged(row));
-        }
-    } else {
-        for (std::size_t row = 0; row < events_.arrangedCount(); ++row) {
-            summary.add(events_.arranged(row));
-        }
+    if (controller_ == nullptr) {
+        return;
     }
-    return formats_.currency(summary.total());
+    tabs_->setCurrentIndex(static_cast<int>(shownTab()));
+    const auto fields = shownFields();
+    for (std::size_t position = 0; position < fields.size(); ++position) {
+        values_.at(position)->setText(controller_->text(shownTab(), fields.at(position)));
+    }
+    const bool isMoneyOn = boolForKey(settings_, moneyKey);
+    names_.at(Cost)->setVisible(isMoneyOn);
+    values_.at(Cost)->setVisible(isMoneyOn);
 }
 
 } // namespace quillet

@@ -1,54 +1,49 @@
 #pragma once
 
-#include "eventdata/EventsController.h"
-#include "eventdata/MoneySummary.h"
-#include "platform/LocaleFormats.h"
+#include "platform/SettingsStore.h"
+#include "results/EventResultsViewController.h"
 
 #include <QWidget>
 
-#include <vector>
+#include <array>
 
 class QLabel;
 class QTabBar;
 
 namespace quillet {
 
-/// The figures of all listed or of the selected events, which the exports follow.
-class ResultsPane : public QWidget {
+/// The figures of all listed or of the selected events, which the exports follow: one row of
+/// values, whose tab says of which events and whose time fields are those of the time type.
+class ResultsPane : public QWidget, public ResultsPanel {
     Q_OBJECT
 
 public:
-    ResultsPane(EventsController& controller, ListController<Event>& events,
-                BillingSettingsSource& billing, const LocaleFormats& formats,
-                SettingsStore& settings, QWidget* parent = nullptr);
+    explicit ResultsPane(SettingsStore& settings, QWidget* parent = nullptr);
     ~ResultsPane() override;
     Q_DISABLE_COPY_MOVE(ResultsPane)
 
-private:
-    struct Figure {
-        QLabel* name;
-        QLabel* value;
-    };
+    void installTabContent(ResultsTab tab) override;
+    /// Values are plain labels here, which never part into tokens.
+    void setTokenizingCharacters(const QString& fieldName, const QString& characters) override;
 
-    [[nodiscard]] Figure addFigure(const QString& name);
+    /// Shows the values of the controller from now on.
+    void follow(EventResultsViewController& controller);
+
+private:
+    enum Position { Events, Total, Shortest, Longest, Average, Days, Cost, PositionCount };
+
+    void makeTabs();
+    void makeFigures();
     void scheduleRefresh();
     void refresh();
-    [[nodiscard]] bool showsSelection() const;
-    [[nodiscard]] QString totalCost() const;
+    [[nodiscard]] std::array<ResultField, PositionCount> shownFields() const;
+    [[nodiscard]] ResultsTab shownTab() const;
 
-    EventsController& controller_;
-    ListController<Event>& events_;
-    BillingSettingsSource& billing_;
-    const LocaleFormats& formats_;
     SettingsStore& settings_;
+    EventResultsViewController* controller_ = nullptr;
     QTabBar* tabs_;
-    Figure count_;
-    Figure total_;
-    Figure shortest_;
-    Figure longest_;
-    Figure average_;
-    Figure days_;
-    Figure cost_;
+    std::array<QLabel*, PositionCount> names_{};
+    std::array<QLabel*, PositionCount> values_{};
     bool isRefreshScheduled_ = false;
 };
 

@@ -172,6 +172,9 @@ TEST_F(MainWindowTest, TheResultsFollowTheChosenTab) {
     open();
     table->selectRow(0);
     fetch();
+    EXPECT_EQ(named<QLabel>("Total")->text(), QStringLiteral("11"));
+    settings.setObject("timeTypeSelection", 3);
+    fetch();
     EXPECT_EQ(named<QLabel>("Total")->text(), QStringLiteral("11h"));
     EXPECT_EQ(named<QLabel>("Cost")->text(), QStringLiteral("$990.00"));
     named<QTabBar>("Results")->setCurrentIndex(1);

@@ -11,6 +11,7 @@
 #include "window/EventTableView.h"
 #include "window/InterfaceActions.h"
 #include "window/MainWindow.h"
+#include "window/ResultsPane.h"
 
 #include <QApplication>
 
@@ -56,11 +57,13 @@ protected:
         calendars.awakeFromNib();
         inspector.awakeFromNib();
         applyPlacements(defaultColumnPlacements(), *table);
+        results.awakeFromNib();
+        resultsPane->follow(results);
         itemView.awakeFromNib();
         eventsController.awakeFromNib();
         window = std::make_unique<MainWindow>(MainWindow::Collaborators{
-            settings, formats, gregorian, billing, events, calendars, eventsController, inspector,
-            itemView, exportCSV, delegate, *table, csvItem.action(), menuTimeColumns,
+            settings, formats, gregorian, events, calendars, inspector, itemView, exportCSV,
+            delegate, *table, *resultsPane, csvItem.action(), menuTimeColumns,
             CalendarActions{
                 .addCalendar = [](const QString&) { return std::expected<void, QString>(); },
                 .allowAccess = [] {},
@@ -128,6 +131,9 @@ protected:
          calendars,
          gregorian,
          formats}};
+    ResultsPane* resultsPane = new ResultsPane(settings);
+    EventResultsViewController results{
+        {settings, *resultsPane, eventsController, events, billing, formats}};
     ExportCSV exportCSV{{settings, *table, events, fields, panel}};
     AppDelegate delegate{{settings, workspace, launcher, updater, {&csvItem}, {}}};
     std::unique_ptr<MainWindow> window;
