@@ -82,9 +82,9 @@ def text_of(control):
     return text.get_text(0, text.get_character_count())
 
 
-def press_key(name):
-    """A key typed into whatever has the focus."""
-    subprocess.run(["xdotool", "key", name], check=True)
+def press_key(*names):
+    """Keys typed into whatever has the focus."""
+    subprocess.run(["xdotool", "key", *names], check=True)
 
 
 def cell(table, row, column):

@@ -5,8 +5,8 @@ import subprocess
 import sys
 from pathlib import Path
 
-from accessibility import (ROLE, Atspi, application, below, cell, cell_names, children,
-                           column_titles, has_state, press, press_key, row_names, type_text,
+from accessibility import (ROLE, Atspi, application, below, cell_names, children, column_titles,
+                           has_state, press, press_key, row_names, type_text,
                            wait_for)
 
 CALENDARS = Path(os.environ["XDG_DATA_HOME"]) / "calendars"
@@ -95,7 +95,7 @@ class Quillet:
     def press(self, name):
         """A button of any kind."""
         press(self.control(name, {ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON, ROLE.RADIO_BUTTON,
-                                  ROLE.CHECK_BOX, ROLE.BUTTON_MENU}))
+                                  ROLE.CHECK_BOX}))
 
     def press_menu_item(self, name):
         items = {ROLE.MENU_ITEM, ROLE.CHECK_MENU_ITEM, ROLE.RADIO_MENU_ITEM}
@@ -119,11 +119,15 @@ class Quillet:
 
     def type_and_confirm(self, field, text):
         control = self.control(field, {ROLE.TEXT})
-        control.get_component_iface().grab_focus()
-        wait_for(f'"{field}" to have the focus',
-                 lambda: has_state(control, Atspi.StateType.FOCUSED))
+        self._focus(control)
         type_text(control, text)
         press_key("Return")
+
+    @staticmethod
+    def _focus(control):
+        control.get_component_iface().grab_focus()
+        wait_for(f'"{control.get_name()}" to have the focus',
+                 lambda: has_state(control, Atspi.StateType.FOCUSED))
 
     def rows(self, table):
         return row_names(self.control(table, {ROLE.TABLE, ROLE.TREE}))
@@ -157,8 +161,10 @@ class Quillet:
         wait_for(f"the calendars {titles}", lambda: self.calendar_titles() == titles)
 
     def toggle_calendar(self, title):
+        """With the keyboard; tables take no action of a single cell."""
         row = self.calendar_titles().index(title)
-        press(cell(self.control("Calendars"), row, 0))
+        self._focus(self.control("Calendars"))
+        press_key("ctrl+Home", *["Down"] * row, "space")
 
     def save(self, button, path):
         """Through the save dialog, typing the path."""
@@ -173,7 +179,8 @@ class Quillet:
 
     def _file_dialog(self):
         for window in children(self._application):
-            if window.get_role() in (ROLE.DIALOG, ROLE.FILE_CHOOSER):
+            if (window.get_role() in (ROLE.DIALOG, ROLE.FILE_CHOOSER)
+                    and has_state(window, Atspi.StateType.SHOWING)):
                 if any(control.get_name() == "Save" for control in below(window)):
                     return window
         return None
