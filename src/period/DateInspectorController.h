@@ -69,7 +69,7 @@ public:
     /// @name User actions, sent after the control has written its property
     /// @{
     void setQuickDatePeriod();
-    void setQuickDates(PeriodStep step);
+    void setQuickDates(PeriodStep segment);
     void startDateControlClicked();
     void endDateControlClicked();
     void toggleEndDateLock();
@@ -95,8 +95,8 @@ private:
     [[nodiscard]] Instant today() const;
     void adopt(const QString& key, std::optional<Instant>& property, Instant value);
     void applyKind(PeriodKind kind);
-    void step(PeriodKind kind, PeriodStep step);
-    void stepCustomPeriod(PeriodStep step);
+    void step(PeriodKind kind, PeriodStep segment);
+    void stepCustomPeriod(PeriodStep segment);
     void setPeriod(PeriodKind kind, Instant date);
     void setPeriodStartingWith(PeriodKind kind, Instant date);
     [[nodiscard]] Instant laterThanWeekReference(Instant date);

@@ -65,6 +65,23 @@ TEST_F(CalendarsArrayControllerTest, TheFirstAccessTicksEveryCalendarAndFetchesA
     EXPECT_EQ(settings.object("datesChangedTrigger"), QVariant(true));
 }
 
+TEST_F(CalendarsArrayControllerTest, WithMoneyOnTheFirstTitlesShowZero) {
+    settings.setObject("isDollarsOn", true);
+    settings.setObject("isSingleRate", false);
+    controller.awakeFromNib();
+    controller.accessGranted();
+    EXPECT_EQ(titles(), (QStringList{"Clients   ($0.00)", "Home   ($0.00)", "Work   ($0.00)"}));
+}
+
+TEST_F(CalendarsArrayControllerTest, ATitleThatIsMissingCountsAsEmptyAndARateAsZero) {
+    EXPECT_EQ(controller.makeTitleWithStringAndRate(QString(), QStringLiteral("5")), QString(""));
+    settings.setObject("isDollarsOn", true);
+    EXPECT_EQ(controller.makeTitleWithStringAndRate(QString(), QString()),
+              QStringLiteral("   ($0.00)"));
+    EXPECT_EQ(controller.makeTitleWithStringAndRate(QStringLiteral("%2"), QStringLiteral("1234.5")),
+              QStringLiteral("%2   ($1,234.50)"));
+}
+
 TEST_F(CalendarsArrayControllerTest, RecordsAreStoredInTheStoresOrderAndShownByTitle) {
     wakeWithAccess();
     EXPECT_EQ(stored()[0].title, QStringLiteral("Work"));
