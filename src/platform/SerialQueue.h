@@ -17,8 +17,8 @@ public:
     virtual void async(Task task) = 0;
 };
 
-/// A queue with a thread of its own, which bears the label as its name. Destroying it waits for
-/// the task that runs and drops the ones behind it.
+/// A queue with a thread of its own, named after the label as far as the system's fifteen bytes go.
+/// Destroying it waits for the task that runs and drops the ones behind it.
 [[nodiscard]] std::unique_ptr<SerialQueue> makeBackgroundQueue(const QString& label);
 
 /// A queue on the thread whose event loop is that of the application object.
