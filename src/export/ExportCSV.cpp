@@ -1,6 +1,7 @@
 #include "export/ExportCSV.h"
 
 #include "export/CsvText.h"
+#include "export/ExportSelection.h"
 #include "platform/FileWriting.h"
 #include "platform/Localized.h"
 #include "platform/Logging.h"
@@ -38,7 +39,7 @@ CsvSettings csvSettings(const SettingsStore& settings) {
 } // namespace
 
 bool ExportCSV::exportsSelection() const {
-    return integerForKey(with_.settings, QStringLiteral("totalsTabViewSelection")) == 1;
+    return areOnlySelectedEventsExported(with_.settings);
 }
 
 QString ExportCSV::text() const {

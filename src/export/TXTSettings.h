@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+#include <QVariantMap>
+
+#include <array>
+
+namespace quillet {
+
+/// One switch of the text report, and its member in a preset.
+struct TXTSwitch {
+    /// The settings key that the report reads.
+    const char* reportKey;
+    /// The member of a stored preset.
+    const char* presetKey;
+    bool isOnByDefault;
+    /// The settings key of a version that had a report for mails; null where it had none.
+    const char* legacyKey;
+};
+
+inline constexpr std::size_t txtSwitchCount = 12;
+
+/// In the order in which applying a preset writes them.
+[[nodiscard]] const std::array<TXTSwitch, txtSwitchCount>& txtSwitches();
+
+/// A named set of the text report's switches and free texts: an element of the stored array
+/// `txtSettings`.
+struct TXTSettings {
+    QString txtSettingsName;
+    /// In the order of txtSwitches().
+    std::array<bool, txtSwitchCount> switches{};
+    QString txtHeader = QString::fromLatin1("");
+    QString txtFooter = QString::fromLatin1("");
+    /// Members that this version does not know, written back as they came.
+    QVariantMap otherMembers;
+};
+
+/// Members of a wrong type are read as the platform's typed getters do.
+[[nodiscard]] TXTSettings txtSettingsFromValue(const QVariant& value);
+[[nodiscard]] QVariant valueFromTXTSettings(const TXTSettings& preset);
+
+} // namespace quillet

@@ -1,0 +1,144 @@
+#include "export/TXTSettingsArrayController.h"
+
+#include "platform/Localized.h"
+
+#include <algorithm>
+
+namespace quillet {
+
+namespace {
+
+const QString presetsKey = QStringLiteral("txtSettings");
+const QString isDefaultCreatedKey = QStringLiteral("isDefaultTXTSettingsCreated");
+const QString isApplyingKey = QStringLiteral("isApplyTXTSettingsOn");
+const QString headerKey = QStringLiteral("txtHeader");
+const QString footerKey = QStringLiteral("txtFooter");
+const QString legacyHeaderKey = QStringLiteral("mailHeader");
+const QString legacyFooterKey = QStringLiteral("mailFooter");
+
+QVariant taken(SettingsStore& settings, const QString& key) {
+    const QVariant value = settings.object(key);
+    if (value.isValid()) {
+        settings.remove(key);
+    }
+    return value;
+}
+
+bool hasLegacySettings(const SettingsStore& settings) {
+    return hasKey(settings, legacyHeaderKey) || hasKey(settings, legacyFooterKey) ||
+           std::ranges::any_of(txtSwitches(), [&](const TXTSwitch& each) {
+               return each.legacyKey != nullptr &&
+                      hasKey(settings, QString::fromLatin1(each.legacyKey));
+           });
+}
+
+} // namespace
+
+void TXTSettingsArrayController::awakeFromNib() {
+    setIfAbsent(settings_, presetsKey, QVariantList());
+    readStoredPresets();
+    storedPresets_ = settings_.observe(presetsKey, [this] { readStoredPresets(); });
+    if (!hasKey(settings_, isDefaultCreatedKey)) {
+        createDefaultTXTSettings();
+        settings_.setObject(isDefaultCreatedKey, true);
+    }
+    if (hasLegacySettings(settings_)) {
+        migrateMailSettings();
+    }
+}
+
+void TXTSettingsArrayController::createDefaultTXTSettings() {
+    TXTSettings preset;
+    preset.txtSettingsName = localized("Default");
+    std::ranges::transform(txtSwitches(), preset.switches.begin(), &TXTSwitch::isOnByDefault);
+    append(preset);
+}
+
+void TXTSettingsArrayController::migrateMailSettings() {
+    TXTSettings preset;
+    preset.txtSettingsName = localized("Mail");
+    for (std::size_t index = 0; index < txtSwitchCount; ++index) {
+        const TXTSwitch& each = txtSwitches().at(index);
+        if (each.legacyKey != nullptr) {
+            preset.switches.at(index) =
+                boolFromValue(taken(settings_, QString::fromLatin1(each.legacyKey)));
+        }
+    }
+    // Wrapping had no switch of its own; the days had none at all and stay off.
+    preset.switches.front() = boolForKey(settings_, QStringLiteral("isTXTWrapping"));
+    preset.txtHeader += stringFromValue(taken(settings_, legacyHeaderKey));
+    preset.txtFooter += stringFromValue(taken(settings_, legacyFooterKey));
+    append(preset);
+}
+
+void TXTSettingsArrayController::createTXTSettings() {
+    TXTSettings preset;
+    preset.txtSettingsName =
+        localized("New Settings") + u' ' + QString::number(content()->size() + 1);
+    std::ranges::transform(txtSwitches(), preset.switches.begin(), [this](const TXTSwitch& each) {
+        return boolForKey(settings_, QString::fromLatin1(each.reportKey));
+    });
+    preset.txtHeader += stringForKey(settings_, headerKey);
+    preset.txtFooter += stringForKey(settings_, footerKey);
+    append(preset);
+}
+
+void TXTSettingsArrayController::saveTXTSettings() {
+    createTXTSettings();
+    Q_EMIT nameEditingRequested(arrangedCount() - 1);
+}
+
+void TXTSettingsArrayController::setTXTSettings() {
+    applyTXTSettings();
+}
+
+void TXTSettingsArrayController::applyTXTSettings() {
+    if (selectedRows().empty()) {
+        return;
+    }
+    const TXTSettings preset = arranged(selectedRows().front());
+    settings_.setObject(isApplyingKey, true);
+    for (std::size_t index = 0; index < txtSwitchCount; ++index) {
+        settings_.setObject(QString::fromLatin1(txtSwitches().at(index).reportKey),
+                            preset.switches.at(index));
+    }
+    settings_.setObject(headerKey, preset.txtHeader);
+    settings_.setObject(footerKey, preset.txtFooter);
+    settings_.setObject(isApplyingKey, false);
+}
+
+void TXTSettingsArrayController::renameTXTSettings(std::size_t row, const QString& name) {
+    std::vector<TXTSettings> presets = *content();
+    presets.at(contentIndex(row)).txtSettingsName = name;
+    store(presets, selectedRows());
+}
+
+void TXTSettingsArrayController::append(const TXTSettings& preset) {
+    std::vector<TXTSettings> presets = *content();
+    presets.push_back(preset);
+    store(presets, {presets.size() - 1});
+}
+
+void TXTSettingsArrayController::store(const std::vector<TXTSettings>& presets,
+                                       std::vector<std::size_t> selectedRows) {
+    QVariantList values;
+    for (const TXTSettings& preset : presets) {
+        values.append(valueFromTXTSettings(preset));
+    }
+    settings_.setObject(presetsKey, values);
+    setSelectedRows(std::move(selectedRows));
+}
+
+void TXTSettingsArrayController::readStoredPresets() {
+    const std::vector<std::size_t> rows = selectedRows();
+    std::vector<TXTSettings> presets;
+    for (const QVariant& value : arrayForKey(settings_, presetsKey)) {
+        if (value.typeId() == QMetaType::QVariantMap) {
+            presets.push_back(txtSettingsFromValue(value));
+        }
+    }
+    setContent(std::move(presets));
+    setSelectedRows(rows);
+}
+
+} // namespace quillet
