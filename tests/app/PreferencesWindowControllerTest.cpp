@@ -1,0 +1,95 @@
+#include "app/PreferencesWindowController.h"
+
+#include "support/MemorySettings.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace quillet {
+
+namespace {
+
+class FakePreferencesWindow final : public PreferencesWindow {
+public:
+    void showWindow() override { isShown = true; }
+    void setTitle(const QString& text) override { title = text; }
+    void removePane(PreferencesPane pane) override { std::erase(panes, pane); }
+    void installPane(PreferencesPane pane) override { panes.push_back(pane); }
+    void setSelectedToolbarItem(const QString& identifier) override { selectedItem = identifier; }
+
+    bool isShown = false;
+    QString title;
+    std::vector<PreferencesPane> panes;
+    QString selectedItem;
+};
+
+using Panes = std::vector<PreferencesPane>;
+
+class PreferencesWindowControllerTest : public testing::Test {
+protected:
+    [[nodiscard]] QVariant stored() const {
+        return settings.object("selectedPreferencesToolbarItem");
+    }
+
+    test::MemorySettings settings;
+    FakePreferencesWindow window;
+    PreferencesWindowController controller{settings, window};
+};
+
+} // namespace
+
+TEST_F(PreferencesWindowControllerTest, TheWindowStartsOnTheGeneralPaneWhateverWasStored) {
+    settings.setObject("selectedPreferencesToolbarItem", 3);
+    controller.awakeFromNib();
+    EXPECT_EQ(stored(), QVariant(0));
+    EXPECT_EQ(window.panes, Panes{PreferencesPane::General});
+    EXPECT_EQ(window.title, "General");
+    EXPECT_EQ(window.selectedItem, "general");
+    EXPECT_FALSE(window.isShown);
+}
+
+TEST_F(PreferencesWindowControllerTest, EachToolbarItemShowsAndStoresItsPane) {
+    controller.awakeFromNib();
+    struct Case {
+        PreferencesPane pane;
+        const char* identifier;
+        const char* title;
+    };
+    int index = 0;
+    for (const Case& each :
+         {Case{PreferencesPane::General, "general", "General"},
+          Case{PreferencesPane::Columns, "columns", "Columns"},
+          Case{PreferencesPane::Text, "text", "Text"}, Case{PreferencesPane::Csv, "csv", "CSV/TSV"},
+          Case{PreferencesPane::Reminders, "reminders", "Reminders"}}) {
+        controller.toolbarItemClicked(each.pane);
+        EXPECT_EQ(stored(), QVariant(index++));
+        EXPECT_EQ(window.panes, Panes{each.pane});
+        EXPECT_EQ(window.title, QString::fromLatin1(each.title));
+        EXPECT_EQ(PreferencesWindowController::toolbarItemIdentifier(each.pane),
+                  QString::fromLatin1(each.identifier));
+    }
+}
+
+TEST_F(PreferencesWindowControllerTest, TheWindowCanOpenOnTheColumnsOrTheTextPane) {
+    controller.awakeFromNib();
+    controller.showWindowWithColumnsPreferencesView();
+    EXPECT_TRUE(window.isShown);
+    EXPECT_EQ(window.panes, Panes{PreferencesPane::Columns});
+    EXPECT_EQ(window.title, "Columns");
+    EXPECT_EQ(window.selectedItem, "columns");
+    EXPECT_EQ(stored(), QVariant(1));
+    controller.showWindowWithTextPreferencesView();
+    EXPECT_EQ(window.selectedItem, "text");
+    EXPECT_EQ(stored(), QVariant(2));
+}
+
+TEST_F(PreferencesWindowControllerTest, AnIndexOfNoPaneChangesNothing) {
+    controller.awakeFromNib();
+    controller.toolbarItemClicked(PreferencesPane::Text);
+    controller.changePreferencesViewSubview(7);
+    EXPECT_EQ(window.panes, Panes{PreferencesPane::Text});
+    EXPECT_EQ(window.title, "Text");
+}
+
+} // namespace quillet
