@@ -1,0 +1,322 @@
+#include "app/AppDelegate.h"
+#include "app/AppViewsController.h"
+#include "app/PreferencesWindowController.h"
+#include "backends/icu/IcuCalendarArithmetic.h"
+#include "backends/icu/IcuLocaleFormats.h"
+#include "calendars/CalendarGroupsArrayController.h"
+#include "calendars/CalendarGroupsArraySelectedCalendarsArrayController.h"
+#include "calendars/CalendarGroupsController.h"
+#include "calendars/CalendarsArrayController.h"
+#include "eventdata/EventsController.h"
+#include "eventtable/ColumnLayoutsArrayController.h"
+#include "eventtable/EventItemViewController.h"
+#include "export/TXTSettingsArrayController.h"
+#include "export/TextReportRefresh.h"
+#include "period/DateInspectorController.h"
+#include "results/EventNotesViewController.h"
+#include "results/EventResultsViewController.h"
+#include "results/PreferencesColumnsViewController.h"
+#include "support/EventTableFake.h"
+#include "support/Fakes.h"
+#include "support/MemorySettings.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace quillet {
+
+namespace {
+
+using test::utc;
+
+class SilentPanes final : public MainWindowPanes {
+public:
+    void remove(PaneContent) override {}
+    void install(PaneContent, Pane) override {}
+    void setPaneHidden(Pane, bool) override {}
+    void removeProgressIndicator() override {}
+    void addProgressIndicator() override {}
+    void setProgressAnimated(bool) override {}
+};
+
+class SilentPreferences final : public PreferencesWindow {
+public:
+    void showWindow() override {}
+    void setTitle(const QString&) override {}
+    void removePane(PreferencesPane) override {}
+    void installPane(PreferencesPane) override {}
+    void setSelectedToolbarItem(const QString&) override {}
+};
+
+class SilentResults final : public ResultsPanel {
+public:
+    void installTabContent(ResultsTab) override {}
+    void setTokenizingCharacters(const QString&, const QString&) override {}
+};
+
+/// Every controller that has settings of its own, over one store.
+class FirstRunTest : public testing::Test {
+protected:
+    /// One start of the program: all wake up, then the delegate hears of the launch.
+    void launch() {
+        billing.migrateHourlyRate();
+        calendars.awakeFromNib();
+        groups.awakeFromNib();
+        checklist.awakeFromNib();
+        groupFilter.awakeFromNib();
+        dateInspector.awakeFromNib();
+        columns.awakeFromNib();
+        layouts.awakeFromNib();
+        events.awakeFromNib();
+        results.awakeFromNib();
+        preferencesColumns.awakeFromNib();
+        notes.awakeFromNib();
+        report.awakeFromNib();
+        presets.awakeFromNib();
+        panesController.awakeFromNib();
+        preferencesController.awakeFromNib();
+        delegate.awakeFromNib();
+        delegate.applicationDidFinishLaunching();
+    }
+
+    test::MemorySettings settings;
+    test::FakeEventStore store;
+    test::FakeAlerts alerts;
+    test::FakeQueue background;
+    test::FakeQueue main;
+    test::FakeTimer timer;
+    test::FakeTable table = test::eventTable();
+    test::FakeMenuItem item;
+    test::FakeToolbarItem button;
+    test::FakeWorkspace workspace;
+    test::FakeTaskLauncher launcher;
+    test::FakeUpdater updater;
+    test::FakeClock clock{utc(2024, 3, 6, 12)};
+    SilentPanes panes;
+    SilentPreferences preferences;
+    SilentResults resultsPanel;
+    IcuCalendarArithmetic calendar{"en_US", "UTC", CalendarSystem::Gregorian};
+    IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "UTC"};
+    BillingSettingsSource billing{settings, calendar};
+    EventKitManager manager{store, settings, alerts, main};
+    ListController<Event> list{eventIdentityHash, isSameEvent};
+    CalendarsArrayController calendars{settings, manager, formats, timer};
+    CalendarGroupsArrayController groups{settings, alerts};
+    CalendarGroupsArraySelectedCalendarsArrayController checklist{settings, groups};
+    CalendarGroupsController groupFilter{{.settings = settings,
+                                          .calendarsArrayController = calendars,
+                                          .calendarGroupsArrayController = groups,
+                                          .timer = timer}};
+    DateInspectorController dateInspector{{settings, clock, calendar, calendar, formats}};
+    EventItemViewController columns{{.settings = settings,
+                                     .eventsTableView = table,
+                                     .menuItems = {item, item, item},
+                                     .txtMenuItems = {item, item, item},
+                                     .calendarsArrayController = calendars,
+                                     .calendar = calendar,
+                                     .formats = formats}};
+    ColumnLayoutsArrayController layouts{
+        {.settings = settings, .eventsTableView = table, .alerts = alerts}};
+    EventsController events{
+        {manager, settings, billing, calendar, list, calendars, background, main}};
+    EventResultsViewController results{{settings, resultsPanel, events, list, billing, formats}};
+    PreferencesColumnsViewController preferencesColumns{settings};
+    EventNotesViewController notes{{settings, list, formats}};
+    TextReportRefresh report{settings, list};
+    TXTSettingsArrayController presets{settings};
+    AppViewsController panesController{{settings, panes, button, button, button, button}};
+    PreferencesWindowController preferencesController{settings, preferences};
+    AppDelegate delegate{{settings, workspace, launcher, updater, {&button}, "/notes.rtf"}};
+};
+
+} // namespace
+
+TEST_F(FirstRunTest, TheFirstStartStoresExactlyTheseSettings) {
+    launch();
+    QVariantMap expected;
+    for (const char* key : {"allDayEventsNotIncluded",
+                            "datesChangedTrigger",
+                            "isApplyColumnLayoutOn",
+                            "isApplyTXTSettingsOn",
+                            "isCSVIncludeUID",
+                            "isCSVRemoveReturns",
+                            "isCalendarAccessGranted",
+                            "isCalendarGroupsSheetActive",
+                            "isDollarsOn",
+                            "isEndDateColumn",
+                            "isEndTimeColumn",
+                            "isEndWeekdayColumn",
+                            "isExportTXTViewOn",
+                            "isLocationColumn",
+                            "isNotesColumn",
+                            "isNotesViewOn",
+                            "isProgressIndicatorOn",
+                            "isRateColumn",
+                            "isStartTimeColumn",
+                            "isTXTAverage",
+                            "isTXTMax",
+                            "isTXTMin",
+                            "isTXTTotalDays",
+                            "isTXTTotalEvents",
+                            "isTodoCSVIncludeUID",
+                            "isUrlColumn",
+                            "isWeekdayColumn"}) {
+        expected.insert(key, false);
+    }
+    for (const char* key : {"hiddenColumnsChangedTrigger",
+                            "isCSVHeader",
+                            "isCSVQuotesForCalendar",
+                            "isCSVQuotesForLocation",
+                            "isCSVQuotesForNote",
+                            "isCSVQuotesForTitle",
+                            "isCalendarColumn",
+                            "isColumnLayoutUsesNames",
+                            "isCostColumn",
+                            "isDateColumn",
+                            "isDefaultAllCalendarsGroupCreated",
+                            "isDefaultColumnLayoutsCreated",
+                            "isDefaultTXTSettingsCreated",
+                            "isEventNotesCalendar",
+                            "isEventNotesDate",
+                            "isEventNotesLocation",
+                            "isEventNotesTitle",
+                            "isHoursColumn",
+                            "isSingleRate",
+                            "isTXTBeginDate",
+                            "isTXTCalTitle",
+                            "isTXTDollars",
+                            "isTXTEndDate",
+                            "isTXTSummaryRow",
+                            "isTXTTotalHours",
+                            "isTXTWrapping",
+                            "isTitleColumn",
+                            "isTodoCSVCalendar",
+                            "isTodoCSVCompleted",
+                            "isTodoCSVCompletedDate",
+                            "isTodoCSVDueDate",
+                            "isTodoCSVNotes",
+                            "isTodoCSVPriority",
+                            "isTodoCSVTitle",
+                            "isTodoCSVURL",
+                            "isTodoTXTCalendar",
+                            "isTodoTXTCompleted",
+                            "isTodoTXTCompletedDate",
+                            "isTodoTXTDueDate",
+                            "isTodoTXTIncludeCount",
+                            "isTodoTXTNotes",
+                            "isTodoTXTPriority",
+                            "isTodoTXTTitle",
+                            "isTodoTXTURL"}) {
+        expected.insert(key, true);
+    }
+    const QMap<QString, qint64> numbers{{"allDayHours", 24},
+                                        {"calendarGroupsSelectedIndex", 0},
+                                        {"fileEncodingPopUpIndex", 0},
+                                        {"quickDatePeriod", 1},
+                                        {"selectedPreferencesToolbarItem", 0},
+                                        {"timeTypeSelection", 1},
+                                        {"totalsTabViewSelection", 0},
+                                        {"viewMode", 0}};
+    for (auto number = numbers.begin(); number != numbers.end(); ++number) {
+        expected.insert(number.key(), number.value());
+    }
+    const QMap<QString, QString> texts{{"calendarColumnTitle", "Calendar"},
+                                       {"costColumnTitle", "Cost"},
+                                       {"dateColumnTitle", "Start Date"},
+                                       {"durationColumnTitle", "Duration"},
+                                       {"endDateColumnTitle", "End Date"},
+                                       {"endTimeColumnTitle", "End Time"},
+                                       {"endWeekdayColumnTitle", "End Weekday"},
+                                       {"hoursColumnTitle", "Hours"},
+                                       {"locationColumnTitle", "Location"},
+                                       {"minutesColumnTitle", "Minutes"},
+                                       {"notesColumnTitle", "Notes"},
+                                       {"rateColumnTitle", "Rate"},
+                                       {"startTimeColumnTitle", "Start Time"},
+                                       {"startWeekdayColumnTitle", "Start Weekday"},
+                                       {"titleColumnTitle", "Title"},
+                                       {"txtFooter", ""},
+                                       {"txtHeader", ""},
+                                       {"urlColumnTitle", "URL"}};
+    for (auto text = texts.begin(); text != texts.end(); ++text) {
+        expected.insert(text.key(), text.value());
+    }
+    // Wednesday, 6 March 2024 lies in the week that begins on Sunday the 3rd.
+    expected.insert("selectedDate", QVariant::fromValue(utc(2024, 3, 3)));
+    expected.insert("filterStartDate", QVariant::fromValue(utc(2024, 3, 3)));
+    expected.insert("filterEndDate", QVariant::fromValue(utc(2024, 3, 9, 23, 59, 59)));
+    expected.insert("tempNumberRate", QVariant::fromValue(Decimal::fromInteger(1)));
+    expected.insert("calendars", QVariantList());
+    expected.insert("calendarGroups",
+                    QVariantList{QVariantMap{{"calendarGroupName", "All Calendars"},
+                                             {"calendarGroupArray", QVariantList()}}});
+    // What these hold is told by the tests of their controllers.
+    for (const char* key : {"columnLayouts", "txtSettings"}) {
+        ASSERT_EQ(arrayForKey(settings, key).size(), 1) << key;
+        expected.insert(key, settings.object(key));
+    }
+    EXPECT_EQ(settings.keys(), expected.keys());
+    for (auto value = expected.begin(); value != expected.end(); ++value) {
+        const QVariant stored = settings.object(value.key());
+        EXPECT_EQ(stored, value.value()) << value.key().toStdString();
+        EXPECT_EQ(stored.metaType(), value.value().metaType()) << value.key().toStdString();
+    }
+    EXPECT_FALSE(settings.object("txtHeader").toString().isNull());
+}
+
+TEST_F(FirstRunTest, EverySettingIsDescribedForItsUsers) {
+    QFile file(QDir::cleanPath(QUILLET_TEST_DATA "/../../../docs/settings.md"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(file.readAll());
+    launch();
+    for (const QString& key : settings.keys()) {
+        EXPECT_TRUE(text.contains('`' + key + '`')) << key.toStdString();
+    }
+}
+
+TEST_F(FirstRunTest, ASecondStartChangesNothingButTheTriggers) {
+    launch();
+    QVariantMap before;
+    for (const QString& key : settings.keys()) {
+        before.insert(key, settings.object(key));
+    }
+    launch();
+    EXPECT_EQ(settings.keys(), before.keys());
+    for (auto value = before.begin(); value != before.end(); ++value) {
+        if (value.key() != u"hiddenColumnsChangedTrigger") {
+            EXPECT_EQ(settings.object(value.key()), value.value()) << value.key().toStdString();
+        }
+    }
+}
+
+TEST_F(FirstRunTest, TransientSettingsAreResetAndAllOthersKeptAtEveryStart) {
+    for (const char* key :
+         {"isProgressIndicatorOn", "isCalendarGroupsSheetActive", "isExportTXTViewOn",
+          "isNotesViewOn", "isApplyColumnLayoutOn", "isApplyTXTSettingsOn"}) {
+        settings.setObject(key, true);
+    }
+    settings.setObject("totalsTabViewSelection", 1);
+    settings.setObject("selectedPreferencesToolbarItem", 3);
+    settings.setObject("timeTypeSelection", 3);
+    settings.setObject("isCSVHeader", false);
+    settings.setObject("isEventNotesDate", false);
+    settings.setObject("titleColumnTitle", "Task");
+    settings.setObject("isNotesColumn", true);
+    launch();
+    for (const char* key :
+         {"isProgressIndicatorOn", "isCalendarGroupsSheetActive", "isExportTXTViewOn",
+          "isNotesViewOn", "isApplyColumnLayoutOn", "isApplyTXTSettingsOn"}) {
+        EXPECT_EQ(settings.object(key), QVariant(false)) << key;
+    }
+    EXPECT_EQ(settings.object("totalsTabViewSelection"), QVariant(0));
+    EXPECT_EQ(settings.object("selectedPreferencesToolbarItem"), QVariant(0));
+    EXPECT_EQ(settings.object("timeTypeSelection"), QVariant(3));
+    EXPECT_EQ(settings.object("isCSVHeader"), QVariant(false));
+    EXPECT_EQ(settings.object("isEventNotesDate"), QVariant(false));
+    EXPECT_EQ(settings.object("titleColumnTitle"), QVariant("Task"));
+    EXPECT_EQ(settings.object("isNotesColumn"), QVariant(true));
+}
+
+} // namespace quillet
