@@ -9,6 +9,7 @@
 
 #include <expected>
 #include <memory>
+#include <mutex>
 
 namespace quillet {
 
@@ -46,15 +47,17 @@ public:
     [[nodiscard]] std::expected<void, QString> addCalendar(const QString& path);
 
 private:
-    void startLoadingIfAllowed();
+    /// The loader, which starts as soon as it may; null before. Any thread.
+    [[nodiscard]] FolderLoader* loader() const;
 
     QString rootPath_;
     CalendarAccess& access_;
     QTimeZone zone_;
     ObserverList<> observers_;
     /// Receives the loader's notices on the main thread.
-    QObject mainContext_;
-    std::unique_ptr<FolderLoader> loader_;
+    mutable QObject mainContext_;
+    mutable std::mutex loaderMutex_;
+    mutable std::unique_ptr<FolderLoader> loader_;
     Observation accessObservation_;
 };
 

@@ -1,0 +1,88 @@
+#include "backends/icsfolder/FolderLoader.h"
+
+#include "backends/combined/EventOrder.h"
+#include "platform/Localized.h"
+
+#include <algorithm>
+
+namespace quillet {
+
+namespace {
+
+/// What the recurrences of one query may cost: about half a second.
+constexpr std::int64_t queryBudget = 20'000'000;
+} // namespace
+
+FolderLoader::FolderLoader(std::string rootPath, const QTimeZone& zone,
+                           std::function<void()> changed)
+    : rootPath_(std::move(rootPath))
+    , zones_(zone)
+    , changed_(std::move(changed))
+    , picture_(std::make_shared<const Picture>()) {
+    std::vector<FileCheck> checks;
+    findAgain({}, checks);
+    publish(false);
+    thread_ = std::jthread([this](const std::stop_token& stop) { run(stop); });
+}
+
+FolderLoader::~FolderLoader() {
+    thread_.request_stop();
+    watch_.wake();
+    {
+        const std::scoped_lock lock(mutex_);
+        isStopped_ = true;
+    }
+    loadEnded_.notify_all();
+}
+
+CalendarList FolderLoader::calendars() const {
+    return picture()->calendars;
+}
+
+EventList FolderLoader::events(const CalendarList& calendars, Instant from, Instant to) const {
+    std::shared_ptr<const Picture> current;
+    {
+        std::unique_lock lock(mutex_);
+        loadEnded_.wait(lock, [this] { return isStopped_ || picture_->isLoaded; });
+        current = picture_;
+    }
+    // Recurrences need dates that the calendar has.
+    const Instant earliest = std::chrono::sys_days(std::chrono::year(1) / 1 / 10);
+    const Instant latest = std::chrono::sys_days(std::chrono::year(9990) / 1 / 1);
+    from = std::clamp(from, earliest, latest);
+    to = std::clamp(to, earliest, latest);
+    EventList found;
+    WorkBudget budget(queryBudget);
+    std::set<QString> asked;
+    for (const auto& calendar : calendars) {
+        const auto contents = current->contents.constFind(calendar->calendarIdentifier);
+        if (contents != current->contents.constEnd() &&
+            asked.insert(calendar->calendarIdentifier).second) {
+            mergeDelivered(found, (*contents)->events(from, to, budget));
+        }
+    }
+    if (budget.isExhausted()) {
+        hasTooMany_ = true;
+    }
+    return found;
+}
+
+std::vector<StoreProblem> FolderLoader::problems() const {
+    std::vector<StoreProblem> problems = picture()->problems;
+    if (hasTooMany_) {
+        problems.insert(problems.begin(), {localized("Calendars"),
+                                           localized("repetitions too many to show them all")});
+    }
+    return problems;
+}
+
+bool FolderLoader::isLoading() const {
+    return !picture()->isLoaded;
+}
+
+std::shared_ptr<const FolderLoader::Picture> FolderLoader::picture() const {
+    const std::scoped_lock lock(mutex_);
+    return picture_;
+}
+
+} // namespace quillet

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "backends/icsfolder/FolderWatch.h"
+#include "backends/icsfolder/LoadedCalendar.h"
+#include "platform/EventStore.h"
+
+#include <QHash>
+#include <QTimeZone>
+
+#include <atomic>
+#include <condition_variable>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <set>
+#include <stop_token>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace quillet {
+
+/// Reads the calendars of a root folder on a thread of its own and keeps them up to date. Its
+/// answers come from an immutable picture of all calendars, which is replaced as a whole.
+class FolderLoader {
+public:
+    /// Finds the calendars before it returns; their events follow. `changed` is called on the
+    /// loader's thread after each change, and once when the first load has ended.
+    FolderLoader(std::string rootPath, const QTimeZone& zone, std::function<void()> changed);
+    ~FolderLoader();
+    FolderLoader(const FolderLoader&) = delete;
+    FolderLoader& operator=(const FolderLoader&) = delete;
+
+    /// All of these may be called from any thread.
+    [[nodiscard]] CalendarList calendars() const;
+    /// Waits for the first load to end.
+    [[nodiscard]] EventList events(const CalendarList& calendars, Instant from, Instant to) const;
+    [[nodiscard]] std::vector<StoreProblem> problems() const;
+    [[nodiscard]] bool isLoading() const;
+
+private:
+    struct Picture {
+        CalendarList calendars;
+        QHash<QString, std::shared_ptr<const CalendarContents>> contents;
+        std::vector<StoreProblem> problems;
+        bool isLoaded = false;
+    };
+    /// A calendar that changes in a folder bring up to date: any for a folder of events, one file
+    /// of that name for a calendar that is a file.
+    struct Watched {
+        std::string calendarName;
+        std::string fileName;
+    };
+
+    void run(const std::stop_token& stop);
+    void takeIn(const std::vector<FolderWatch::Change>& changes, const std::stop_token& stop);
+    /// Whether a change means more than other events in a folder; says which entries of the root
+    /// are then to be looked at.
+    [[nodiscard]] bool touchesCalendars(const FolderWatch::Change& change,
+                                        std::set<std::string>& touched) const;
+    void addChangedFile(const FolderWatch::Change& change, std::vector<FileCheck>& checks) const;
+    /// Finds the calendars again, and adds the files of those that are new or touched.
+    void findAgain(const std::set<std::string>& touched, std::vector<FileCheck>& checks);
+    void addAllFiles(std::size_t calendarIndex, std::vector<FileCheck>& checks);
+    /// Whether any event or problem changed.
+    [[nodiscard]] bool readFiles(std::vector<FileCheck>& checks, const std::stop_token& stop);
+    void watchFolders();
+    void publish(bool isLoaded);
+    [[nodiscard]] std::shared_ptr<const Picture> picture() const;
+
+    std::string rootPath_;
+    ZoneCatalog zones_;
+    std::function<void()> changed_;
+    std::vector<LoadedCalendar> loaded_;
+    std::optional<QString> rootProblem_;
+    std::map<std::string, std::vector<Watched>> watchedByFolder_;
+    bool isWatchComplete_ = false;
+    FolderWatch watch_;
+
+    mutable std::mutex mutex_;
+    mutable std::condition_variable loadEnded_;
+    std::shared_ptr<const Picture> picture_;
+    bool isStopped_ = false;
+    mutable std::atomic<bool> hasTooMany_ = false;
+    std::jthread thread_;
+};
+
+} // namespace quillet

@@ -1,0 +1,264 @@
+// The part of the loader that works on its own thread.
+
+#include "backends/icsfolder/FolderLoader.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <atomic>
+#include <cstdlib>
+#include <future>
+#include <tuple>
+#include <utility>
+
+namespace quillet {
+
+using std::chrono::milliseconds;
+
+namespace {
+
+/// How often calendars are looked after that no notice would come from.
+constexpr milliseconds pollingTime{2000};
+/// Below this many files a second thread costs more than it gains.
+constexpr std::size_t filesWorthASecondThread = 16;
+
+/// A file's folder and name, behind any number of links.
+std::pair<std::string, std::string> placeOf(const std::string& path) {
+    char* resolved = ::realpath(path.c_str(), nullptr);
+    const std::string place = resolved == nullptr ? path : resolved;
+    std::free(resolved); // NOLINT(cppcoreguidelines-no-malloc)
+    const std::size_t slash = place.rfind('/');
+    return {place.substr(0, std::max<std::size_t>(slash, 1)), place.substr(slash + 1)};
+}
+
+bool isSameSource(const CalendarSource& left, const CalendarSource& right) {
+    return left.kind == right.kind && *left.calendar == *right.calendar;
+}
+
+/// Checks each file once, of those that were named more than once.
+void dropRepetitions(std::vector<FileCheck>& checks) {
+    std::ranges::sort(checks, [](const FileCheck& left, const FileCheck& right) {
+        return std::tie(left.calendarIndex, left.name, right.mode) <
+               std::tie(right.calendarIndex, right.name, left.mode);
+    });
+    const auto repeated =
+        std::ranges::unique(checks, [](const FileCheck& left, const FileCheck& right) {
+            return left.calendarIndex == right.calendarIndex && left.name == right.name;
+        });
+    checks.erase(repeated.begin(), repeated.end());
+}
+
+} // namespace
+
+void FolderLoader::run(const std::stop_token& stop) {
+    // Watching begins before reading, so that no change falls in between.
+    watchFolders();
+    std::vector<FileCheck> checks;
+    for (std::size_t index = 0; index < loaded_.size(); ++index) {
+        addAllFiles(index, checks);
+    }
+    (void)readFiles(checks, stop);
+    checks = {};
+    publish(true);
+    changed_();
+    while (!stop.stop_requested()) {
+        const bool isAnyAway = std::ranges::any_of(loaded_, [](const LoadedCalendar& calendar) {
+            return calendar.source().kind == CalendarSource::Kind::Unreachable;
+        });
+        const bool needsPolling = isAnyAway || rootProblem_ || !isWatchComplete_;
+        takeIn(watch_.wait(needsPolling ? pollingTime : milliseconds(-1)), stop);
+    }
+}
+
+void FolderLoader::takeIn(const std::vector<FolderWatch::Change>& changes,
+                          const std::stop_token& stop) {
+    if (stop.stop_requested()) {
+        return;
+    }
+    const auto before = picture();
+    std::vector<FileCheck> checks;
+    std::set<std::string> touched;
+    // Without a change it was time to look after what cannot be watched.
+    bool isRootTouched = changes.empty();
+    for (const FolderWatch::Change& change : changes) {
+        isRootTouched = touchesCalendars(change, touched) || isRootTouched;
+    }
+    if (isRootTouched) {
+        if (!isWatchComplete_) {
+            for (const LoadedCalendar& calendar : loaded_) {
+                touched.insert(calendar.source().name);
+            }
+        }
+        findAgain(touched, checks);
+        watchFolders();
+    }
+    for (const FolderWatch::Change& change : changes) {
+        addChangedFile(change, checks);
+    }
+    dropRepetitions(checks);
+    const bool areEventsChanged = readFiles(checks, stop);
+    publish(true);
+    const auto after = picture();
+    if (areEventsChanged || after->problems != before->problems ||
+        after->calendars != before->calendars) {
+        changed_();
+    }
+}
+
+bool FolderLoader::touchesCalendars(const FolderWatch::Change& change,
+                                    std::set<std::string>& touched) const {
+    bool isTouched = false;
+    if (change.folder == rootPath_) {
+        if (change.name.empty()) {
+            for (const LoadedCalendar& calendar : loaded_) {
+                touched.insert(calendar.source().name);
+            }
+        } else {
+            touched.insert(change.name);
+        }
+        isTouched = true;
+    }
+    const auto watched = watchedByFolder_.find(change.folder);
+    if (watched == watchedByFolder_.end()) {
+        return isTouched;
+    }
+    for (const Watched& one : watched->second) {
+        const bool isFolderItself = change.name.empty();
+        const bool isDescription =
+            one.fileName.empty() && (change.name == "displayname" || change.name == "color");
+        const bool isCalendarFile = !one.fileName.empty() && one.fileName == change.name;
+        if (isFolderItself || isDescription || isCalendarFile) {
+            touched.insert(one.calendarName);
+            isTouched = true;
+        }
+    }
+    return isTouched;
+}
+
+void FolderLoader::addChangedFile(const FolderWatch::Change& change,
+                                  std::vector<FileCheck>& checks) const {
+    const auto watched = watchedByFolder_.find(change.folder);
+    if (watched == watchedByFolder_.end() || !isEventFileName(change.name)) {
+        return;
+    }
+    for (const Watched& one : watched->second) {
+        const auto calendar =
+            std::ranges::find(loaded_, one.calendarName,
+                              [](const LoadedCalendar& loaded) { return loaded.source().name; });
+        if (one.fileName.empty() && calendar != loaded_.end()) {
+            checks.push_back({.calendarIndex = static_cast<std::size_t>(calendar - loaded_.begin()),
+                              .name = change.name,
+                              .mode = FileCheck::Mode::Always,
+                              .stamp = {},
+                              .content = {}});
+        }
+    }
+}
+
+void FolderLoader::findAgain(const std::set<std::string>& touched, std::vector<FileCheck>& checks) {
+    auto sources = findCalendars(rootPath_);
+    if (!sources) {
+        // What was known stays: a disk that is away for a moment takes no rates along.
+        rootProblem_ = sources.error();
+        return;
+    }
+    rootProblem_.reset();
+    std::vector<LoadedCalendar> found;
+    std::vector<std::size_t> toRead;
+    for (CalendarSource& source : *sources) {
+        const auto known = std::ranges::find(
+            loaded_, source.name, [](const LoadedCalendar& one) { return one.source().name; });
+        if (known != loaded_.end() && source.kind == CalendarSource::Kind::Unreachable) {
+            source.calendar = known->source().calendar;
+        }
+        const bool isKnown = known != loaded_.end() && isSameSource(known->source(), source);
+        if (!isKnown || touched.contains(source.name)) {
+            toRead.push_back(found.size());
+        }
+        if (isKnown) {
+            // Every event points at the calendar that it was read with.
+            source.calendar = known->source().calendar;
+            known->setSource(std::move(source));
+            found.push_back(std::move(*known));
+        } else {
+            found.emplace_back(std::move(source));
+        }
+    }
+    loaded_ = std::move(found);
+    for (const std::size_t index : toRead) {
+        addAllFiles(index, checks);
+    }
+}
+
+void FolderLoader::addAllFiles(std::size_t calendarIndex, std::vector<FileCheck>& checks) {
+    for (std::string& name : loaded_[calendarIndex].filesToCheck()) {
+        checks.push_back(
+            {.calendarIndex = calendarIndex, .name = std::move(name), .stamp = {}, .content = {}});
+    }
+}
+
+bool FolderLoader::readFiles(std::vector<FileCheck>& checks, const std::stop_token& stop) {
+    std::atomic<std::size_t> next = 0;
+    const auto work = [&] {
+        for (std::size_t index = next++; index < checks.size() && !stop.stop_requested();
+             index = next++) {
+            loaded_[checks[index].calendarIndex].check(checks[index], zones_);
+        }
+    };
+    std::future<void> helper;
+    if (checks.size() >= filesWorthASecondThread) {
+        helper = std::async(std::launch::async, work);
+    }
+    work();
+    if (helper.valid()) {
+        helper.get();
+    }
+    bool isChanged = false;
+    std::vector<std::vector<const FileCheck*>> byCalendar(loaded_.size());
+    for (const FileCheck& check : checks) {
+        byCalendar[check.calendarIndex].push_back(&check);
+    }
+    for (std::size_t index = 0; index < loaded_.size(); ++index) {
+        isChanged = loaded_[index].apply(byCalendar[index]) || isChanged;
+    }
+    return isChanged;
+}
+
+void FolderLoader::watchFolders() {
+    std::vector<std::string> folders{rootPath_};
+    watchedByFolder_.clear();
+    for (const LoadedCalendar& calendar : loaded_) {
+        const CalendarSource& source = calendar.source();
+        if (source.kind == CalendarSource::Kind::Folder) {
+            watchedByFolder_[source.path].push_back({source.name, {}});
+        } else if (source.kind == CalendarSource::Kind::File) {
+            const auto [folder, file] = placeOf(source.path);
+            watchedByFolder_[folder].push_back({source.name, file});
+        }
+    }
+    for (const auto& [folder, watched] : watchedByFolder_) {
+        folders.push_back(folder);
+    }
+    isWatchComplete_ = watch_.watchOnly(folders);
+}
+
+void FolderLoader::publish(bool isLoaded) {
+    auto next = std::make_shared<Picture>();
+    next->isLoaded = isLoaded;
+    if (rootProblem_) {
+        next->problems.push_back(
+            {QFile::decodeName(QByteArray::fromStdString(rootPath_)), *rootProblem_});
+    }
+    for (const LoadedCalendar& calendar : loaded_) {
+        next->calendars.push_back(calendar.source().calendar);
+        next->contents.insert(calendar.source().calendar->calendarIdentifier, calendar.contents());
+        calendar.appendProblems(next->problems);
+    }
+    {
+        const std::scoped_lock lock(mutex_);
+        picture_ = std::move(next);
+    }
+    loadEnded_.notify_all();
+}
+
+} // namespace quillet

@@ -1,0 +1,123 @@
+#include "backends/icsfolder/IcsFile.h"
+
+#include "backends/icsfolder/EventAssembly.h"
+#include "platform/Localized.h"
+
+#include <future>
+#include <span>
+
+namespace quillet {
+
+namespace {
+
+/// Below this many events a second thread costs more than it gains.
+constexpr std::size_t eventsWorthASecondThread = 4000;
+/// What the counted rules of one file may cost: about half a second.
+constexpr std::int64_t fileBudget = 20'000'000;
+
+struct ReadEvents {
+    std::vector<RawEvent> events;
+    std::vector<std::string> unknownZones;
+    std::size_t unreadable = 0;
+    std::size_t withoutStart = 0;
+};
+
+std::vector<ReadingContext> contextsOf(const IcsBlocks& blocks, ZoneCatalog& zones) {
+    std::vector<ReadingContext> contexts;
+    for (const auto& calendar : blocks.calendars) {
+        ReadingContext context{zones, {}, {}};
+        for (const std::size_t offset : calendar.zones) {
+            const auto definition = zones.defined(blocks.text.data() + offset);
+            if (definition.rules) {
+                context.definedZones[definition.name] = definition.rules;
+            }
+        }
+        contexts.push_back(std::move(context));
+    }
+    return contexts;
+}
+
+ReadEvents readBlocks(const IcsBlocks& blocks, std::span<const IcsBlocks::EventBlock> some,
+                      std::vector<ReadingContext> contexts) {
+    ReadEvents read;
+    read.events.reserve(some.size());
+    for (const auto& block : some) {
+        auto event = readEvent(blocks.text.data() + block.offset, contexts[block.calendar]);
+        if (!event) {
+            ++read.unreadable;
+        } else if (!event->start) {
+            ++read.withoutStart;
+        } else {
+            read.events.push_back(*std::move(event));
+        }
+    }
+    for (ReadingContext& context : contexts) {
+        std::ranges::move(context.unknownZones, std::back_inserter(read.unknownZones));
+    }
+    return read;
+}
+
+ReadEvents readAll(const IcsBlocks& blocks, ZoneCatalog& zones) {
+    const std::span all(blocks.events);
+    const auto contexts = contextsOf(blocks, zones);
+    if (all.size() < eventsWorthASecondThread) {
+        return readBlocks(blocks, all, contexts);
+    }
+    const std::size_t half = all.size() / 2;
+    auto second = std::async(std::launch::async,
+                             [&] { return readBlocks(blocks, all.subspan(half), contexts); });
+    ReadEvents read = readBlocks(blocks, all.first(half), contexts);
+    ReadEvents rest = second.get();
+    std::ranges::move(rest.events, std::back_inserter(read.events));
+    std::ranges::move(rest.unknownZones, std::back_inserter(read.unknownZones));
+    read.unreadable += rest.unreadable;
+    read.withoutStart += rest.withoutStart;
+    return read;
+}
+
+void noteProblems(const IcsBlocks& blocks, const ReadEvents& read, QStringList& problems) {
+    if (!blocks.isCalendarFile) {
+        problems.append(localized("not a calendar file"));
+    }
+    if (blocks.endsWithinBlock) {
+        problems.append(localized("ends in the middle"));
+    }
+    if (blocks.hasCutLine) {
+        problems.append(localized("a text longer than 256 KB was cut"));
+    }
+    if (read.unreadable > 0) {
+        problems.append(localized("%1 events cannot be read").arg(read.unreadable));
+    }
+    if (read.withoutStart > 0) {
+        problems.append(localized("%1 events without a start").arg(read.withoutStart));
+    }
+    QStringList zones;
+    for (const std::string& zone : read.unknownZones) {
+        const QString name = QString::fromStdString(zone).left(100);
+        if (!zones.contains(name)) {
+            zones.append(name);
+        }
+    }
+    for (const QString& zone : zones) {
+        problems.append(localized("unknown time zone “%1”, taken as local time").arg(zone));
+    }
+}
+
+} // namespace
+
+IcsFile readIcs(std::string bytes, const std::shared_ptr<const StoreCalendar>& calendar,
+                ZoneCatalog& zones) {
+    IcsFile file;
+    if (bytes.empty()) {
+        file.problems.append(localized("an empty file"));
+        return file;
+    }
+    const IcsBlocks blocks = takeApart(asUtf8(std::move(bytes)));
+    ReadEvents read = readAll(blocks, zones);
+    noteProblems(blocks, read, file.problems);
+    WorkBudget budget(fileBudget);
+    assembleEvents(std::move(read.events), calendar, budget, file);
+    return file;
+}
+
+} // namespace quillet

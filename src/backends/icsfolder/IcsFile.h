@@ -1,0 +1,30 @@
+#pragma once
+
+#include "backends/icsfolder/IcsText.h"
+#include "backends/icsfolder/Series.h"
+#include "backends/icsfolder/ZoneCatalog.h"
+#include "platform/Event.h"
+
+#include <QStringList>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quillet {
+
+/// The events of one calendar file.
+struct IcsFile {
+    /// Events and occurrences that stand for themselves, in no order.
+    EventList events;
+    std::vector<std::shared_ptr<const Series>> series;
+    /// What could not be read, each in a sentence fragment.
+    QStringList problems;
+};
+
+/// Reads the content of a calendar file, whatever it is. Callable from any thread.
+[[nodiscard]] IcsFile readIcs(std::string bytes,
+                              const std::shared_ptr<const StoreCalendar>& calendar,
+                              ZoneCatalog& zones);
+
+} // namespace quillet

@@ -1,0 +1,87 @@
+#include "backends/icsfolder/IcsFolderStore.h"
+
+#include "backends/icsfolder/CalendarSources.h"
+#include "backends/icsfolder/FolderLoader.h"
+#include "platform/Localized.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <unistd.h>
+
+namespace quillet {
+
+namespace {
+
+bool canReach(const QString& path) {
+    const QByteArray name = QFile::encodeName(path);
+    if (::access(name.constData(), R_OK | X_OK) == 0) {
+        return QFileInfo(path).isDir();
+    }
+    return QDir().mkpath(path) && ::access(name.constData(), R_OK | X_OK) == 0;
+}
+
+} // namespace
+
+IcsFolderStore::IcsFolderStore(QString rootPath, CalendarAccess& access, const QTimeZone& zone)
+    : rootPath_(QDir::cleanPath(rootPath))
+    , access_(access)
+    , zone_(zone) {
+    accessObservation_ = access_.observeStatus([this] { (void)loader(); });
+    (void)loader();
+}
+
+IcsFolderStore::~IcsFolderStore() = default;
+
+AuthorizationStatus IcsFolderStore::authorizationStatus() const {
+    return canReach(rootPath_) ? access_.status() : AuthorizationStatus::Restricted;
+}
+
+void IcsFolderStore::requestAccess(AccessCompletion completion) {
+    access_.request(std::move(completion));
+}
+
+CalendarList IcsFolderStore::calendars() const {
+    const FolderLoader* running = loader();
+    return running != nullptr ? running->calendars() : CalendarList();
+}
+
+EventList IcsFolderStore::events(const CalendarList& calendars, Instant from, Instant to) const {
+    const FolderLoader* running = loader();
+    return running != nullptr ? running->events(calendars, from, to) : EventList();
+}
+
+Observation IcsFolderStore::observeChanges(std::function<void()> callback) {
+    return observers_.add(std::move(callback));
+}
+
+std::vector<StoreProblem> IcsFolderStore::problems() const {
+    const FolderLoader* running = loader();
+    return running != nullptr ? running->problems() : std::vector<StoreProblem>();
+}
+
+bool IcsFolderStore::isLoading() const {
+    const FolderLoader* running = loader();
+    return running != nullptr && running->isLoading();
+}
+
+std::expected<void, QString> IcsFolderStore::addCalendar(const QString& path) {
+    if (!canReach(rootPath_)) {
+        return std::unexpected(localized("The folder “%1” cannot be reached.").arg(rootPath_));
+    }
+    return linkCalendar(rootPath_, path);
+}
+
+FolderLoader* IcsFolderStore::loader() const {
+    const std::scoped_lock lock(loaderMutex_);
+    if (!loader_ && authorizationStatus() == AuthorizationStatus::Authorized) {
+        loader_ = std::make_unique<FolderLoader>(
+            QFile::encodeName(rootPath_).toStdString(), zone_, [this] {
+                QMetaObject::invokeMethod(
+                    &mainContext_, [this] { observers_.notify(); }, Qt::QueuedConnection);
+            });
+    }
+    return loader_.get();
+}
+
+} // namespace quillet

@@ -1,0 +1,272 @@
+#include "backends/icsfolder/IcsText.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quillet {
+
+namespace {
+
+constexpr std::array<std::string_view, 15> eventProperties = {
+    "DTSTART", "DTEND",    "DURATION",    "RRULE", "EXRULE", "RDATE",    "EXDATE", "RECURRENCE-ID",
+    "SUMMARY", "LOCATION", "DESCRIPTION", "URL",   "STATUS", "SEQUENCE", "UID"};
+constexpr std::array<std::string_view, 6> zoneProperties = {"TZID",    "TZOFFSETFROM", "TZOFFSETTO",
+                                                            "DTSTART", "RRULE",        "RDATE"};
+
+/// The parser drops a line with more values than 500.
+constexpr std::size_t mostValuesInLine = 250;
+
+bool equalsIgnoringCase(std::string_view left, std::string_view right) {
+    return left.size() == right.size() &&
+           std::equal(left.begin(), left.end(), right.begin(), [](char a, char b) {
+               return (a >= 'a' && a <= 'z' ? static_cast<char>(a - 32) : a) == b;
+           });
+}
+
+bool startsLine(std::string_view line, std::string_view property) {
+    return line.size() > property.size() &&
+           (line[property.size()] == ':' || line[property.size()] == ';') &&
+           equalsIgnoringCase(line.substr(0, property.size()), property);
+}
+
+std::string_view trimmed(std::string_view text) {
+    while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+/// Where the value begins: behind the first colon outside quotes.
+std::size_t valueOffset(std::string_view line) {
+    bool isQuoted = false;
+    for (std::size_t offset = 0; offset < line.size(); ++offset) {
+        isQuoted = line[offset] == '"' ? !isQuoted : isQuoted;
+        if (line[offset] == ':' && !isQuoted) {
+            return offset + 1;
+        }
+    }
+    return line.size();
+}
+
+/// Hands out lines with folds undone. A line is a view of the file where it was not folded.
+class LineReader {
+public:
+    explicit LineReader(std::string_view text)
+        : rest_(text) {}
+
+    [[nodiscard]] bool next(std::string_view& line) {
+        if (rest_.empty()) {
+            return false;
+        }
+        line = physicalLine();
+        if (rest_.empty() || !isFold(rest_.front())) {
+            return true;
+        }
+        unfolded_.assign(line);
+        while (!rest_.empty() && isFold(rest_.front())) {
+            unfolded_.append(physicalLine().substr(1));
+        }
+        line = unfolded_;
+        return true;
+    }
+
+private:
+    static bool isFold(char character) { return character == ' ' || character == '\t'; }
+
+    std::string_view physicalLine() {
+        const std::size_t end = rest_.find('\n');
+        std::string_view line = rest_.substr(0, end);
+        rest_.remove_prefix(end == std::string_view::npos ? rest_.size() : end + 1);
+        while (!line.empty() && line.back() == '\r') {
+            line.remove_suffix(1);
+        }
+        return line;
+    }
+
+    std::string_view rest_;
+    std::string unfolded_;
+};
+
+/// Walks over the lines of a file and sorts them into blocks.
+class Dissector {
+public:
+    IcsBlocks blocks;
+
+    void take(std::string_view line) {
+        if (startsLine(line, "BEGIN")) {
+            begin(trimmed(line.substr(6)));
+        } else if (startsLine(line, "END")) {
+            end(trimmed(line.substr(4)));
+        } else if (skippedDepth_ > 0) {
+            return;
+        } else if (place_ == Place::Event) {
+            keepIfWanted(line, eventProperties);
+        } else if (place_ == Place::Zone) {
+            keepIfWanted(line, zoneProperties);
+        } else if (place_ == Place::Calendar) {
+            calendarProperty(line);
+        }
+    }
+
+    void finish() {
+        blocks.endsWithinBlock = place_ != Place::Outside;
+        closeBlock();
+    }
+
+private:
+    enum class Place { Outside, Calendar, Event, Zone };
+
+    void begin(std::string_view component) {
+        if (skippedDepth_ > 0) {
+            ++skippedDepth_;
+        } else if (equalsIgnoringCase(component, "VCALENDAR")) {
+            closeBlock();
+            place_ = Place::Calendar;
+            blocks.isCalendarFile = true;
+            blocks.calendars.emplace_back();
+        } else if (place_ == Place::Zone) {
+            append("BEGIN:" + std::string(component));
+        } else if (place_ == Place::Event) {
+            skippedDepth_ = 1;
+        } else if (equalsIgnoringCase(component, "VEVENT")) {
+            openBlock(Place::Event);
+        } else if (equalsIgnoringCase(component, "VTIMEZONE")) {
+            openBlock(Place::Zone);
+        } else {
+            skippedDepth_ = 1;
+        }
+    }
+
+    void end(std::string_view component) {
+        if (equalsIgnoringCase(component, "VCALENDAR")) {
+            // Ends whatever was left open, so that a broken event does not swallow its followers.
+            closeBlock();
+            skippedDepth_ = 0;
+            place_ = Place::Outside;
+        } else if (equalsIgnoringCase(component, "VEVENT") && place_ == Place::Event) {
+            skippedDepth_ = 0;
+            closeBlock();
+            place_ = Place::Calendar;
+        } else if (skippedDepth_ > 0) {
+            --skippedDepth_;
+        } else if (equalsIgnoringCase(component, "VTIMEZONE") && place_ == Place::Zone) {
+            closeBlock();
+            place_ = Place::Calendar;
+        } else if (place_ == Place::Zone) {
+            append("END:" + std::string(component));
+        }
+    }
+
+    void openBlock(Place place) {
+        // An event outside of any calendar is still an event.
+        blocks.isCalendarFile = true;
+        if (blocks.calendars.empty()) {
+            blocks.calendars.emplace_back();
+        }
+        place_ = place;
+        if (place == Place::Event) {
+            blocks.events.push_back({blocks.text.size(), blocks.calendars.size() - 1});
+            append("BEGIN:VEVENT");
+        } else {
+            blocks.calendars.back().zones.push_back(blocks.text.size());
+            append("BEGIN:VTIMEZONE");
+        }
+    }
+
+    void closeBlock() {
+        if (place_ == Place::Event || place_ == Place::Zone) {
+            append(place_ == Place::Event ? "END:VEVENT" : "END:VTIMEZONE");
+            blocks.text += '\0';
+        }
+    }
+
+    template <std::size_t Count>
+    void keepIfWanted(std::string_view line, const std::array<std::string_view, Count>& wanted) {
+        const auto property = std::ranges::find_if(
+            wanted, [&](std::string_view name) { return startsLine(line, name); });
+        if (property == wanted.end()) {
+            return;
+        }
+        if (*property == "EXDATE" || *property == "RDATE") {
+            appendSplit(line);
+        } else {
+            append(cut(line));
+        }
+    }
+
+    void appendSplit(std::string_view line) {
+        const std::string_view head = cut(line.substr(0, valueOffset(line)));
+        std::string_view values = line.substr(valueOffset(line));
+        while (!values.empty()) {
+            std::size_t end = 0;
+            for (std::size_t count = 0; count < mostValuesInLine && end < values.size(); ++count) {
+                end = std::min(values.find(',', end), values.size() - 1) + 1;
+            }
+            std::string_view some = values.substr(0, end);
+            values.remove_prefix(end);
+            while (some.ends_with(',')) {
+                some.remove_suffix(1);
+            }
+            blocks.text += head;
+            append(cut(some));
+        }
+    }
+
+    std::string_view cut(std::string_view line) {
+        if (line.size() <= longestLineBytes) {
+            return line;
+        }
+        blocks.hasCutLine = true;
+        std::size_t end = longestLineBytes;
+        while (end > 0 && (static_cast<unsigned char>(line[end]) & 0xC0U) == 0x80U) {
+            --end;
+        }
+        // Half an escape sequence would stand for something else.
+        while (end > 0 && line[end - 1] == '\\') {
+            --end;
+        }
+        return line.substr(0, end);
+    }
+
+    void append(std::string_view line) {
+        blocks.text += line;
+        blocks.text += "\r\n";
+    }
+
+    void calendarProperty(std::string_view line) {
+        const auto takeOnce = [&](QString& target, std::string_view property) {
+            if (target.isEmpty() && startsLine(line, property)) {
+                const std::string_view value = cut(line.substr(valueOffset(line)));
+                target = QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()))
+                             .replace(QStringLiteral("\\,"), QStringLiteral(","))
+                             .replace(QStringLiteral("\\;"), QStringLiteral(";"))
+                             .replace(QStringLiteral("\\\\"), QStringLiteral("\\"))
+                             .simplified();
+            }
+        };
+        takeOnce(blocks.name, "X-WR-CALNAME");
+        takeOnce(blocks.name, "NAME");
+        takeOnce(blocks.color, "X-APPLE-CALENDAR-COLOR");
+        takeOnce(blocks.color, "COLOR");
+    }
+
+    Place place_ = Place::Outside;
+    /// How many components deep the walk is inside one that does not matter.
+    int skippedDepth_ = 0;
+};
+
+} // namespace
+
+IcsBlocks takeApart(std::string_view utf8) {
+    Dissector dissector;
+    dissector.blocks.text.reserve(utf8.size());
+    LineReader reader(utf8);
+    std::string_view line;
+    while (reader.next(line)) {
+        dissector.take(line);
+    }
+    dissector.finish();
+    return std::move(dissector.blocks);
+}
+
+} // namespace quillet

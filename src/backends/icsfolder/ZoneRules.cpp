@@ -1,0 +1,48 @@
+#include "backends/icsfolder/ZoneRules.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+
+namespace quillet {
+
+using std::chrono::seconds;
+using std::chrono::sys_seconds;
+
+ZoneRules::ZoneRules(seconds firstOffset, std::vector<Transition> transitions)
+    : firstOffset_(firstOffset) {
+    std::ranges::stable_sort(transitions, {}, &Transition::at);
+    seconds before = firstOffset;
+    for (const Transition& transition : transitions) {
+        const seconds later = std::max(before, transition.offsetAfter);
+        entries_.push_back({transition.at, LocalSeconds((transition.at + later).time_since_epoch()),
+                            transition.offsetAfter});
+        before = transition.offsetAfter;
+    }
+}
+
+std::shared_ptr<const ZoneRules> ZoneRules::fromTimeZone(const QTimeZone& zone) {
+    const QDateTime first(QDate(1900, 1, 1), QTime(0, 0), Qt::UTC);
+    const QDateTime last(QDate(2200, 1, 1), QTime(0, 0), Qt::UTC);
+    std::vector<Transition> transitions;
+    for (const QTimeZone::OffsetData& data : zone.transitions(first, last)) {
+        transitions.push_back(
+            {sys_seconds(seconds(data.atUtc.toSecsSinceEpoch())), seconds(data.offsetFromUtc)});
+    }
+    return std::make_shared<const ZoneRules>(seconds(zone.offsetFromUtc(first)),
+                                             std::move(transitions));
+}
+
+sys_seconds ZoneRules::toInstant(LocalSeconds local) const {
+    const auto next = std::ranges::upper_bound(entries_, local, {}, &Entry::localSwitch);
+    const seconds offset = next == entries_.begin() ? firstOffset_ : std::prev(next)->offsetAfter;
+    return sys_seconds(local.time_since_epoch() - offset);
+}
+
+LocalSeconds ZoneRules::toLocal(sys_seconds instant) const {
+    const auto next = std::ranges::upper_bound(entries_, instant, {}, &Entry::at);
+    const seconds offset = next == entries_.begin() ? firstOffset_ : std::prev(next)->offsetAfter;
+    return LocalSeconds(instant.time_since_epoch() + offset);
+}
+
+} // namespace quillet
