@@ -63,14 +63,15 @@ def application(process_identifier):
 
 
 def press(control):
-    """The control's own first action: what Space or a click does."""
+    """What Space or a click does, once the control can be used."""
     action = control.get_action_iface()
-    names = [action.get_action_name(index) for index in range(action.get_n_actions())]
-    for name in ("Press", "Toggle", "press", "toggle"):
-        if name in names:
-            action.do_action(names.index(name))
-            return
-    raise AssertionError(f'"{control.get_name()}" can only {names}')
+
+    def usable():
+        names = [action.get_action_name(index) for index in range(action.get_n_actions())]
+        return next((index for index, name in enumerate(names) if name in ("Press", "Toggle")), None)
+
+    action.do_action(wait_for(f'"{control.get_name()}" to be usable',
+                              lambda: None if usable() is None else (usable(),))[0])
 
 
 def type_text(control, text):

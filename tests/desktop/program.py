@@ -5,12 +5,13 @@ import subprocess
 import sys
 from pathlib import Path
 
-from accessibility import (ROLE, Atspi, application, below, cell_names, children, column_titles,
-                           has_state, press, press_key, row_names, type_text,
+from accessibility import (ROLE, Atspi, GLib, application, below, cell_names, children,
+                           column_titles, has_state, press, press_key, row_names, type_text,
                            wait_for)
 
 CALENDARS = Path(os.environ["XDG_DATA_HOME"]) / "calendars"
 LOG = Path(os.environ["HOME"]) / "log"
+TABLES = {ROLE.TABLE, ROLE.TREE, ROLE.TREE_TABLE}
 SETTINGS = Path(os.environ["XDG_CONFIG_HOME"]) / "quillet" / "quillet.json"
 
 
@@ -70,12 +71,18 @@ class Quillet:
         return found if found and children(found) else None
 
     def _give_up(self):
-        for control in self._controls() if self._application else []:
-            if has_state(control, Atspi.StateType.SHOWING):
-                print(control.get_role_name(), repr(control.get_name()), file=sys.stderr)
+        try:
+            self._print_controls()
+        except GLib.Error as error:
+            print(f"the controls changed meanwhile: {error}", file=sys.stderr)
         self._process.kill()
         self._process.wait()
         print(self.log, file=sys.stderr)
+
+    def _print_controls(self):
+        for control in self._controls() if self._application else []:
+            if has_state(control, Atspi.StateType.SHOWING):
+                print(control.get_role_name(), repr(control.get_name()), file=sys.stderr)
 
     def _controls(self):
         for window in children(self._application):
@@ -114,9 +121,6 @@ class Quillet:
     def wait_for_log(self, part):
         wait_for(f'"{part}" in the log', lambda: part in self.log)
 
-    def dismiss_message(self):
-        self.press("OK")
-
     def type_and_confirm(self, field, text):
         control = self.control(field, {ROLE.TEXT})
         self._focus(control)
@@ -130,22 +134,22 @@ class Quillet:
                  lambda: has_state(control, Atspi.StateType.FOCUSED))
 
     def rows(self, table):
-        return row_names(self.control(table, {ROLE.TABLE, ROLE.TREE}))
+        return row_names(self.control(table, TABLES))
 
     def column_titles(self, table):
-        return column_titles(self.control(table, {ROLE.TABLE, ROLE.TREE}))
+        return column_titles(self.control(table, TABLES))
 
     def _events(self):
-        return self.control("Events", {ROLE.TABLE, ROLE.TREE})
+        return self.control("Events", TABLES)
 
     def _titles(self):
-        events = self._events()
-        return cell_names(events, column_titles(events).index("Title"))
+        """Of the events that are shown; none while something else stands in the table's place."""
+        events = self.find("Events", TABLES)
+        return cell_names(events, column_titles(events).index("Title")) if events else []
 
     def wait_for_titles(self, titles, seconds=30):
         """Until the table shows just these events, in this order."""
-        wait_for(f"the events {titles}", lambda: self.find("Events") and self._titles() == titles,
-                 seconds)
+        wait_for(f"the events {titles}", lambda: self._titles() == titles, seconds)
 
     def select_row(self, row):
         self._events().get_table_iface().add_row_selection(row)
@@ -163,7 +167,7 @@ class Quillet:
     def toggle_calendar(self, title):
         """With the keyboard; tables take no action of a single cell."""
         row = self.calendar_titles().index(title)
-        self._focus(self.control("Calendars"))
+        self._focus(self.control("Calendars", TABLES))
         press_key("ctrl+Home", *["Down"] * row, "space")
 
     def save(self, button, path):

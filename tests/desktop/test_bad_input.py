@@ -42,7 +42,6 @@ def main():
     write_bad_files()
     with Quillet() as program:
         check_settings(program)
-        program.dismiss_message()
         program.press("Allow")
         program.press("Month")
         program.press("Current")
