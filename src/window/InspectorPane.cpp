@@ -95,6 +95,12 @@ QWidget* InspectorPane::makeKindChooser() {
     }
     connect(kinds_, &QButtonGroup::idClicked, this,
             [this](int kind) { inspector_.choosePeriodKind(static_cast<PeriodKind>(kind)); });
+    // Assistive programs check a button without clicking it.
+    connect(kinds_, &QButtonGroup::idToggled, this, [this](int kind, bool isChecked) {
+        if (isChecked && kind != static_cast<int>(inspector_.quickDatePeriodIndex())) {
+            inspector_.choosePeriodKind(static_cast<PeriodKind>(kind));
+        }
+    });
     return chooser;
 }
 
@@ -121,7 +127,11 @@ QToolButton* InspectorPane::makeLock() {
     lock->setAutoRaise(true);
     lock->setFocusPolicy(Qt::StrongFocus);
     lock->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    connect(lock, &QToolButton::clicked, this, [this] { inspector_.switchEndDateLock(); });
+    connect(lock, &QToolButton::toggled, this, [this](bool isLocked) {
+        if (isLocked == inspector_.isCustomDateOn()) {
+            inspector_.switchEndDateLock();
+        }
+    });
     return lock;
 }
 
