@@ -58,6 +58,9 @@ Program::Program(const ProgramPaths& paths)
                       calendars_, gregorian_, formats_})
     , eventResults_({settings_, *resultsPane_, eventsController_, events_, billing_, formats_})
     , columnLayouts_({settings_, *eventTable_, dialogs_})
+    , eventNotes_({settings_, events_, formats_})
+    , txtSettings_(settings_)
+    , textReport_(settings_, events_)
     , exportCSV_({settings_, *eventTable_, events_, fields_, dialogs_})
     , appDelegate_(
           {settings_, workspace_, taskLauncher_, dialogs_, {&csvItem_}, paths.releaseNotes})
@@ -98,6 +101,9 @@ void Program::wake() {
     eventResults_.awakeFromNib();
     resultsPane_->follow(eventResults_);
     columnLayouts_.awakeFromNib();
+    eventNotes_.awakeFromNib();
+    txtSettings_.awakeFromNib();
+    textReport_.awakeFromNib();
     eventItemView_.awakeFromNib();
     eventsController_.awakeFromNib();
 }

@@ -10,6 +10,9 @@
 #include "calendars/CalendarGroupsArrayController.h"
 #include "calendars/CalendarGroupsController.h"
 #include "eventtable/ColumnLayoutsArrayController.h"
+#include "export/TXTSettingsArrayController.h"
+#include "export/TextReportRefresh.h"
+#include "results/EventNotesViewController.h"
 #include "window/ActivationWatcher.h"
 #include "window/DesktopDialogs.h"
 #include "window/EventTableModel.h"
@@ -83,6 +86,9 @@ private:
     EventItemViewController eventItemView_;
     EventResultsViewController eventResults_;
     ColumnLayoutsArrayController columnLayouts_;
+    EventNotesViewController eventNotes_;
+    TXTSettingsArrayController txtSettings_;
+    TextReportRefresh textReport_;
     ExportCSV exportCSV_;
     AppDelegate appDelegate_;
     std::unique_ptr<MainWindow> window_;
