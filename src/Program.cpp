@@ -88,7 +88,15 @@ void Program::start() {
     window_->refreshProblems();
     window_->showMessage(settings_.startMessage().value_or(QString()));
     window_->show();
-    QTimer::singleShot(0, window_.get(), [this] { eventKitManager_.becomeActive(); });
+    QTimer::singleShot(0, window_.get(), [this] { becomeActiveFirst(); });
+}
+
+void Program::becomeActiveFirst() {
+    eventKitManager_.becomeActive();
+    // Access that was granted in an earlier run, whose settings are gone, is announced by nobody.
+    if (eventKitManager_.eventCalendarsAccessGranted()) {
+        calendars_.syncCalendars();
+    }
 }
 
 void Program::wake() {

@@ -46,6 +46,7 @@ public:
 private:
     [[nodiscard]] CalendarActions calendarActions();
     void wake();
+    void becomeActiveFirst();
     void arrangeColumns();
     void askForAccessAgain();
     void connectNotices();

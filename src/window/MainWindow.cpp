@@ -170,6 +170,10 @@ void MainWindow::refreshProblems() {
 }
 
 void MainWindow::showMessage(const QString& message) {
+    if (message.isEmpty() && findChild<QStatusBar*>() == nullptr) {
+        // An empty status bar would take a line of the window for nothing.
+        return;
+    }
     statusBar()->setVisible(!message.isEmpty());
     statusBar()->showMessage(message);
 }
@@ -178,7 +182,7 @@ void MainWindow::restoreState(const QString& stateFile) {
     const QSettings state(stateFile, QSettings::IniFormat);
     if (!restoreGeometry(state.value(QStringLiteral("geometry")).toByteArray())) {
         const int unit = fontMetrics().averageCharWidth();
-        resize(unit * 182, fontMetrics().height() * 46);
+        resize(unit * 200, fontMetrics().height() * 48);
     }
     splitter_->restoreState(state.value(QStringLiteral("panes")).toByteArray());
 }
