@@ -15,7 +15,7 @@ struct StoreCalendar {
     /// Stable across restarts and renames; holds no double quote and no backslash.
     QString calendarIdentifier;
     QString title;
-    /// "#RRGGBB", or empty when the store names none.
+    /// "#RRGGBB" or a CSS colour name; empty when the store names none.
     QString colorName;
 
     friend bool operator==(const StoreCalendar&, const StoreCalendar&) = default;

@@ -42,13 +42,21 @@ QString withoutSuffix(const std::string& name) {
 }
 
 /// "#RRGGBB" of what programs write ("#RRGGBBAA" too); empty for anything else.
+/// "#RRGGBB" (what follows, an opacity, is dropped) or a CSS colour name.
 QString colorFrom(const QString& text) {
-    const QString color = text.trimmed().left(7).toUpper();
-    const bool isHex =
-        color.size() == 7 && color.startsWith(u'#') &&
-        std::all_of(color.begin() + 1, color.end(), [](QChar digit) {
-            return (digit >= u'0' && digit <= u'9') || (digit >= u'A' && digit <= u'F');
-        });
+    const QString trimmed = text.trimmed();
+    const auto isLetter = [](QChar character) {
+        return character.toLower() >= u'a' && character.toLower() <= u'z';
+    };
+    if (!trimmed.isEmpty() && std::ranges::all_of(trimmed, isLetter)) {
+        return trimmed.toLower();
+    }
+    const QString color = trimmed.left(7).toUpper();
+    const auto isHexDigit = [](QChar digit) {
+        return (digit >= u'0' && digit <= u'9') || (digit >= u'A' && digit <= u'F');
+    };
+    const bool isHex = color.size() == 7 && color.startsWith(u'#') &&
+                       std::all_of(color.begin() + 1, color.end(), isHexDigit);
     return isHex ? color : QString();
 }
 
