@@ -2,6 +2,7 @@
 
 #include "platform/Localized.h"
 #include "window/SettingsBinding.h"
+#include "window/SymbolIcon.h"
 
 #include <QButtonGroup>
 #include <QCalendarWidget>
@@ -112,6 +113,13 @@ QCalendarWidget* InspectorPane::makePicker(const QString& name) {
     picker->setGridVisible(false);
     // Ours counts from Sunday = 1, Qt from Monday = 1.
     picker->setFirstDayOfWeek(static_cast<Qt::DayOfWeek>((calendar_.firstWeekday() + 5) % 7 + 1));
+    const std::array steps{std::pair{"qt_calendar_prevmonth", Symbol::Previous},
+                           std::pair{"qt_calendar_nextmonth", Symbol::Next}};
+    for (const auto& [buttonName, symbol] : steps) {
+        if (auto* button = picker->findChild<QToolButton*>(QString::fromLatin1(buttonName))) {
+            button->setIcon(symbolIcon(symbol, QPalette::HighlightedText));
+        }
+    }
     const QTextCharFormat plain;
     picker->setWeekdayTextFormat(Qt::Saturday, plain);
     picker->setWeekdayTextFormat(Qt::Sunday, plain);
@@ -146,8 +154,7 @@ void InspectorPane::showPeriod() {
     }
     const bool isLocked = !inspector_.isCustomDateOn();
     lock_->setChecked(isLocked);
-    lock_->setIcon(QIcon::fromTheme(isLocked ? QStringLiteral("changes-prevent-symbolic")
-                                             : QStringLiteral("changes-allow-symbolic")));
+    lock_->setIcon(symbolIcon(isLocked ? Symbol::Locked : Symbol::Unlocked));
     lock_->setText(isLocked ? localized("Locked") : localized("Unlocked"));
 }
 

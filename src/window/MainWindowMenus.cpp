@@ -5,6 +5,7 @@
 #include "window/EventTableView.h"
 #include "window/PreferencesDialog.h"
 #include "window/SettingsBinding.h"
+#include "window/SymbolIcon.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -19,15 +20,6 @@
 
 namespace quillet {
 
-namespace {
-
-QIcon themeIcon(const char* name, QStyle::StandardPixmap fallBack) {
-    return QIcon::fromTheme(QString::fromLatin1(name),
-                            QApplication::style()->standardIcon(fallBack));
-}
-
-} // namespace
-
 QAction* MainWindow::addAction(QMenu& menu, const QString& text, const char* name,
                                const QKeySequence& shortcut, std::function<void()> action) {
     QAction* added = menu.addAction(text);
@@ -41,21 +33,20 @@ void MainWindow::makeStepActions() {
     struct Step {
         QAction*& action;
         const char* text;
-        const char* icon;
-        QStyle::StandardPixmap fallBack;
+        Symbol symbol;
         QKeySequence shortcut;
         PeriodStep step;
     };
     const std::array steps{
-        Step{previousAction_, "Previous", "go-previous", QStyle::SP_ArrowLeft,
-             QKeySequence(Qt::ALT | Qt::Key_Left), PeriodStep::Previous},
-        Step{currentAction_, "Current", "go-jump-today", QStyle::SP_ArrowDown,
-             QKeySequence(Qt::CTRL | Qt::Key_T), PeriodStep::Current},
-        Step{nextAction_, "Next", "go-next", QStyle::SP_ArrowRight,
-             QKeySequence(Qt::ALT | Qt::Key_Right), PeriodStep::Next},
+        Step{previousAction_, "Previous", Symbol::Previous, QKeySequence(Qt::ALT | Qt::Key_Left),
+             PeriodStep::Previous},
+        Step{currentAction_, "Current", Symbol::Current, QKeySequence(Qt::CTRL | Qt::Key_T),
+             PeriodStep::Current},
+        Step{nextAction_, "Next", Symbol::Next, QKeySequence(Qt::ALT | Qt::Key_Right),
+             PeriodStep::Next},
     };
     for (const Step& step : steps) {
-        step.action = new QAction(themeIcon(step.icon, step.fallBack), localized(step.text), this);
+        step.action = new QAction(symbolIcon(step.symbol), localized(step.text), this);
         step.action->setObjectName(QStringLiteral("setQuickDates") +
                                    QString::fromLatin1(step.text));
         step.action->setShortcut(step.shortcut);
@@ -77,7 +68,7 @@ void MainWindow::makeToolBar() {
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     with_.exportCsvAction.setText(localized("CSV"));
-    with_.exportCsvAction.setIcon(themeIcon("document-save-as", QStyle::SP_DialogSaveButton));
+    with_.exportCsvAction.setIcon(symbolIcon(Symbol::Save));
     with_.exportCsvAction.setToolTip(localized("Save the listed events as a CSV file"));
     connect(&with_.exportCsvAction, &QAction::triggered, this,
             [this] { with_.exportCSV.saveAsCSV(); });

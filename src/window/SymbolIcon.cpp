@@ -1,0 +1,102 @@
+#include "window/SymbolIcon.h"
+
+#include <QGuiApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace quillet {
+
+namespace {
+
+/// The drawings stand in a square of 16 units.
+constexpr double unitSquare = 16.0;
+
+QPainterPath polyline(std::initializer_list<QPointF> points) {
+    QPainterPath path(*points.begin());
+    for (const QPointF& point : points) {
+        path.lineTo(point);
+    }
+    return path;
+}
+
+QPainterPath padlock(bool isLocked) {
+    QPainterPath path;
+    path.addRoundedRect(QRectF(3.5, 7.5, 9, 6), 1, 1);
+    path.moveTo(5.5, 7.5);
+    path.lineTo(5.5, 5);
+    path.arcTo(QRectF(5.5, 2.5, 5, 5), 180, isLocked ? -180 : -140);
+    if (isLocked) {
+        path.lineTo(10.5, 7.5);
+    }
+    return path;
+}
+
+QPainterPath drawing(Symbol symbol) {
+    QPainterPath path;
+    switch (symbol) {
+    case Symbol::Previous:
+        return polyline({{10, 3}, {5, 8}, {10, 13}});
+    case Symbol::Next:
+        return polyline({{6, 3}, {11, 8}, {6, 13}});
+    case Symbol::Current:
+        path.addRoundedRect(QRectF(2.5, 3.5, 11, 10), 1.5, 1.5);
+        path.addPath(polyline({{2.5, 6.5}, {13.5, 6.5}}));
+        path.addPath(polyline({{5.5, 2}, {5.5, 4}}));
+        path.addPath(polyline({{10.5, 2}, {10.5, 4}}));
+        path.addEllipse(QPointF(8, 10), 1, 1);
+        return path;
+    case Symbol::Save:
+        path.addPath(polyline({{8, 2}, {8, 10}}));
+        path.addPath(polyline({{4.5, 6.5}, {8, 10}, {11.5, 6.5}}));
+        path.addPath(polyline({{2.5, 11}, {2.5, 13.5}, {13.5, 13.5}, {13.5, 11}}));
+        return path;
+    case Symbol::Locked:
+    case Symbol::Unlocked:
+        return padlock(symbol == Symbol::Locked);
+    }
+    return path;
+}
+
+class SymbolEngine final : public QIconEngine {
+public:
+    SymbolEngine(Symbol symbol, QPalette::ColorRole role)
+        : symbol_(symbol)
+        , role_(role) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode,
+               QIcon::State /*state*/) override {
+        const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+        const double side = std::min(rect.width(), rect.height());
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->translate(rect.center().x() + 0.5 - side / 2, rect.center().y() + 0.5 - side / 2);
+        painter->scale(side / unitSquare, side / unitSquare);
+        constexpr double penWidth = 1.4;
+        painter->setPen(QPen(QGuiApplication::palette().color(group, role_), penWidth,
+                             Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawPath(drawing(symbol_));
+        painter->restore();
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect(QPoint(), size), mode, state);
+        return pixmap;
+    }
+    [[nodiscard]] QIconEngine* clone() const override { return new SymbolEngine(symbol_, role_); }
+
+private:
+    Symbol symbol_;
+    QPalette::ColorRole role_;
+};
+
+} // namespace
+
+QIcon symbolIcon(Symbol symbol, QPalette::ColorRole role) {
+    return QIcon(new SymbolEngine(symbol, role));
+}
+
+} // namespace quillet

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QIcon>
+#include <QPalette>
+
+namespace quillet {
+
+enum class Symbol { Previous, Current, Next, Save, Locked, Unlocked };
+
+/// A line drawing in a colour of the palette, sharp at every size; it follows light and dark.
+[[nodiscard]] QIcon symbolIcon(Symbol symbol, QPalette::ColorRole role = QPalette::ButtonText);
+
+} // namespace quillet
