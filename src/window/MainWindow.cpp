@@ -38,7 +38,9 @@ QFrame* line() {
 
 MainWindow::MainWindow(Collaborators collaborators, QWidget* parent)
     : QMainWindow(parent)
-    , with_(std::move(collaborators)) {
+    , with_(std::move(collaborators))
+    , preferences_(
+          with_.settings, [this] { with_.eventItemViewController.resetAllColumnTitles(); }, *this) {
     setWindowTitle(QStringLiteral("Quillet"));
     setAcceptDrops(true);
     makeStepActions();
@@ -47,6 +49,7 @@ MainWindow::MainWindow(Collaborators collaborators, QWidget* parent)
     makeMenus();
     new BusyIndicator(with_.settings, this);
     followState();
+    preferences_.controller().awakeFromNib();
 }
 
 MainWindow::~MainWindow() = default;

@@ -7,6 +7,7 @@
 #include "period/DateInspectorController.h"
 #include "window/CalendarListModel.h"
 #include "window/InterfaceActions.h"
+#include "window/PreferencesPanes.h"
 
 #include <QMainWindow>
 
@@ -22,7 +23,6 @@ namespace quillet {
 class CalendarPane;
 class EmptyState;
 class EventTableView;
-class PreferencesDialog;
 class ResultsPane;
 
 /// What the window can ask for around the calendars themselves.
@@ -107,7 +107,7 @@ private:
     QAction* previousAction_ = nullptr;
     QAction* currentAction_ = nullptr;
     QAction* nextAction_ = nullptr;
-    PreferencesDialog* preferences_ = nullptr;
+    PreferencesPanes preferences_;
 };
 
 } // namespace quillet

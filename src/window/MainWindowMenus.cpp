@@ -3,7 +3,6 @@
 #include "platform/Localized.h"
 #include "window/ColumnsMenu.h"
 #include "window/EventTableView.h"
-#include "window/PreferencesDialog.h"
 #include "window/SettingsBinding.h"
 #include "window/SymbolIcon.h"
 
@@ -212,13 +211,7 @@ void MainWindow::addCalendar(const QString& path) {
 }
 
 void MainWindow::showPreferences() {
-    if (preferences_ == nullptr) {
-        preferences_ = new PreferencesDialog(
-            with_.settings, [this] { with_.eventItemViewController.resetAllColumnTitles(); }, this);
-    }
-    preferences_->show();
-    preferences_->raise();
-    preferences_->activateWindow();
+    preferences_.showWindow();
 }
 
 void MainWindow::showAbout() {

@@ -15,28 +15,48 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
 namespace quillet {
 
+namespace {
+
+/// What the tabs show.
+constexpr std::array panes{PreferencesPane::General, PreferencesPane::Columns,
+                           PreferencesPane::Csv};
+
+} // namespace
+
 PreferencesDialog::PreferencesDialog(SettingsStore& settings,
                                      std::function<void()> resetAllColumnTitles, QWidget* parent)
     : QDialog(parent)
-    , settings_(settings) {
-    setWindowTitle(localized("Preferences"));
-    auto* pages = new QTabWidget(this);
-    pages->addTab(makeGeneralPage(), localized("General"));
-    pages->addTab(makeColumnsPage(std::move(resetAllColumnTitles)), localized("Columns"));
-    pages->addTab(makeCsvPage(), localized("CSV"));
+    , settings_(settings)
+    , pages_(new QTabWidget(this)) {
+    pages_->addTab(makeGeneralPage(), localized("General"));
+    pages_->addTab(makeColumnsPage(std::move(resetAllColumnTitles)), localized("Columns"));
+    pages_->addTab(makeCsvPage(), localized("CSV/TSV"));
+    connect(pages_, &QTabWidget::currentChanged, this,
+            [this](int tab) { Q_EMIT paneChosen(panes.at(static_cast<std::size_t>(tab))); });
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::close);
     auto* layout = new QVBoxLayout(this);
-    layout->addWidget(pages);
+    layout->addWidget(pages_);
     layout->addWidget(buttons);
 }
 
-PreferencesDialog::~PreferencesDialog() = default;
+PreferencesDialog::~PreferencesDialog() {
+    // Tabs that go one by one at the end are not chosen by anybody.
+    pages_->disconnect(this);
+}
+
+void PreferencesDialog::showPane(PreferencesPane pane) {
+    if (const auto* found = std::ranges::find(panes, pane); found != panes.end()) {
+        const QSignalBlocker blocker(pages_);
+        pages_->setCurrentIndex(static_cast<int>(found - panes.begin()));
+    }
+}
 
 QWidget* PreferencesDialog::makeCheckBox(const QString& text, const char* key) {
     auto* box = new QCheckBox(text, this);

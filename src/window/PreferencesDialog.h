@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/PreferencesWindowController.h"
 #include "platform/SettingsStore.h"
 
 #include <QDialog>
@@ -18,6 +19,13 @@ public:
     ~PreferencesDialog() override;
     Q_DISABLE_COPY_MOVE(PreferencesDialog)
 
+    /// Brings a pane to the front; nothing for one that this window does not have.
+    void showPane(PreferencesPane pane);
+
+Q_SIGNALS:
+    /// The user chose the tab of a pane.
+    void paneChosen(quillet::PreferencesPane pane);
+
 private:
     [[nodiscard]] QWidget* makeGeneralPage();
     [[nodiscard]] QWidget* makeColumnsPage(std::function<void()> resetAllColumnTitles);
@@ -25,6 +33,7 @@ private:
     QWidget* makeCheckBox(const QString& text, const char* key);
 
     SettingsStore& settings_;
+    QTabWidget* pages_;
 };
 
 } // namespace quillet

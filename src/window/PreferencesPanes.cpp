@@ -1,0 +1,48 @@
+#include "window/PreferencesPanes.h"
+
+#include "window/PreferencesDialog.h"
+
+#include <utility>
+
+namespace quillet {
+
+PreferencesPanes::PreferencesPanes(SettingsStore& settings,
+                                   std::function<void()> resetAllColumnTitles, QWidget& parent)
+    : settings_(settings)
+    , resetAllColumnTitles_(std::move(resetAllColumnTitles))
+    , parent_(parent)
+    , controller_(settings, *this) {}
+
+PreferencesPanes::~PreferencesPanes() = default;
+
+void PreferencesPanes::showWindow() {
+    if (dialog_ == nullptr) {
+        dialog_ = std::make_unique<PreferencesDialog>(settings_, resetAllColumnTitles_, &parent_);
+        dialog_->setWindowTitle(title_);
+        dialog_->showPane(pane_);
+        QObject::connect(dialog_.get(), &PreferencesDialog::paneChosen, dialog_.get(),
+                         [this](PreferencesPane pane) { controller_.toolbarItemClicked(pane); });
+    }
+    dialog_->show();
+    dialog_->activateWindow();
+}
+
+void PreferencesPanes::setTitle(const QString& title) {
+    title_ = title;
+    if (dialog_ != nullptr) {
+        dialog_->setWindowTitle(title);
+    }
+}
+
+void PreferencesPanes::removePane(PreferencesPane /*pane*/) {}
+
+void PreferencesPanes::installPane(PreferencesPane pane) {
+    pane_ = pane;
+    if (dialog_ != nullptr) {
+        dialog_->showPane(pane);
+    }
+}
+
+void PreferencesPanes::setSelectedToolbarItem(const QString& /*identifier*/) {}
+
+} // namespace quillet
