@@ -19,8 +19,9 @@ FolderLoader::FolderLoader(std::string rootPath, const QTimeZone& zone,
     , zones_(zone)
     , changed_(std::move(changed))
     , picture_(std::make_shared<const Picture>()) {
-    std::vector<FileCheck> checks;
-    findAgain({}, checks);
+    // Watching begins before looking, so that no change falls in between.
+    (void)watch_.watchOnly({rootPath_});
+    findCalendarsAgain({});
     publish(false);
     thread_ = std::jthread([this](const std::stop_token& stop) { run(stop); });
 }

@@ -59,12 +59,14 @@ private:
     [[nodiscard]] bool touchesCalendars(const FolderWatch::Change& change,
                                         std::set<std::string>& touched) const;
     void addChangedFile(const FolderWatch::Change& change, std::vector<FileCheck>& checks) const;
-    /// Finds the calendars again, and adds the files of those that are new or touched.
-    void findAgain(const std::set<std::string>& touched, std::vector<FileCheck>& checks);
-    void addAllFiles(std::size_t calendarIndex, std::vector<FileCheck>& checks);
+    /// Finds the calendars anew. Those that are new or touched then need listing.
+    void findCalendarsAgain(const std::set<std::string>& touched);
+    /// Watches the folders of all calendars. Whether one of them was not watched before.
+    bool watchFolders();
+    /// Adds the files of all calendars that need listing.
+    void addListedFiles(std::vector<FileCheck>& checks);
     /// Whether any event or problem changed.
     [[nodiscard]] bool readFiles(std::vector<FileCheck>& checks, const std::stop_token& stop);
-    void watchFolders();
     void publish(bool isLoaded);
     [[nodiscard]] std::shared_ptr<const Picture> picture() const;
 
@@ -75,6 +77,7 @@ private:
     std::optional<QString> rootProblem_;
     std::map<std::string, std::vector<Watched>> watchedByFolder_;
     bool isWatchComplete_ = false;
+    std::vector<std::string> watchedFolders_;
     FolderWatch watch_;
 
     mutable std::mutex mutex_;

@@ -51,12 +51,9 @@ void dropRepetitions(std::vector<FileCheck>& checks) {
 } // namespace
 
 void FolderLoader::run(const std::stop_token& stop) {
-    // Watching begins before reading, so that no change falls in between.
-    watchFolders();
+    (void)watchFolders();
     std::vector<FileCheck> checks;
-    for (std::size_t index = 0; index < loaded_.size(); ++index) {
-        addAllFiles(index, checks);
-    }
+    addListedFiles(checks);
     (void)readFiles(checks, stop);
     checks = {};
     publish(true);
@@ -89,8 +86,12 @@ void FolderLoader::takeIn(const std::vector<FolderWatch::Change>& changes,
                 touched.insert(calendar.source().name);
             }
         }
-        findAgain(touched, checks);
-        watchFolders();
+        findCalendarsAgain(touched);
+        if (watchFolders()) {
+            // What happened in a new folder before it was watched.
+            findCalendarsAgain({});
+        }
+        addListedFiles(checks);
     }
     for (const FolderWatch::Change& change : changes) {
         addChangedFile(change, checks);
@@ -155,7 +156,7 @@ void FolderLoader::addChangedFile(const FolderWatch::Change& change,
     }
 }
 
-void FolderLoader::findAgain(const std::set<std::string>& touched, std::vector<FileCheck>& checks) {
+void FolderLoader::findCalendarsAgain(const std::set<std::string>& touched) {
     auto sources = findCalendars(rootPath_);
     if (!sources) {
         // What was known stays: a disk that is away for a moment takes no rates along.
@@ -164,36 +165,36 @@ void FolderLoader::findAgain(const std::set<std::string>& touched, std::vector<F
     }
     rootProblem_.reset();
     std::vector<LoadedCalendar> found;
-    std::vector<std::size_t> toRead;
     for (CalendarSource& source : *sources) {
         const auto known = std::ranges::find(
             loaded_, source.name, [](const LoadedCalendar& one) { return one.source().name; });
         if (known != loaded_.end() && source.kind == CalendarSource::Kind::Unreachable) {
             source.calendar = known->source().calendar;
         }
-        const bool isKnown = known != loaded_.end() && isSameSource(known->source(), source);
-        if (!isKnown || touched.contains(source.name)) {
-            toRead.push_back(found.size());
-        }
-        if (isKnown) {
-            // Every event points at the calendar that it was read with.
-            source.calendar = known->source().calendar;
-            known->setSource(std::move(source));
-            found.push_back(std::move(*known));
-        } else {
+        if (known == loaded_.end() || !isSameSource(known->source(), source)) {
             found.emplace_back(std::move(source));
+            continue;
         }
+        if (touched.contains(source.name)) {
+            known->requireListing();
+        }
+        // Every event points at the calendar that it was read with.
+        source.calendar = known->source().calendar;
+        known->setSource(std::move(source));
+        found.push_back(std::move(*known));
     }
     loaded_ = std::move(found);
-    for (const std::size_t index : toRead) {
-        addAllFiles(index, checks);
-    }
 }
 
-void FolderLoader::addAllFiles(std::size_t calendarIndex, std::vector<FileCheck>& checks) {
-    for (std::string& name : loaded_[calendarIndex].filesToCheck()) {
-        checks.push_back(
-            {.calendarIndex = calendarIndex, .name = std::move(name), .stamp = {}, .content = {}});
+void FolderLoader::addListedFiles(std::vector<FileCheck>& checks) {
+    for (std::size_t index = 0; index < loaded_.size(); ++index) {
+        if (!loaded_[index].needsListing()) {
+            continue;
+        }
+        for (std::string& name : loaded_[index].filesToCheck()) {
+            checks.push_back(
+                {.calendarIndex = index, .name = std::move(name), .stamp = {}, .content = {}});
+        }
     }
 }
 
@@ -224,7 +225,7 @@ bool FolderLoader::readFiles(std::vector<FileCheck>& checks, const std::stop_tok
     return isChanged;
 }
 
-void FolderLoader::watchFolders() {
+bool FolderLoader::watchFolders() {
     std::vector<std::string> folders{rootPath_};
     watchedByFolder_.clear();
     for (const LoadedCalendar& calendar : loaded_) {
@@ -240,6 +241,10 @@ void FolderLoader::watchFolders() {
         folders.push_back(folder);
     }
     isWatchComplete_ = watch_.watchOnly(folders);
+    std::ranges::sort(folders);
+    const bool hasNewFolder = !std::ranges::includes(watchedFolders_, folders);
+    watchedFolders_ = std::move(folders);
+    return hasNewFolder;
 }
 
 void FolderLoader::publish(bool isLoaded) {

@@ -93,7 +93,8 @@ QString textFrom(const icalproperty* property) {
     if (text == nullptr) {
         return {};
     }
-    QStringDecoder decoder(QStringConverter::Utf8);
+    // Stateless, so that a character cut off at the end counts as an error.
+    QStringDecoder decoder(QStringConverter::Utf8, QStringConverter::Flag::Stateless);
     const QString decoded = decoder(QByteArrayView(text));
     return decoder.hasError() ? QString::fromLatin1(text) : decoded;
 }

@@ -124,9 +124,10 @@ private:
             place_ = Place::Calendar;
             blocks.isCalendarFile = true;
             blocks.calendars.emplace_back();
-        } else if (place_ == Place::Zone) {
+        } else if (place_ == Place::Zone && !isInObservance_ && isObservance(component)) {
+            isInObservance_ = true;
             append("BEGIN:" + std::string(component));
-        } else if (place_ == Place::Event) {
+        } else if (place_ == Place::Event || place_ == Place::Zone) {
             skippedDepth_ = 1;
         } else if (equalsIgnoringCase(component, "VEVENT")) {
             openBlock(Place::Event);
@@ -152,9 +153,15 @@ private:
         } else if (equalsIgnoringCase(component, "VTIMEZONE") && place_ == Place::Zone) {
             closeBlock();
             place_ = Place::Calendar;
-        } else if (place_ == Place::Zone) {
+        } else if (place_ == Place::Zone && isInObservance_ && isObservance(component)) {
+            isInObservance_ = false;
             append("END:" + std::string(component));
         }
+    }
+
+    static bool isObservance(std::string_view component) {
+        return equalsIgnoringCase(component, "STANDARD") ||
+               equalsIgnoringCase(component, "DAYLIGHT");
     }
 
     void openBlock(Place place) {
@@ -164,6 +171,7 @@ private:
             blocks.calendars.emplace_back();
         }
         place_ = place;
+        isInObservance_ = false;
         if (place == Place::Event) {
             blocks.events.push_back({blocks.text.size(), blocks.calendars.size() - 1});
             append("BEGIN:VEVENT");
@@ -253,6 +261,7 @@ private:
     Place place_ = Place::Outside;
     /// How many components deep the walk is inside one that does not matter.
     int skippedDepth_ = 0;
+    bool isInObservance_ = false;
 };
 
 } // namespace

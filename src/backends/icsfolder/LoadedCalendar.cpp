@@ -53,6 +53,7 @@ LoadedCalendar::LoadedCalendar(CalendarSource source)
     , contents_(std::make_shared<const CalendarContents>()) {}
 
 std::vector<std::string> LoadedCalendar::filesToCheck() {
+    needsListing_ = false;
     listingProblem_.reset();
     std::vector<std::string> names;
     if (source_.kind == CalendarSource::Kind::File) {

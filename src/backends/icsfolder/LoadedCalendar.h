@@ -50,6 +50,9 @@ public:
     /// A source that says the same about the same calendar.
     void setSource(CalendarSource source) { source_ = std::move(source); }
 
+    /// Whether all its files are to be looked at, as at first.
+    [[nodiscard]] bool needsListing() const { return needsListing_; }
+    void requireListing() { needsListing_ = true; }
     /// Every file that is there or was there at the last look. A folder that cannot be listed
     /// becomes a problem and keeps the events that it had.
     [[nodiscard]] std::vector<std::string> filesToCheck();
@@ -69,6 +72,7 @@ private:
     [[nodiscard]] std::string pathOf(const std::string& name) const;
 
     CalendarSource source_;
+    bool needsListing_ = true;
     std::optional<QString> listingProblem_;
     std::map<std::string, KnownFile> files_;
     std::shared_ptr<const CalendarContents> contents_;
