@@ -3,6 +3,7 @@
 #include "eventtable/EventColumns.h"
 #include "eventtable/EventOrder.h"
 #include "platform/Localized.h"
+#include "window/CellPadding.h"
 #include "window/ColumnsMenu.h"
 
 #include <QHeaderView>
@@ -63,6 +64,7 @@ EventTableView::EventTableView(QAbstractItemModel& model, ListController<Event>&
     setSelectionMode(ExtendedSelection);
     setEditTriggers(NoEditTriggers);
     setShowGrid(false);
+    setItemDelegate(new CellPadding(this));
     setAlternatingRowColors(true);
     setWordWrap(false);
     setTabKeyNavigation(false);

@@ -91,6 +91,15 @@ QWidget* InspectorPane::makeKindChooser() {
         button->setAutoRaise(false);
         button->setFocusPolicy(Qt::StrongFocus);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        // Pressed or not is hard to tell in dark colours; the selection's colour is not.
+        connect(button, &QToolButton::toggled, button, [button](bool isChecked) {
+            QPalette palette;
+            if (isChecked) {
+                palette.setColor(QPalette::Button, palette.color(QPalette::Highlight));
+                palette.setColor(QPalette::ButtonText, palette.color(QPalette::HighlightedText));
+            }
+            button->setPalette(palette);
+        });
         kinds_->addButton(button, kind);
         layout->addWidget(button);
     }

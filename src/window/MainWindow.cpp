@@ -13,6 +13,7 @@
 #include <QDragEnterEvent>
 #include <QLabel>
 #include <QMimeData>
+#include <QScreen>
 #include <QSettings>
 #include <QSplitter>
 #include <QStackedWidget>
@@ -185,7 +186,7 @@ void MainWindow::restoreState(const QString& stateFile) {
     const QSettings state(stateFile, QSettings::IniFormat);
     if (!restoreGeometry(state.value(QStringLiteral("geometry")).toByteArray())) {
         const int unit = fontMetrics().averageCharWidth();
-        resize(unit * 200, fontMetrics().height() * 48);
+        resize(QSize(unit * 200, fontMetrics().height() * 48).boundedTo(screen()->availableSize()));
     }
     splitter_->restoreState(state.value(QStringLiteral("panes")).toByteArray());
 }
