@@ -10,7 +10,7 @@ namespace quillet {
 namespace {
 
 using namespace std::chrono_literals;
-constexpr std::size_t minutesOfADay = 24 * 60;
+constexpr std::size_t minutesOfADay = 1440;
 
 } // namespace
 
