@@ -2,6 +2,7 @@
 
 #include "backends/settingsfile/SettingsJson.h"
 #include "platform/Localized.h"
+#include "platform/Logging.h"
 
 #include <QDir>
 #include <QFile>
@@ -101,6 +102,7 @@ void SettingsFile::flush() {
         return;
     }
     QDir().mkpath(QFileInfo(path_).absolutePath());
+    keepBrokenFile();
     // A new one for each write: an error once met stays with the object for good.
     QSettings file(path_, jsonFormat());
     for (const QString& key : std::as_const(changedKeys_)) {
@@ -119,6 +121,36 @@ void SettingsFile::flush() {
     reportWriteProblem(
         localized("Settings cannot be saved to %1. They are kept until they can.").arg(path_));
     writeTimer_.start(retryDelay);
+}
+
+void SettingsFile::keepBrokenFile() {
+    // Another program may have spoilt the file since it was read. Then all settings go into a new
+    // one: the old one has none to merge with.
+    QFile file(path_);
+    if (!QFileInfo(path_).isFile() || !file.open(QIODevice::ReadOnly)) {
+        return;
+    }
+    const QByteArray text = file.readAll();
+    file.close();
+    if (text.trimmed().isEmpty() || settingsFromText(text)) {
+        return;
+    }
+    if (const auto kept = movedAside()) {
+        qCWarning(quilletLog).noquote()
+            << QStringLiteral("settings file spoilt by another program kept as %1").arg(*kept);
+        for (const QString& key : keys()) {
+            changedKeys_.insert(key);
+        }
+    }
+}
+
+std::optional<QString> SettingsFile::movedAside() const {
+    int number = 1;
+    const auto name = [&] { return QStringLiteral("%1.broken-%2").arg(path_).arg(number); };
+    while (QFileInfo::exists(name())) {
+        ++number;
+    }
+    return QFile::rename(path_, name()) ? std::optional(name()) : std::nullopt;
 }
 
 void SettingsFile::readFile() {
@@ -144,19 +176,14 @@ void SettingsFile::readFile() {
 }
 
 void SettingsFile::moveBrokenFileAside(const QString& reason) {
-    int number = 1;
-    const auto name = [&] { return QStringLiteral("%1.broken-%2").arg(path_).arg(number); };
-    while (QFileInfo::exists(name())) {
-        ++number;
-    }
-    const bool isMoved = QFile::rename(path_, name());
+    const auto kept = movedAside();
     startMessage_ =
-        isMoved ? localized("The settings file could not be read (%1). It was kept as %2, and "
-                            "Quillet starts with its first-run settings.")
-                      .arg(reason, name())
-                : localized("The settings file %2 could not be read (%1) nor moved aside. Quillet "
-                            "starts with its first-run settings.")
-                      .arg(reason, path_);
+        kept ? localized("The settings file could not be read (%1). It was kept as %2, and "
+                         "Quillet starts with its first-run settings.")
+                   .arg(reason, *kept)
+             : localized("The settings file %2 could not be read (%1) nor moved aside. Quillet "
+                         "starts with its first-run settings.")
+                   .arg(reason, path_);
 }
 
 void SettingsFile::reportWriteProblem(const QString& problem) {

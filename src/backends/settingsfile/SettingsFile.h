@@ -41,6 +41,10 @@ public:
 private:
     void readFile();
     void moveBrokenFileAside(const QString& reason);
+    /// A file that another program has spoilt during the run is kept too before it is replaced.
+    void keepBrokenFile();
+    /// The name under which the file was kept; nothing when it could not be moved.
+    [[nodiscard]] std::optional<QString> movedAside() const;
     void reportWriteProblem(const QString& problem);
 
     QString path_;

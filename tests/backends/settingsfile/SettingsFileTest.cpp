@@ -1,12 +1,14 @@
 #include "backends/settingsfile/SettingsFile.h"
 
 #include "backends/settingsfile/SettingsJson.h"
+#include "support/ExpectedLog.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <rapidcheck.h>
 
 #include <future>
 
@@ -121,6 +123,65 @@ TEST_F(SettingsFileTest, AMalformedFileIsKeptBesideAndNamed) {
     write("[1]");
     const SettingsFile again(path);
     EXPECT_EQ(contents(".broken-2"), QByteArray("[1]"));
+}
+
+TEST_F(SettingsFileTest, AFileSpoiltDuringTheRunIsKeptAndNothingOfTheRunIsLost) {
+    SettingsFile settings(path);
+    settings.setObject("first", 1);
+    settings.flush();
+    write("{ spoilt");
+    settings.setObject("second", 2);
+    {
+        const test::ExpectedLog log("settings file spoilt by another program kept as " + path +
+                                    ".broken-1");
+        settings.flush();
+    }
+    EXPECT_EQ(contents(".broken-1"), QByteArray("{ spoilt"));
+    EXPECT_EQ(settingsFromText(contents()).value().keys(), (QStringList{"first", "second"}));
+}
+
+TEST_F(SettingsFileTest, EveryValueReadsBackAsItWasWritten) {
+    const auto leaf = [] {
+        switch (*rc::gen::inRange(0, 6)) {
+        case 0:
+            return QVariant(*rc::gen::arbitrary<bool>());
+        case 1:
+            return QVariant::fromValue(*rc::gen::arbitrary<qint64>());
+        case 2: {
+            QString text;
+            for (const char16_t unit : *rc::gen::container<std::vector<char16_t>>(
+                     rc::gen::inRange<char16_t>(0, 0xD800))) {
+                text += QChar(unit);
+            }
+            return QVariant(QString::fromLatin1("") + text);
+        }
+        case 3:
+            // Milliseconds of the years 0 to 9999, as the file can name them.
+            return QVariant::fromValue(Instant(std::chrono::milliseconds(
+                *rc::gen::inRange<qint64>(-62'167'219'200'000, 253'402'300'800'000))));
+        case 4:
+            return QVariant::fromValue(Decimal::fromInteger(*rc::gen::arbitrary<qint64>()) /
+                                       Decimal::fromInteger(*rc::gen::inRange(1, 1'000'000)));
+        default:
+            return QVariant(*rc::gen::arbitrary<qint32>() / 1024.0 + 0.0001);
+        }
+    };
+    EXPECT_TRUE(rc::check("values in a settings text", [&] {
+        QVariantMap record;
+        QVariantList list;
+        const int count = *rc::gen::inRange(0, 6);
+        for (int number = 0; number < count; ++number) {
+            record.insert(QStringLiteral("member%1").arg(number), leaf());
+            list.append(leaf());
+        }
+        const QVariantMap values{{"leaf", leaf()},
+                                 {"list", list},
+                                 {"nested", QVariantList{record, list}},
+                                 {"r", record}};
+        const auto read = settingsFromText(settingsText(values));
+        RC_ASSERT(read.has_value());
+        RC_ASSERT(*read == values);
+    }));
 }
 
 TEST_F(SettingsFileTest, AFolderInPlaceOfTheFileIsMovedAsideToo) {
