@@ -129,6 +129,12 @@ TEST_F(RecurrenceTest, skipsMonthsAndYearsThatLackTheDay) {
               Instants({utc(2020, 2, 29, 9), utc(2024, 2, 29, 9), utc(2028, 2, 29, 9)}));
 }
 
+TEST_F(RecurrenceTest, takesTheWeekdayOfAWeekNumberFromTheStart) {
+    // The 4th is the Monday of week 10.
+    EXPECT_EQ(startsOf("DTSTART:20240304T090000Z\r\nRRULE:FREQ=YEARLY;BYWEEKNO=10;COUNT=2"),
+              Instants({utc(2024, 3, 4, 9), utc(2025, 3, 3, 9)}));
+}
+
 TEST_F(RecurrenceTest, repeatsByTheHour) {
     EXPECT_EQ(
         startsOf("DTSTART:20240304T090000Z\r\nRRULE:FREQ=HOURLY;INTERVAL=5;BYDAY=MO,WE;COUNT=5"),
