@@ -88,6 +88,10 @@ def press_key(*names):
     subprocess.run(["xdotool", "key", *names], check=True)
 
 
+def type_keys(text):
+    subprocess.run(["xdotool", "type", text], check=True)
+
+
 def cell(table, row, column):
     return table.get_table_iface().get_accessible_at(row, column)
 

@@ -80,10 +80,11 @@ def quoted(text):
 
 
 def csv_bytes(expected, rate=None):
-    """The saved file: with a rate there is a column of costs."""
+    """The saved file: with a rate there is a column of costs, which are those of the hours that
+    stand beside them."""
     heads = ["Start Date", "Calendar", "Title", "Hours"] + (["Cost"] if rate else [])
     lines = [heads]
     for entry in expected:
-        cost = [f"${Decimal(entry.minutes) * rate / 60:,.2f}"] if rate else []
+        cost = [f"${Decimal(entry.hours_text) * rate:,.2f}"] if rate else []
         lines.append([entry.date_text, entry.calendar, entry.title, entry.hours_text, *cost])
     return "".join(",".join(map(quoted, line)) + "\n" for line in lines).encode()

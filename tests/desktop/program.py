@@ -6,8 +6,8 @@ import sys
 from pathlib import Path
 
 from accessibility import (ROLE, Atspi, GLib, application, below, cell_names, children,
-                           column_titles, has_state, press, press_key, row_names, type_text,
-                           wait_for)
+                           column_titles, has_state, press, press_key, row_names, type_keys,
+                           type_text, wait_for)
 
 CALENDARS = Path(os.environ["XDG_DATA_HOME"]) / "calendars"
 LOG = Path(os.environ["HOME"]) / "log"
@@ -124,7 +124,8 @@ class Quillet:
     def type_and_confirm(self, field, text):
         control = self.control(field, {ROLE.TEXT})
         self._focus(control)
-        type_text(control, text)
+        press_key("ctrl+a")
+        type_keys(text)
         press_key("Return")
 
     @staticmethod
