@@ -34,7 +34,7 @@ CalendarPane::CalendarPane(CalendarsArrayController& calendars, CalendarListMode
     foot_->setTextFormat(Qt::PlainText);
     foot_->setWordWrap(true);
     foot_->setMargin(fontMetrics().height() / 2);
-    foot_->setAccessibleName(localized("Calendar Problems"));
+    foot_->setObjectName(QStringLiteral("calendarProblems"));
     foot_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     foot_->hide();
 

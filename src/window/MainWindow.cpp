@@ -76,7 +76,7 @@ void MainWindow::makePanes() {
 QWidget* MainWindow::makeCentre() {
     periodTitle_ = new QLabel(this);
     periodTitle_->setTextFormat(Qt::PlainText);
-    periodTitle_->setAccessibleName(localized("Reporting Period"));
+    periodTitle_->setObjectName(QStringLiteral("reportingPeriod"));
     const int space = fontMetrics().height() / 2;
     periodTitle_->setContentsMargins(space, space, space, space);
     constexpr double titleScale = 1.3;

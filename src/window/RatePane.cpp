@@ -37,7 +37,7 @@ RatePane::RatePane(CalendarsArrayController& calendars, EventItemViewController&
     label_->setBuddy(field_);
     label_->setTextFormat(Qt::PlainText);
     complaint_->setTextFormat(Qt::PlainText);
-    complaint_->setAccessibleName(localized("Hourly Rate Problem"));
+    complaint_->setObjectName(QStringLiteral("hourlyRateProblem"));
 
     const int space = fontMetrics().height() / 2;
     auto* layout = new QHBoxLayout(this);

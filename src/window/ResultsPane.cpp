@@ -74,7 +74,7 @@ void ResultsPane::makeFigures() {
         value->setFont(font);
         value->setTextFormat(Qt::PlainText);
         value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-        value->setAccessibleName(name->text());
+        value->setObjectName(QString::fromLatin1(texts.at(position)).toLower());
         names_.at(position) = name;
         values_.at(position) = value;
     }

@@ -125,7 +125,7 @@ TEST_F(MainWindowTest, AControlClickOnACalendarClearsAllTicks) {
 
 TEST_F(MainWindowTest, ThePeriodIsChosenAndStepped) {
     open();
-    auto* title = named<QLabel>("Reporting Period");
+    auto* title = named<QLabel>("reportingPeriod");
     EXPECT_EQ(title->text(), QString::fromUtf8("Month · March 1, 2024 - March 31, 2024"));
     named<QAbstractButton>("Day")->click();
     fetch();
@@ -164,7 +164,7 @@ TEST_F(MainWindowTest, ANewSharedRateChangesTheCosts) {
     QTest::keyClicks(field, "ten");
     QTest::keyClick(field, Qt::Key_Return);
     EXPECT_EQ(field->text(), QStringLiteral("12.5"));
-    EXPECT_TRUE(named<QLabel>("Hourly Rate Problem")->text().contains("ten"));
+    EXPECT_TRUE(named<QLabel>("hourlyRateProblem")->text().contains("ten"));
     EXPECT_EQ(decimalFromValue(settings.object("hourlyRate")), Decimal::fromDouble(12.5));
 }
 
@@ -172,16 +172,16 @@ TEST_F(MainWindowTest, TheResultsFollowTheChosenTab) {
     open();
     table->selectRow(0);
     fetch();
-    EXPECT_EQ(named<QLabel>("Total")->text(), QStringLiteral("11"));
+    EXPECT_EQ(named<QLabel>("total")->text(), QStringLiteral("11"));
     settings.setObject("timeTypeSelection", 3);
     fetch();
-    EXPECT_EQ(named<QLabel>("Total")->text(), QStringLiteral("11h"));
-    EXPECT_EQ(named<QLabel>("Cost")->text(), QStringLiteral("$990.00"));
+    EXPECT_EQ(named<QLabel>("total")->text(), QStringLiteral("11h"));
+    EXPECT_EQ(named<QLabel>("cost")->text(), QStringLiteral("$990.00"));
     named<QTabBar>("Results")->setCurrentIndex(1);
     QApplication::processEvents();
     EXPECT_EQ(integerForKey(settings, "totalsTabViewSelection"), 1);
-    EXPECT_EQ(named<QLabel>("Total")->text(), QStringLiteral("2h"));
-    EXPECT_EQ(named<QLabel>("Cost")->text(), QStringLiteral("$180.00"));
+    EXPECT_EQ(named<QLabel>("total")->text(), QStringLiteral("2h"));
+    EXPECT_EQ(named<QLabel>("cost")->text(), QStringLiteral("$180.00"));
 }
 
 TEST_F(MainWindowTest, TheExportActionAsksForAPlace) {
@@ -194,7 +194,7 @@ TEST_F(MainWindowTest, TheExportActionAsksForAPlace) {
 
 TEST_F(MainWindowTest, ProblemsStandAtTheFootOfTheList) {
     open();
-    auto* foot = named<QLabel>("Calendar Problems");
+    auto* foot = named<QLabel>("calendarProblems");
     EXPECT_FALSE(foot->isVisible());
     problems = {"work.ics: not a calendar file"};
     window->refreshProblems();

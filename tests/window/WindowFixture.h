@@ -80,14 +80,16 @@ protected:
         }
         QApplication::processEvents();
     }
+    /// By the name that assistive programs tell, or by the object's name where they tell its text.
     template <typename Widget>
-    Widget* named(const char* accessibleName) const {
+    Widget* named(const char* name) const {
         for (Widget* widget : window->findChildren<Widget*>()) {
-            if (widget->accessibleName() == QLatin1StringView(accessibleName)) {
+            if (widget->accessibleName() == QLatin1StringView(name) ||
+                widget->objectName() == QLatin1StringView(name)) {
                 return widget;
             }
         }
-        ADD_FAILURE() << "no widget is called " << accessibleName;
+        ADD_FAILURE() << "no widget is called " << name;
         return nullptr;
     }
 
