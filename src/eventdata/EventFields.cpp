@@ -18,9 +18,11 @@ QVariant costOrMissing(const std::optional<Decimal>& cost) {
     return cost ? QVariant::fromValue(*cost) : QVariant();
 }
 
-const QHash<QString, Reader>& readers() {
-    using Fields = const EventFields&;
-    using Source = const Event&;
+using Fields = const EventFields&;
+using Source = const Event&;
+
+/// What the store says of an event.
+const QHash<QString, Reader>& storedReaders() {
     static const QHash<QString, Reader> table{
         {"title", [](Fields, Source event) { return textOrMissing(event.details->title); }},
         {"location", [](Fields, Source event) { return textOrMissing(event.details->location); }},
@@ -37,6 +39,13 @@ const QHash<QString, Reader>& readers() {
         {"isAllDay", [](Fields, Source event) { return QVariant(event.details->isAllDay); }},
         {"startDate", [](Fields, Source event) { return QVariant::fromValue(event.startDate); }},
         {"endDate", [](Fields, Source event) { return QVariant::fromValue(event.endDate); }},
+    };
+    return table;
+}
+
+/// What follows from the event and the settings.
+const QHash<QString, Reader>& derivedReaders() {
+    static const QHash<QString, Reader> table{
         {"adjustedEndDate",
          [](Fields fields, Source event) {
              return QVariant::fromValue(fields.adjustedEndDate(event));
@@ -98,7 +107,7 @@ EventFields::EventFields(BillingSettingsSource& billing, const LocaleFormats& fo
     , current_(current) {}
 
 QVariant EventFields::valueForKey(const Event& event, const QString& key) const {
-    const Reader reader = readers().value(key, nullptr);
+    const Reader reader = storedReaders().value(key, derivedReaders().value(key, nullptr));
     return reader == nullptr ? QVariant() : reader(*this, event);
 }
 

@@ -63,8 +63,8 @@ void EventItemViewController::awakeFromNib() {
     setHourlyRateLabelString();
 }
 
-void EventItemViewController::observe(const char* name, std::function<void()> reaction) {
-    observations_.push_back(with_.settings.observe(key(name), std::move(reaction)));
+void EventItemViewController::observe(const char* settingsKey, std::function<void()> reaction) {
+    observations_.push_back(with_.settings.observe(key(settingsKey), std::move(reaction)));
 }
 
 void EventItemViewController::visibilityChanged() {

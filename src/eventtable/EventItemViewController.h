@@ -66,10 +66,10 @@ Q_SIGNALS:
     void dateRangeLabelStringChanged();
 
 private:
-    void observe(const char* key, std::function<void()> reaction);
+    void observe(const char* settingsKey, std::function<void()> reaction);
     void visibilityChanged();
     [[nodiscard]] TableColumn& column(const char* identifier);
-    void setHiddenByKey(const EventColumn& column);
+    void setHiddenByKey(const EventColumn& shown);
     void setHiddenTimeColumns();
     void showOnly(TimeType timeType);
     void replaceRival(const char* chosen, const char* rival);

@@ -160,6 +160,18 @@ private:
         if (selected.empty() || !hash_) {
             return;
         }
+        // Hashing every record costs more than comparing each with a few.
+        constexpr std::size_t fewRecords = 4;
+        if (selected.size() <= fewRecords) {
+            for (std::size_t row = 0; row < rows_.size(); ++row) {
+                if (std::ranges::any_of(selected, [&](const Record& record) {
+                        return same_(record, arranged(row));
+                    })) {
+                    selectedRows_.push_back(row);
+                }
+            }
+            return;
+        }
         std::vector<std::pair<std::size_t, const Record*>> wanted;
         wanted.reserve(selected.size());
         for (const Record& record : selected) {

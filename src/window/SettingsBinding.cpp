@@ -15,7 +15,7 @@ namespace {
 
 /// Shows the value now and after each write, without the control taking that for the user's doing.
 template <typename Control, typename Show>
-void showValue(Control& control, SettingsStore& settings, const QString& key, Show show) {
+void showValue(Control& control, SettingsStore& settings, const QString& key, const Show& show) {
     control.setObjectName(key);
     const auto refresh = [&control, show] {
         const QSignalBlocker blocker(control);

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 namespace quillet {
@@ -102,10 +103,23 @@ TEST_F(ListControllerTest, TheSelectionFollowsItsRecordsThroughSortingAndFilteri
 
 TEST_F(ListControllerTest, RecordsOfEqualHashButAnotherIdentityAreNotSelected) {
     ListController<Entry> colliding([](const Entry&) { return std::size_t{7}; }, isSame);
-    colliding.setContent(std::vector<Entry>{{1, "a"}, {2, "b"}});
-    colliding.setSelectedRows({1});
-    colliding.setContent(std::vector<Entry>{{3, "x"}, {2, "b"}, {1, "a"}});
-    EXPECT_EQ(colliding.selectedRows(), std::vector<std::size_t>{1});
+    std::vector<Entry> entries;
+    std::vector<std::size_t> selected;
+    for (int identity = 0; identity < 20; ++identity) {
+        entries.push_back({identity, "x"});
+        if (identity % 2 == 0) {
+            selected.push_back(static_cast<std::size_t>(identity));
+        }
+    }
+    colliding.setContent(entries);
+    colliding.setSelectedRows(selected);
+    std::ranges::reverse(entries);
+    entries.push_back({99, "new"});
+    colliding.setContent(entries);
+    ASSERT_EQ(colliding.selectedRows().size(), 10U);
+    for (const Entry& entry : colliding.selectedObjects()) {
+        EXPECT_EQ(entry.identity % 2, 0);
+    }
 }
 
 TEST_F(ListControllerTest, SelectingIsAnnouncedOnlyWhenItChangesSomething) {

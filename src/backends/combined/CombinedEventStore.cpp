@@ -100,8 +100,7 @@ CalendarList CombinedEventStore::calendars() const {
     CalendarList all;
     for (const EventStore& store : stores_) {
         if (isOpen(store)) {
-            const CalendarList some =
-                answerOf<CalendarList>([&store] { return store.calendars(); });
+            const auto some = answerOf<CalendarList>([&store] { return store.calendars(); });
             all.insert(all.end(), some.begin(), some.end());
         }
     }

@@ -74,7 +74,7 @@ std::vector<FolderWatch::Change> FolderWatch::wait(milliseconds longest) {
     return changes;
 }
 
-void FolderWatch::wake() {
+void FolderWatch::wake() const {
     const std::uint64_t one = 1;
     [[maybe_unused]] const ssize_t written = ::write(waker_, &one, sizeof one);
 }

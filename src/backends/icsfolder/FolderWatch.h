@@ -29,7 +29,7 @@ public:
     /// woken or when the time ran out; a negative time never runs out.
     [[nodiscard]] std::vector<Change> wait(std::chrono::milliseconds longest);
     /// Ends the running or the next wait. Callable from any thread.
-    void wake();
+    void wake() const;
 
 private:
     enum class Wakeup { Changes, Woken, TimeOut };

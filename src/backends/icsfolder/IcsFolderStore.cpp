@@ -23,7 +23,8 @@ bool canReach(const QString& path) {
 
 } // namespace
 
-IcsFolderStore::IcsFolderStore(QString rootPath, CalendarAccess& access, const QTimeZone& zone)
+IcsFolderStore::IcsFolderStore(const QString& rootPath, CalendarAccess& access,
+                               const QTimeZone& zone)
     : rootPath_(QDir::cleanPath(rootPath))
     , access_(access)
     , zone_(zone) {

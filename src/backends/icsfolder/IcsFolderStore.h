@@ -22,7 +22,7 @@ class IcsFolderStore final : public EventStore {
 public:
     /// The root folder is created when it is missing. Floating times and whole days are those of
     /// the zone. `access` must outlive the store.
-    IcsFolderStore(QString rootPath, CalendarAccess& access,
+    IcsFolderStore(const QString& rootPath, CalendarAccess& access,
                    const QTimeZone& zone = QTimeZone::systemTimeZone());
     IcsFolderStore(const IcsFolderStore&) = delete;
     IcsFolderStore& operator=(const IcsFolderStore&) = delete;

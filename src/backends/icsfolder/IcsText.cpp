@@ -127,15 +127,17 @@ private:
         } else if (place_ == Place::Zone && !isInObservance_ && isObservance(component)) {
             isInObservance_ = true;
             append("BEGIN:" + std::string(component));
-        } else if (place_ == Place::Event || place_ == Place::Zone) {
-            skippedDepth_ = 1;
-        } else if (equalsIgnoringCase(component, "VEVENT")) {
+        } else if (isOutsideBlocks() && equalsIgnoringCase(component, "VEVENT")) {
             openBlock(Place::Event);
-        } else if (equalsIgnoringCase(component, "VTIMEZONE")) {
+        } else if (isOutsideBlocks() && equalsIgnoringCase(component, "VTIMEZONE")) {
             openBlock(Place::Zone);
         } else {
             skippedDepth_ = 1;
         }
+    }
+
+    [[nodiscard]] bool isOutsideBlocks() const {
+        return place_ != Place::Event && place_ != Place::Zone;
     }
 
     void end(std::string_view component) {

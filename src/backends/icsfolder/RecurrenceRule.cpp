@@ -46,8 +46,8 @@ public:
             units = static_cast<int>(date.year()) - year_;
             break;
         case Frequency::Monthly:
-            units = static_cast<int>(date.year()) * 12 + static_cast<unsigned>(date.month()) - 1 -
-                    month_;
+            units = static_cast<int>(date.year()) * 12 +
+                    static_cast<int>(static_cast<unsigned>(date.month())) - 1 - month_;
             break;
         case Frequency::Weekly:
             units = (day - week_).count() / 7;
