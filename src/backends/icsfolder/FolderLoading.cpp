@@ -8,6 +8,7 @@
 #include <atomic>
 #include <cstdlib>
 #include <future>
+#include <malloc.h>
 #include <tuple>
 #include <utility>
 
@@ -56,6 +57,8 @@ void FolderLoader::run(const std::stop_token& stop) {
     addListedFiles(checks);
     (void)readFiles(checks, stop);
     checks = {};
+    // Reading leaves much free memory behind in small pieces.
+    ::malloc_trim(0);
     publish(true);
     changed_();
     while (!stop.stop_requested()) {

@@ -82,8 +82,11 @@ void noteProblems(const IcsBlocks& blocks, const ReadEvents& read, QStringList& 
     if (blocks.endsWithinBlock) {
         problems.append(localized("ends in the middle"));
     }
-    if (blocks.hasCutLine) {
-        problems.append(localized("a text longer than 256 KB was cut"));
+    if (blocks.hasCutText) {
+        problems.append(localized("a text or event that is too long was cut"));
+    }
+    if (blocks.hasTooManyEvents) {
+        problems.append(localized("more than 300,000 events; the others are left out"));
     }
     if (read.unreadable > 0) {
         problems.append(localized("%1 events cannot be read").arg(read.unreadable));
@@ -112,9 +115,10 @@ IcsFile readIcs(std::string bytes, const std::shared_ptr<const StoreCalendar>& c
         file.problems.append(localized("an empty file"));
         return file;
     }
-    const IcsBlocks blocks = takeApart(asUtf8(std::move(bytes)));
+    IcsBlocks blocks = takeApart(asUtf8(std::move(bytes)));
     ReadEvents read = readAll(blocks, zones);
     noteProblems(blocks, read, file.problems);
+    blocks = {};
     WorkBudget budget(fileBudget);
     assembleEvents(std::move(read.events), calendar, budget, file);
     return file;

@@ -127,17 +127,18 @@ private:
         } else if (place_ == Place::Zone && !isInObservance_ && isObservance(component)) {
             isInObservance_ = true;
             append("BEGIN:" + std::string(component));
-        } else if (isOutsideBlocks() && equalsIgnoringCase(component, "VEVENT")) {
+        } else if (equalsIgnoringCase(component, "VEVENT") && mayOpen(component)) {
             openBlock(Place::Event);
-        } else if (isOutsideBlocks() && equalsIgnoringCase(component, "VTIMEZONE")) {
+        } else if (equalsIgnoringCase(component, "VTIMEZONE") && mayOpen(component)) {
             openBlock(Place::Zone);
         } else {
             skippedDepth_ = 1;
         }
     }
 
-    [[nodiscard]] bool isOutsideBlocks() const {
-        return place_ != Place::Event && place_ != Place::Zone;
+    /// Blocks do not nest, and there is a bound to their number.
+    [[nodiscard]] bool mayOpen(std::string_view component) {
+        return place_ != Place::Event && place_ != Place::Zone && !isFull(component);
     }
 
     void end(std::string_view component) {
@@ -161,6 +162,14 @@ private:
         }
     }
 
+    [[nodiscard]] bool isFull(std::string_view component) {
+        if (equalsIgnoringCase(component, "VEVENT")) {
+            blocks.hasTooManyEvents = blocks.events.size() >= mostEventsInFile;
+            return blocks.hasTooManyEvents;
+        }
+        return equalsIgnoringCase(component, "VTIMEZONE") && zoneCount_++ >= mostZonesInFile;
+    }
+
     static bool isObservance(std::string_view component) {
         return equalsIgnoringCase(component, "STANDARD") ||
                equalsIgnoringCase(component, "DAYLIGHT");
@@ -173,6 +182,8 @@ private:
             blocks.calendars.emplace_back();
         }
         place_ = place;
+        blockStart_ = blocks.text.size();
+        isBlockFull_ = false;
         isInObservance_ = false;
         if (place == Place::Event) {
             blocks.events.push_back({blocks.text.size(), blocks.calendars.size() - 1});
@@ -185,6 +196,8 @@ private:
 
     void closeBlock() {
         if (place_ == Place::Event || place_ == Place::Zone) {
+            blockStart_ = blocks.text.size();
+            isBlockFull_ = false;
             append(place_ == Place::Event ? "END:VEVENT" : "END:VTIMEZONE");
             blocks.text += '\0';
         }
@@ -217,8 +230,7 @@ private:
             while (some.ends_with(',')) {
                 some.remove_suffix(1);
             }
-            blocks.text += head;
-            append(cut(some));
+            append(head, cut(some));
         }
     }
 
@@ -226,7 +238,7 @@ private:
         if (line.size() <= longestLineBytes) {
             return line;
         }
-        blocks.hasCutLine = true;
+        blocks.hasCutText = true;
         std::size_t end = longestLineBytes;
         while (end > 0 && (static_cast<unsigned char>(line[end]) & 0xC0U) == 0x80U) {
             --end;
@@ -238,8 +250,15 @@ private:
         return line.substr(0, end);
     }
 
-    void append(std::string_view line) {
+    void append(std::string_view line, std::string_view more = {}) {
+        const std::size_t size = blocks.text.size() - blockStart_ + line.size() + more.size();
+        if (isBlockFull_ || size > largestEventBytes) {
+            isBlockFull_ = true;
+            blocks.hasCutText = true;
+            return;
+        }
         blocks.text += line;
+        blocks.text += more;
         blocks.text += "\r\n";
     }
 
@@ -264,6 +283,9 @@ private:
     /// How many components deep the walk is inside one that does not matter.
     int skippedDepth_ = 0;
     bool isInObservance_ = false;
+    std::size_t blockStart_ = 0;
+    bool isBlockFull_ = false;
+    std::size_t zoneCount_ = 0;
 };
 
 } // namespace

@@ -15,6 +15,10 @@ namespace quillet {
 constexpr std::int64_t largestFileBytes = std::int64_t(128) * 1024 * 1024;
 /// Longer texts are cut.
 constexpr std::size_t longestLineBytes = std::size_t(256) * 1024;
+/// What is kept of one event; the rest of its lines is dropped.
+constexpr std::size_t largestEventBytes = std::size_t(1024) * 1024;
+constexpr std::size_t mostEventsInFile = 300'000;
+constexpr std::size_t mostZonesInFile = 500;
 
 /// The whole content of a regular file. The error says why there is none, for the user.
 [[nodiscard]] std::expected<std::string, QString> readWholeFile(const std::string& path);
@@ -48,7 +52,8 @@ struct IcsBlocks {
     QString color;
     bool isCalendarFile = false;
     bool endsWithinBlock = false;
-    bool hasCutLine = false;
+    bool hasCutText = false;
+    bool hasTooManyEvents = false;
 };
 
 [[nodiscard]] IcsBlocks takeApart(std::string_view utf8);

@@ -158,7 +158,7 @@ void expandRule(const RecurrenceRule& rule, LocalSeconds start, LocalSeconds fro
                 WorkBudget& budget, std::vector<LocalSeconds>& times) {
     from = std::max(from, start);
     to = rule.until ? std::min(to, *rule.until + std::chrono::seconds(1)) : to;
-    if (from >= to) {
+    if (from >= to || !budget.spend(timeCost)) {
         return;
     }
     if (rule.frequency == Frequency::Hourly) {

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t mostDefinitions = 500;
 constexpr std::size_t mostNames = 2000;
-constexpr std::int64_t definitionBudget = 1'000'000;
+constexpr std::int64_t definitionBudget = 300'000;
 
 /// One STANDARD or DAYLIGHT part of a definition.
 struct Observance {

@@ -22,6 +22,13 @@ protected:
         ASSERT_EQ(store->problems().size(), 1U);
         EXPECT_EQ(store->problems()[0], (StoreProblem{subject, reason}));
     }
+    /// One event of the bad file is there as well.
+    void expectOneProblemBeside(const QString& title, const QString& reason) {
+        EXPECT_EQ(titles(), QStringList({QStringLiteral("Good"), title}));
+        ASSERT_EQ(store->problems().size(), 1U);
+        EXPECT_EQ(store->problems()[0].reason, reason);
+        expectInTime(10000);
+    }
     void expectInTime(int milliseconds = 5000) { EXPECT_LT(timer.elapsed(), milliseconds); }
 
     QElapsedTimer timer;
@@ -110,7 +117,8 @@ TEST_F(HostileInputTest, cutsAnEndlessLineAndSaysSo) {
     EXPECT_EQ(titles(), QStringList({"Good", "Long"}));
     EXPECT_LE(allEvents()[1].details->notes.size(), 256 * 1024);
     ASSERT_EQ(store->problems().size(), 1U);
-    EXPECT_EQ(store->problems()[0].reason, QStringLiteral("a text longer than 256 KB was cut"));
+    EXPECT_EQ(store->problems()[0].reason,
+              QStringLiteral("a text or event that is too long was cut"));
     expectInTime();
 }
 
@@ -121,6 +129,38 @@ TEST_F(HostileInputTest, cutsAnEndlessLineBetweenCharacters) {
     const QString notes = allEvents().at(1).details->notes;
     EXPECT_GT(notes.size(), 80'000);
     EXPECT_TRUE(note.startsWith(notes));
+}
+
+TEST_F(HostileInputTest, cutsAnEventWithMillionsOfDates) {
+    write(QStringLiteral("many.ics"),
+          eventFile("SUMMARY:Many\r\nDTSTART:20240302T110000Z\r\nEXDATE:" +
+                    QByteArray("20250101T000000Z,").repeated(2'000'000) + "20240302T110000Z"));
+    expectOneProblemBeside(QStringLiteral("Many"),
+                           QStringLiteral("a text or event that is too long was cut"));
+}
+
+TEST_F(HostileInputTest, stopsReadingAFileWithTooManyEvents) {
+    QByteArray text = "BEGIN:VCALENDAR\n";
+    const QByteArray event = "BEGIN:VEVENT\nDTSTART:20240302\nEND:VEVENT\n";
+    write(QStringLiteral("many.ics"),
+          text + event.repeated(300'001) + "BEGIN:VTODO\nEND:VTODO\nEND:VCALENDAR\n");
+    (void)titles();
+    ASSERT_EQ(store->problems().size(), 1U);
+    EXPECT_EQ(store->problems()[0].reason,
+              QStringLiteral("more than 300,000 events; the others are left out"));
+    expectInTime(30000);
+}
+
+TEST_F(HostileInputTest, finishesWithAFileFullOfTimeZones) {
+    QByteArray text = "BEGIN:VCALENDAR\n";
+    for (int number = 0; number < 20'000; ++number) {
+        text += "BEGIN:VTIMEZONE\nTZID:Z" + QByteArray::number(number) +
+                "\nBEGIN:STANDARD\nDTSTART:16010101T000000\nTZOFFSETFROM:+0100\nTZOFFSETTO:+0200\n"
+                "RRULE:FREQ=DAILY\nEND:STANDARD\nEND:VTIMEZONE\n";
+    }
+    write(QStringLiteral("zones.ics"), text + "END:VCALENDAR\n");
+    EXPECT_EQ(titles(), QStringList({"Good"}));
+    expectInTime(10000);
 }
 
 TEST_F(HostileInputTest, finishesWithRulesThatNeverMatch) {
