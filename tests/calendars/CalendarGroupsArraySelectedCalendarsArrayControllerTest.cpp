@@ -39,7 +39,8 @@ protected:
     /// In stored order.
     QStringList stored(std::size_t group) const {
         QStringList titles;
-        for (const auto& entry : storedCalendarGroups(settings).at(group).calendarGroupArray) {
+        const CalendarGroup shown = storedCalendarGroups(settings).at(group);
+        for (const auto& entry : shown.calendarGroupArray) {
             titles << entry.title + (entry.isSelected ? QStringLiteral("*") : QString());
         }
         return titles;
