@@ -77,10 +77,8 @@ FolderLoader* IcsFolderStore::loader() const {
     const std::scoped_lock lock(loaderMutex_);
     if (!loader_ && authorizationStatus() == AuthorizationStatus::Authorized) {
         loader_ = std::make_unique<FolderLoader>(
-            QFile::encodeName(rootPath_).toStdString(), zone_, [this] {
-                QMetaObject::invokeMethod(
-                    &mainContext_, [this] { observers_.notify(); }, Qt::QueuedConnection);
-            });
+            QFile::encodeName(rootPath_).toStdString(), zone_,
+            [this] { mainQueue_->async([this] { observers_.notify(); }); });
     }
     return loader_.get();
 }

@@ -3,8 +3,8 @@
 #include "backends/combined/CalendarAccess.h"
 #include "platform/EventStore.h"
 #include "platform/ObserverList.h"
+#include "platform/SerialQueue.h"
 
-#include <QObject>
 #include <QTimeZone>
 
 #include <expected>
@@ -55,7 +55,7 @@ private:
     QTimeZone zone_;
     ObserverList<> observers_;
     /// Receives the loader's notices on the main thread.
-    mutable QObject mainContext_;
+    std::unique_ptr<SerialQueue> mainQueue_ = makeMainQueue();
     mutable std::mutex loaderMutex_;
     mutable std::unique_ptr<FolderLoader> loader_;
     Observation accessObservation_;
