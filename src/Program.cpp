@@ -17,6 +17,10 @@ EventItemViewController::TimeMenuItems items(TimeColumnActions& actions) {
     return {actions.hours, actions.minutes, actions.duration};
 }
 
+std::vector<ToolbarItem*> toolbarItems(ExportItems& items) {
+    return {&items.text, &items.csv, &items.tsv, &items.notes};
+}
+
 } // namespace
 
 Program::Program(const ProgramPaths& paths)
@@ -62,8 +66,8 @@ Program::Program(const ProgramPaths& paths)
     , txtSettings_(settings_)
     , textReport_(settings_, events_)
     , exportCSV_({settings_, *eventTable_, events_, fields_, dialogs_})
-    , appDelegate_(
-          {settings_, workspace_, taskLauncher_, dialogs_, {&csvItem_}, paths.releaseNotes})
+    , appDelegate_({settings_, workspace_, taskLauncher_, dialogs_, toolbarItems(exportItems_),
+                    paths.releaseNotes})
     , activation_([this] { eventKitManager_.becomeActive(); }) {}
 
 Program::~Program() {
@@ -78,7 +82,7 @@ void Program::start() {
     wake();
     window_ = std::make_unique<MainWindow>(MainWindow::Collaborators{
         settings_, formats_, currentCalendar_, events_, calendars_, dateInspector_, eventItemView_,
-        exportCSV_, appDelegate_, *eventTable_, *resultsPane_, csvItem_.action(), menuTimeColumns_,
+        exportCSV_, appDelegate_, *eventTable_, *resultsPane_, exportItems_, menuTimeColumns_,
         calendarActions()});
     dialogs_.setWindow(window_.get());
     connectNotices();

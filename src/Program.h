@@ -79,7 +79,7 @@ private:
     DateInspectorController dateInspector_;
     TimeColumnActions menuTimeColumns_;
     TimeColumnActions headerTimeColumns_;
-    ActionToolbarItem csvItem_;
+    ExportItems exportItems_;
     EventTableModel eventModel_;
     /// Belong to the window once that is built.
     EventTableView* eventTable_;

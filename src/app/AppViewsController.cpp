@@ -77,19 +77,19 @@ void AppViewsController::swapPane(Pane pane, PaneContent content, bool isContent
 }
 
 void AppViewsController::changeListViewController(qint64 mode) {
-    swapPane(Pane::List, PaneContent::CalendarList, mode == 0);
+    swapPane(Pane::List, PaneContent::CalendarListView, mode == 0);
 }
 
 void AppViewsController::changeItemViewController(qint64 mode) {
-    swapPane(Pane::Item, PaneContent::EventItem, mode == 0);
+    swapPane(Pane::Item, PaneContent::EventItemView, mode == 0);
 }
 
 void AppViewsController::changeInspectorViewController(qint64 mode) {
-    swapPane(Pane::Inspector, PaneContent::DateInspector, mode == 0);
+    swapPane(Pane::Inspector, PaneContent::DateInspectorView, mode == 0);
 }
 
 void AppViewsController::changeRateViewController(qint64 /*mode*/) {
-    swapPane(Pane::Rate, PaneContent::EventRate, true);
+    swapPane(Pane::Rate, PaneContent::EventRateView, true);
     toggleRateView();
 }
 
@@ -106,10 +106,10 @@ void AppViewsController::changeExportViewController() {
         with_.panes.install(content, Pane::Export);
     };
     if (isTxtOn) {
-        show(PaneContent::ExportTxt);
+        show(PaneContent::ExportTxtView);
     }
     if (isNotesOn) {
-        show(PaneContent::ExportNotes);
+        show(PaneContent::ExportNotesView);
     }
     if (!isTxtOn && !isNotesOn) {
         with_.panes.setPaneHidden(Pane::Export, true);

@@ -17,12 +17,12 @@ enum class Pane { List, Item, Inspector, Rate, Export };
 
 /// The views that can be put into them.
 enum class PaneContent {
-    CalendarList,
-    EventItem,
-    DateInspector,
-    EventRate,
-    ExportTxt,
-    ExportNotes,
+    CalendarListView,
+    EventItemView,
+    DateInspectorView,
+    EventRateView,
+    ExportTxtView,
+    ExportNotesView,
 };
 
 /// The main window, as far as its panes go.

@@ -1,18 +1,18 @@
 #include "window/BusyIndicator.h"
 
 #include "platform/Localized.h"
-#include "window/SettingsBinding.h"
+
+#include <QEvent>
 
 namespace quillet {
 
 namespace {
 
 constexpr int delayMilliseconds = 200;
-const QString progressKey = QStringLiteral("isProgressIndicatorOn");
 
 } // namespace
 
-BusyIndicator::BusyIndicator(SettingsStore& settings, QWidget* parent)
+BusyIndicator::BusyIndicator(QWidget* parent)
     : QProgressBar(parent) {
     setRange(0, 0);
     setTextVisible(false);
@@ -22,22 +22,37 @@ BusyIndicator::BusyIndicator(SettingsStore& settings, QWidget* parent)
     delay_.setSingleShot(true);
     delay_.setInterval(delayMilliseconds);
     connect(&delay_, &QTimer::timeout, this, &BusyIndicator::showCentred);
-    observeWhileAlive(*this, settings, progressKey, [this, &settings] {
-        if (!boolForKey(settings, progressKey)) {
-            delay_.stop();
-            hide();
-        } else if (!delay_.isActive() && !isVisible()) {
-            delay_.start();
-        }
-    });
+    parent->installEventFilter(this);
 }
 
 BusyIndicator::~BusyIndicator() = default;
 
+void BusyIndicator::start() {
+    if (!delay_.isActive() && !isVisible()) {
+        delay_.start();
+    }
+}
+
+void BusyIndicator::stop() {
+    delay_.stop();
+    hide();
+}
+
+bool BusyIndicator::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize) {
+        centre();
+    }
+    return QProgressBar::eventFilter(watched, event);
+}
+
 void BusyIndicator::showCentred() {
-    move(parentWidget()->rect().center() - rect().center());
+    centre();
     raise();
     show();
+}
+
+void BusyIndicator::centre() {
+    move(parentWidget()->rect().center() - rect().center());
 }
 
 } // namespace quillet

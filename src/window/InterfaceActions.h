@@ -26,6 +26,14 @@ private:
     QAction action_;
 };
 
+/// The toolbar's export buttons.
+struct ExportItems {
+    ActionToolbarItem text;
+    ActionToolbarItem csv;
+    ActionToolbarItem tsv;
+    ActionToolbarItem notes;
+};
+
 /// The entries that switch the time column, of which one is shown.
 struct TimeColumnActions {
     ActionMenuItem hours;

@@ -1,7 +1,6 @@
 #include "window/MainWindow.h"
 
 #include "platform/Localized.h"
-#include "window/BusyIndicator.h"
 #include "window/CalendarPane.h"
 #include "window/EmptyState.h"
 #include "window/EventTableView.h"
@@ -48,9 +47,13 @@ MainWindow::MainWindow(Collaborators collaborators, QWidget* parent)
     makePanes();
     makeToolBar();
     makeMenus();
-    new BusyIndicator(with_.settings, this);
     followState();
     preferences_.controller().awakeFromNib();
+    ExportItems& items = with_.exportItems;
+    views_ = std::make_unique<AppViewsController>(AppViewsController::Collaborators{
+        with_.settings, *panes_, items.text, items.csv, items.tsv, items.notes});
+    views_->awakeFromNib();
+    followExportPanes();
 }
 
 MainWindow::~MainWindow() = default;
@@ -60,12 +63,20 @@ void MainWindow::makePanes() {
         new CalendarPane(with_.calendarsArrayController, with_.calendarActions.colorOf, this);
     auto* inspector =
         new InspectorPane(with_.dateInspectorController, with_.settings, with_.calendar, this);
+    auto* rate = new RatePane(with_.calendarsArrayController, with_.eventItemViewController,
+                              with_.settings, with_.formats, this);
+    panes_ = std::make_unique<WindowPanes>(
+        WindowPanes::Contents{{PaneContent::CalendarListView, calendarPane_},
+                              {PaneContent::EventItemView, makeEventItemView()},
+                              {PaneContent::DateInspectorView, inspector},
+                              {PaneContent::EventRateView, rate}},
+        *this);
     splitter_ = new QSplitter(this);
     splitter_->setObjectName(QStringLiteral("panes"));
     splitter_->setChildrenCollapsible(false);
-    splitter_->addWidget(calendarPane_);
+    splitter_->addWidget(panes_->container(Pane::List));
     splitter_->addWidget(makeCentre());
-    splitter_->addWidget(inspector);
+    splitter_->addWidget(panes_->container(Pane::Inspector));
     splitter_->setStretchFactor(1, 1);
     const int unit = fontMetrics().averageCharWidth();
     calendarPane_->setMinimumWidth(unit * 18);
@@ -73,7 +84,7 @@ void MainWindow::makePanes() {
     setCentralWidget(splitter_);
 }
 
-QWidget* MainWindow::makeCentre() {
+QWidget* MainWindow::makeEventItemView() {
     periodTitle_ = new QLabel(this);
     periodTitle_->setTextFormat(Qt::PlainText);
     periodTitle_->setObjectName(QStringLiteral("reportingPeriod"));
@@ -89,15 +100,22 @@ QWidget* MainWindow::makeCentre() {
     centreStack_->addWidget(&with_.eventTable);
     centreStack_->addWidget(emptyState_);
 
-    auto* centre = new QWidget(this);
-    auto* layout = new QVBoxLayout(centre);
+    auto* view = new QWidget(this);
+    auto* layout = new QVBoxLayout(view);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(periodTitle_);
     layout->addWidget(centreStack_, 1);
+    return view;
+}
+
+QWidget* MainWindow::makeCentre() {
+    auto* centre = new QWidget(this);
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(&panes_->centreSplitter(), 1);
     layout->addWidget(line());
-    layout->addWidget(new RatePane(with_.calendarsArrayController, with_.eventItemViewController,
-                                   with_.settings, with_.formats, this));
     layout->addWidget(&with_.resultsPane);
     return centre;
 }
@@ -115,6 +133,16 @@ void MainWindow::followState() {
             &MainWindow::showPeriodTitle);
     showPeriodTitle();
     showTableOrReason();
+}
+
+void MainWindow::followExportPanes() {
+    const auto follow = [this] {
+        panes_->setCentreDividerDraggable(!views_->effectiveRect(QRectF(rect())).isEmpty());
+    };
+    for (const char* key : {"isExportTXTViewOn", "isNotesViewOn"}) {
+        observeWhileAlive(*this, with_.settings, QString::fromLatin1(key), follow);
+    }
+    follow();
 }
 
 void MainWindow::showPeriodTitle() {

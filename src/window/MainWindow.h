@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/AppDelegate.h"
+#include "app/AppViewsController.h"
 #include "calendars/CalendarsArrayController.h"
 #include "eventtable/EventItemViewController.h"
 #include "export/ExportCSV.h"
@@ -8,11 +9,13 @@
 #include "window/CalendarListModel.h"
 #include "window/InterfaceActions.h"
 #include "window/PreferencesPanes.h"
+#include "window/WindowPanes.h"
 
 #include <QMainWindow>
 
 #include <expected>
 #include <functional>
+#include <memory>
 
 class QLabel;
 class QSplitter;
@@ -54,7 +57,7 @@ public:
         /// Become the window's.
         EventTableView& eventTable;
         ResultsPane& resultsPane;
-        QAction& exportCsvAction;
+        ExportItems& exportItems;
         TimeColumnActions& timeColumnActions;
         CalendarActions calendarActions;
     };
@@ -77,6 +80,7 @@ protected:
 
 private:
     void makePanes();
+    [[nodiscard]] QWidget* makeEventItemView();
     [[nodiscard]] QWidget* makeCentre();
     void makeToolBar();
     void makeMenus();
@@ -90,6 +94,7 @@ private:
                        const QKeySequence& shortcut, std::function<void()> action);
     void makeStepActions();
     void followState();
+    void followExportPanes();
     void showPeriodTitle();
     void showTableOrReason();
     void tickAllCalendars();
@@ -103,6 +108,8 @@ private:
     QLabel* periodTitle_ = nullptr;
     QStackedWidget* centreStack_ = nullptr;
     EmptyState* emptyState_ = nullptr;
+    std::unique_ptr<WindowPanes> panes_;
+    std::unique_ptr<AppViewsController> views_;
     QSplitter* splitter_ = nullptr;
     QAction* previousAction_ = nullptr;
     QAction* currentAction_ = nullptr;

@@ -66,12 +66,12 @@ void MainWindow::makeToolBar() {
     bar->setObjectName(QStringLiteral("toolbar"));
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    with_.exportCsvAction.setText(localized("CSV"));
-    with_.exportCsvAction.setIcon(symbolIcon(Symbol::Save));
-    with_.exportCsvAction.setToolTip(localized("Save the listed events as a CSV file"));
-    connect(&with_.exportCsvAction, &QAction::triggered, this,
-            [this] { with_.exportCSV.saveAsCSV(); });
-    bar->addAction(&with_.exportCsvAction);
+    QAction& csv = with_.exportItems.csv.action();
+    csv.setText(localized("CSV"));
+    csv.setIcon(symbolIcon(Symbol::Save));
+    csv.setToolTip(localized("Save the listed events as a CSV file"));
+    connect(&csv, &QAction::triggered, this, [this] { with_.exportCSV.saveAsCSV(); });
+    bar->addAction(&csv);
     bar->addSeparator();
     bar->addActions({previousAction_, currentAction_, nextAction_});
     for (QToolButton* button : bar->findChildren<QToolButton*>()) {

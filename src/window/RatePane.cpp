@@ -14,7 +14,6 @@ namespace {
 
 const QString singleRateKey = QStringLiteral("isSingleRate");
 const QString hourlyRateKey = QStringLiteral("hourlyRate");
-const QString moneyKey = QStringLiteral("isDollarsOn");
 
 } // namespace
 
@@ -57,9 +56,6 @@ RatePane::RatePane(CalendarsArrayController& calendars, EventItemViewController&
     for (const QString& key : {singleRateKey, hourlyRateKey, QStringLiteral("calendars")}) {
         observeWhileAlive(*this, settings_, key, [this] { showRate(); });
     }
-    observeWhileAlive(*this, settings_, moneyKey,
-                      [this] { setVisible(integerForKey(settings_, moneyKey) == 1); });
-    setVisible(integerForKey(settings_, moneyKey) == 1);
     showRate();
 }
 

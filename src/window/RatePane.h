@@ -10,8 +10,7 @@ class QLineEdit;
 
 namespace quillet {
 
-/// The hourly rates: one for all calendars, or that of the calendars selected in the list. Shown
-/// while money is on.
+/// The hourly rates: one for all calendars, or that of the calendars selected in the list.
 class RatePane : public QWidget {
     Q_OBJECT
 

@@ -62,9 +62,9 @@ TEST_F(AppViewsControllerTest, TheFirstLaunchShowsTheEventsView) {
     EXPECT_EQ(settings.object("isProgressIndicatorOn"), QVariant(false));
     EXPECT_EQ(settings.object("isExportTXTViewOn"), QVariant(false));
     EXPECT_EQ(settings.object("isNotesViewOn"), QVariant(false));
-    EXPECT_EQ(panes.contentsOf[Pane::List], Contents{PaneContent::CalendarList});
-    EXPECT_EQ(panes.contentsOf[Pane::Item], Contents{PaneContent::EventItem});
-    EXPECT_EQ(panes.contentsOf[Pane::Inspector], Contents{PaneContent::DateInspector});
+    EXPECT_EQ(panes.contentsOf[Pane::List], Contents{PaneContent::CalendarListView});
+    EXPECT_EQ(panes.contentsOf[Pane::Item], Contents{PaneContent::EventItemView});
+    EXPECT_EQ(panes.contentsOf[Pane::Inspector], Contents{PaneContent::DateInspectorView});
     EXPECT_TRUE(panes.hidden[Pane::Export]);
     EXPECT_EQ(enabledItems(), "txt csv tsv notes");
     EXPECT_FALSE(panes.isAnimated);
@@ -94,13 +94,13 @@ TEST_F(AppViewsControllerTest, OpeningAnExportPaneDisablesTheExportsUntilItIsClo
     EXPECT_EQ(enabledItems(), "");
     EXPECT_EQ(settings.object("isExportTXTViewOn"), QVariant(true));
     EXPECT_FALSE(panes.hidden[Pane::Export]);
-    EXPECT_EQ(panes.contentsOf[Pane::Export], Contents{PaneContent::ExportTxt});
+    EXPECT_EQ(panes.contentsOf[Pane::Export], Contents{PaneContent::ExportTxtView});
     controller.turnTxtExportViewOff();
     EXPECT_EQ(enabledItems(), "txt csv tsv notes");
     EXPECT_TRUE(panes.hidden[Pane::Export]);
     EXPECT_EQ(panes.contentsOf[Pane::Export], Contents{});
     controller.exportNotesToolbarItemClicked();
-    EXPECT_EQ(panes.contentsOf[Pane::Export], Contents{PaneContent::ExportNotes});
+    EXPECT_EQ(panes.contentsOf[Pane::Export], Contents{PaneContent::ExportNotesView});
     controller.turnNotesExportViewOff();
     EXPECT_TRUE(panes.hidden[Pane::Export]);
 }
@@ -111,7 +111,7 @@ TEST_F(AppViewsControllerTest, WithBothExportsOnTheNotesLieOverTheReport) {
     settings.setObject("isNotesViewOn", true);
     controller.changeExportViewController();
     EXPECT_EQ(panes.contentsOf[Pane::Export],
-              (Contents{PaneContent::ExportTxt, PaneContent::ExportNotes}));
+              (Contents{PaneContent::ExportTxtView, PaneContent::ExportNotesView}));
 }
 
 TEST_F(AppViewsControllerTest, TheDividerCanBeDraggedOnlyWithAnExportPaneOpen) {
@@ -148,8 +148,8 @@ TEST_F(AppViewsControllerTest, InAnotherModeThePanesKeepTheirContent) {
     controller.awakeFromNib();
     controller.setViewMode(1);
     controller.observeValueForKeyPath("viewMode");
-    EXPECT_EQ(panes.contentsOf[Pane::List], Contents{PaneContent::CalendarList});
-    EXPECT_EQ(panes.contentsOf[Pane::Rate], Contents{PaneContent::EventRate});
+    EXPECT_EQ(panes.contentsOf[Pane::List], Contents{PaneContent::CalendarListView});
+    EXPECT_EQ(panes.contentsOf[Pane::Rate], Contents{PaneContent::EventRateView});
 }
 
 TEST_F(AppViewsControllerTest, AnAbsentViewModeIsStoredWhenRead) {

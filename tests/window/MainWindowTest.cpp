@@ -11,6 +11,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QProgressBar>
+#include <QSplitter>
 #include <QTabBar>
 #include <QTest>
 
@@ -184,9 +186,48 @@ TEST_F(MainWindowTest, TheResultsFollowTheChosenTab) {
     EXPECT_EQ(named<QLabel>("cost")->text(), QStringLiteral("$180.00"));
 }
 
+TEST_F(MainWindowTest, TheRatePaneIsThereWhileMoneyIsOn) {
+    open();
+    auto* field = named<QLineEdit>("Hourly Rate");
+    EXPECT_TRUE(field->isVisible());
+    settings.setObject("isDollarsOn", false);
+    EXPECT_FALSE(field->isVisible());
+    settings.setObject("isDollarsOn", true);
+    EXPECT_TRUE(field->isVisible());
+}
+
+TEST_F(MainWindowTest, ExportPanesStartClosedWhateverTheLastRunStored) {
+    settings.setObject("isExportTXTViewOn", true);
+    settings.setObject("isNotesViewOn", true);
+    open();
+    EXPECT_EQ(settings.object("isExportTXTViewOn"), QVariant(false));
+    EXPECT_EQ(settings.object("isNotesViewOn"), QVariant(false));
+    auto* splitter = named<QSplitter>("centre");
+    EXPECT_FALSE(splitter->widget(1)->isVisible());
+    EXPECT_FALSE(splitter->handle(1)->isEnabled());
+}
+
+TEST_F(MainWindowTest, ALongFetchShowsOneIndicatorInTheMiddle) {
+    open();
+    settings.setObject("isProgressIndicatorOn", true);
+    settings.setObject("isProgressIndicatorOn", true);
+    auto* indicator = window->findChild<QProgressBar*>();
+    ASSERT_NE(indicator, nullptr);
+    EXPECT_EQ(window->findChildren<QProgressBar*>().size(), 1);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return indicator->isVisible(); }));
+    const auto distance = [&] {
+        return (indicator->geometry().center() - window->rect().center()).manhattanLength();
+    };
+    EXPECT_LE(distance(), 2);
+    window->resize(900, 600);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return distance() <= 2; }));
+    settings.setObject("isProgressIndicatorOn", false);
+    EXPECT_FALSE(indicator->isVisible());
+}
+
 TEST_F(MainWindowTest, TheExportActionAsksForAPlace) {
     open();
-    csvItem.action().trigger();
+    exportItems.csv.action().trigger();
     ASSERT_EQ(panel.requests.size(), 1U);
     EXPECT_EQ(exportCSV.text().section(u'\n', 0, 0),
               QString("\"Start Date\",\"Calendar\",\"Title\",\"Hours\",\"Cost\""));

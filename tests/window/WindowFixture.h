@@ -63,7 +63,7 @@ protected:
         eventsController.awakeFromNib();
         window = std::make_unique<MainWindow>(MainWindow::Collaborators{
             settings, formats, gregorian, events, calendars, inspector, itemView, exportCSV,
-            delegate, *table, *resultsPane, csvItem.action(), menuTimeColumns,
+            delegate, *table, *resultsPane, exportItems, menuTimeColumns,
             CalendarActions{
                 .addCalendar = [](const QString&) { return std::expected<void, QString>(); },
                 .allowAccess = [] {},
@@ -117,7 +117,7 @@ protected:
     DateInspectorController inspector{{settings, clock, gregorian, gregorian, formats}};
     TimeColumnActions menuTimeColumns;
     TimeColumnActions headerTimeColumns;
-    ActionToolbarItem csvItem;
+    ExportItems exportItems;
     EventTableModel model{events, fields, settings};
     EventTableView* table = new EventTableView(
         model, events, settings,
@@ -137,7 +137,7 @@ protected:
     EventResultsViewController results{
         {settings, *resultsPane, eventsController, events, billing, formats}};
     ExportCSV exportCSV{{settings, *table, events, fields, panel}};
-    AppDelegate delegate{{settings, workspace, launcher, updater, {&csvItem}, {}}};
+    AppDelegate delegate{{settings, workspace, launcher, updater, {&exportItems.csv}, {}}};
     std::unique_ptr<MainWindow> window;
 };
 
