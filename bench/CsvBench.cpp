@@ -6,7 +6,7 @@
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"
 #include "eventtable/EventColumns.h"
-#include "export/CsvText.h"
+#include "export/DelimitedText.h"
 #include "support/EventSamples.h"
 #include "support/Fakes.h"
 #include "support/MemorySettings.h"
@@ -52,7 +52,7 @@ struct Sample {
         }
     }
     [[nodiscard]] QString text() const {
-        CsvText csv(columns, {}, fields);
+        DelimitedText csv(columns, {}, fields, u',');
         csv.appendHeader();
         for (const Event& event : events) {
             csv.appendEvent(event);

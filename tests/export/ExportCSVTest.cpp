@@ -2,7 +2,6 @@
 
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"
-#include "export/CsvText.h"
 #include "support/EventSamples.h"
 #include "support/EventTableFake.h"
 #include "support/ExpectedLog.h"
@@ -153,12 +152,12 @@ TEST_F(ExportCSVTest, TitlesOfColumnsAreNotEscaped) {
     EXPECT_EQ(text(), "\"A \"B\"\"\n");
 }
 
-TEST_F(ExportCSVTest, WithMoneyOffTheCostIsAnEmptyQuotedField) {
+TEST_F(ExportCSVTest, WithMoneyOffTheCostIsAMissingValue) {
     addEvent("T");
     show({"cost"});
     settings.setObject("isDollarsOn", false);
     settings.setObject("isCSVHeader", false);
-    EXPECT_EQ(text(), "\"\"\n");
+    EXPECT_EQ(text(), "\"(null)\"\n");
 }
 
 TEST_F(ExportCSVTest, TheSelectedEventsAloneCanBeExported) {

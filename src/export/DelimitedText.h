@@ -1,7 +1,7 @@
 #pragma once
 
 #include "eventdata/EventFields.h"
-#include "export/EventTexts.h"
+#include "eventtable/EventTexts.h"
 #include "platform/Event.h"
 #include "platform/LocaleFormats.h"
 
@@ -18,8 +18,8 @@ struct ExportColumn {
     QString title;
 };
 
-/// The switches of the CSV file.
-struct CsvSettings {
+/// The switches of the CSV and TSV files.
+struct DelimitedSettings {
     bool hasHeader = true;
     bool includesIdentifier = false;
     bool quotesTitle = true;
@@ -29,18 +29,17 @@ struct CsvSettings {
     bool removesReturns = false;
 };
 
-/// ";" where the decimal separator is ",", else ",".
-[[nodiscard]] QChar csvSeparator(const QString& decimalSeparator);
-
-/// Writes events as CSV: an optional header record, then one record an event, each ended by a line
-/// feed. Only the four free texts (title, notes, location, calendar) are ever escaped or lose their
-/// line feeds; every other value is quoted as it is, a missing one is empty. Settings and locale
-/// must stay as they are while it is used.
-class CsvText {
+/// Writes events as separated values: an optional header record, then one record an event, each
+/// ended by a line feed. Only the four free texts (title, notes, location, calendar) are ever
+/// escaped or lose their line feeds; every other value is quoted as it is. A separator inside a
+/// value stays as it is. A missing title, note, location or address is an empty field, any other
+/// missing value is "(null)".
+class DelimitedText {
 public:
-    CsvText(std::vector<ExportColumn> columns, const CsvSettings& settings,
-            const EventFields& fields);
-    Q_DISABLE_COPY_MOVE(CsvText)
+    /// Billing settings are those of now. The locale must outlive this.
+    DelimitedText(std::vector<ExportColumn> columns, const DelimitedSettings& settings,
+                  const EventFields& fields, QChar separator);
+    Q_DISABLE_COPY_MOVE(DelimitedText)
 
     void appendHeader();
     void appendEvent(const Event& event);
@@ -56,7 +55,9 @@ private:
     void endRecord();
 
     std::vector<ExportColumn> columns_;
-    CsvSettings settings_;
+    DelimitedSettings settings_;
+    /// A copy: they may be changed while a long export shows its progress.
+    BillingSettings billing_;
     EventTexts texts_;
     QChar separator_;
     std::vector<Append> appenders_;

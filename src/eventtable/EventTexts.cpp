@@ -1,4 +1,4 @@
-#include "export/EventTexts.h"
+#include "eventtable/EventTexts.h"
 
 #include "eventdata/EventFigures.h"
 
@@ -20,6 +20,21 @@ EventTexts::EventTexts(const BillingSettings& billing, const LocaleFormats& form
     , formats_(formats)
     , calendar_(calendar)
     , times_(minutesOfADay) {}
+
+EventTexts::Field EventTexts::fieldNamed(const QString& identifier) {
+    static const QHash<QString, Field> fields{{"date", &EventTexts::startDate},
+                                              {"endDate", &EventTexts::adjustedEndDate},
+                                              {"start", &EventTexts::startTime},
+                                              {"end", &EventTexts::endTime},
+                                              {"weekday", &EventTexts::startWeekday},
+                                              {"endWeekday", &EventTexts::endWeekday},
+                                              {"hours", &EventTexts::hours},
+                                              {"minutes", &EventTexts::minutes},
+                                              {"duration", &EventTexts::duration},
+                                              {"cost", &EventTexts::cost},
+                                              {"rate", &EventTexts::rate}};
+    return fields.value(identifier, nullptr);
+}
 
 void EventTexts::setEvent(const Event& event) {
     event_ = &event;

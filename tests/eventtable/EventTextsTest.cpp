@@ -1,4 +1,4 @@
-#include "export/EventTexts.h"
+#include "eventtable/EventTexts.h"
 
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"

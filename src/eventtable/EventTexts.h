@@ -24,6 +24,10 @@ public:
     EventTexts(const BillingSettings& billing, const LocaleFormats& formats,
                const CalendarArithmetic& calendar);
 
+    using Field = QString (EventTexts::*)();
+    /// The field that a column of this identifier shows; null when it is none of those below.
+    [[nodiscard]] static Field fieldNamed(const QString& identifier);
+
     /// The event that the fields below belong to; it must live until the next one is set.
     void setEvent(const Event& event);
 
@@ -40,7 +44,7 @@ public:
     [[nodiscard]] QString duration() { return minutesTexts().duration; }
     /// Currency format.
     [[nodiscard]] QString rate() { return calendarTexts().rateText; }
-    /// Currency format; empty with money off.
+    /// Currency format; null with money off.
     [[nodiscard]] QString cost();
 
 private:

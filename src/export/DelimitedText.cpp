@@ -1,41 +1,14 @@
-#include "export/CsvText.h"
-
-#include <QHash>
+#include "export/DelimitedText.h"
 
 namespace quillet {
 
-namespace {
-
-using DerivedText = QString (EventTexts::*)();
-
-/// Null for a column that shows none of these.
-DerivedText derivedText(const QString& identifier) {
-    static const QHash<QString, DerivedText> texts{{"date", &EventTexts::startDate},
-                                                   {"endDate", &EventTexts::adjustedEndDate},
-                                                   {"start", &EventTexts::startTime},
-                                                   {"end", &EventTexts::endTime},
-                                                   {"weekday", &EventTexts::startWeekday},
-                                                   {"endWeekday", &EventTexts::endWeekday},
-                                                   {"hours", &EventTexts::hours},
-                                                   {"minutes", &EventTexts::minutes},
-                                                   {"duration", &EventTexts::duration},
-                                                   {"cost", &EventTexts::cost},
-                                                   {"rate", &EventTexts::rate}};
-    return texts.value(identifier, nullptr);
-}
-
-} // namespace
-
-QChar csvSeparator(const QString& decimalSeparator) {
-    return decimalSeparator == u"," ? u';' : u',';
-}
-
-CsvText::CsvText(std::vector<ExportColumn> columns, const CsvSettings& settings,
-                 const EventFields& fields)
+DelimitedText::DelimitedText(std::vector<ExportColumn> columns, const DelimitedSettings& settings,
+                             const EventFields& fields, QChar separator)
     : columns_(std::move(columns))
     , settings_(settings)
-    , texts_(fields.billing(), fields.formats(), fields.gregorian())
-    , separator_(csvSeparator(fields.formats().decimalSeparator())) {
+    , billing_(fields.billing())
+    , texts_(billing_, fields.formats(), fields.gregorian())
+    , separator_(separator) {
     for (const ExportColumn& column : columns_) {
         if (auto appender = appenderFor(column.identifier)) {
             appenders_.push_back(std::move(appender));
@@ -43,7 +16,7 @@ CsvText::CsvText(std::vector<ExportColumn> columns, const CsvSettings& settings,
     }
 }
 
-void CsvText::appendHeader() {
+void DelimitedText::appendHeader() {
     if (settings_.includesIdentifier) {
         appendQuoted(QStringLiteral("uid"));
     }
@@ -53,7 +26,7 @@ void CsvText::appendHeader() {
     endRecord();
 }
 
-void CsvText::appendEvent(const Event& event) {
+void DelimitedText::appendEvent(const Event& event) {
     texts_.setEvent(event);
     if (settings_.includesIdentifier) {
         appendQuoted(event.details->eventIdentifier);
@@ -64,7 +37,7 @@ void CsvText::appendEvent(const Event& event) {
     endRecord();
 }
 
-CsvText::Append CsvText::freeText(bool isQuoted, QString EventDetails::* text) {
+DelimitedText::Append DelimitedText::freeText(bool isQuoted, QString EventDetails::* text) {
     return [this, isQuoted, text](const EventDetails& details) {
         const QString& value = details.*text;
         if (value.isNull()) {
@@ -75,7 +48,7 @@ CsvText::Append CsvText::freeText(bool isQuoted, QString EventDetails::* text) {
     };
 }
 
-CsvText::Append CsvText::appenderFor(const QString& identifier) {
+DelimitedText::Append DelimitedText::appenderFor(const QString& identifier) {
     if (identifier == u"title") {
         return freeText(settings_.quotesTitle, &EventDetails::title);
     }
@@ -99,20 +72,23 @@ CsvText::Append CsvText::appenderFor(const QString& identifier) {
             }
         };
     }
-    if (const DerivedText derived = derivedText(identifier)) {
-        return [this, derived](const EventDetails&) { appendQuoted((texts_.*derived)()); };
+    if (const EventTexts::Field derived = EventTexts::fieldNamed(identifier)) {
+        return [this, derived](const EventDetails&) {
+            const QString value = (texts_.*derived)();
+            appendQuoted(value.isNull() ? QStringLiteral("(null)") : value);
+        };
     }
     return {};
 }
 
-void CsvText::appendQuoted(const QString& value) {
+void DelimitedText::appendQuoted(const QString& value) {
     text_ += u'"';
     text_ += value;
     text_ += u'"';
     text_ += separator_;
 }
 
-void CsvText::appendFree(const QString& value, bool isQuoted) {
+void DelimitedText::appendFree(const QString& value, bool isQuoted) {
     QString written = value;
     if (isQuoted) {
         written.replace(QStringLiteral("\""), QStringLiteral("\"\""));
@@ -128,7 +104,7 @@ void CsvText::appendFree(const QString& value, bool isQuoted) {
     }
 }
 
-void CsvText::endRecord() {
+void DelimitedText::endRecord() {
     // The last character is taken for the final separator whatever it is: a record without a field
     // takes away the line feed of the one before.
     text_.chop(1);

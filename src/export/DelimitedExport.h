@@ -1,0 +1,46 @@
+#pragma once
+
+#include "eventdata/EventFields.h"
+#include "export/ExportFile.h"
+#include "platform/ListController.h"
+#include "platform/SavePanel.h"
+#include "platform/SettingsStore.h"
+#include "platform/TableColumn.h"
+
+namespace quillet {
+
+/// What tells one file of separated values from another.
+struct DelimitedFormat {
+    QChar separator;
+    ExportFileKind file;
+};
+
+/// Builds a file of separated values of all shown or of the selected events, asks for a place and
+/// writes the file. Each format is a class of its own that hands its differences to this one.
+class DelimitedExport {
+public:
+    struct Collaborators {
+        SettingsStore& settings;
+        ColumnTable& eventListTableView;
+        ListController<Event>& eventsArrayController;
+        const EventFields& fields;
+        SavePanel& savePanel;
+    };
+
+    /// The text as it would be saved now.
+    [[nodiscard]] QString text() const;
+
+protected:
+    DelimitedExport(const Collaborators& collaborators, DelimitedFormat format)
+        : with_(collaborators)
+        , format_(std::move(format)) {}
+
+    /// A write that fails is only logged and leaves no file.
+    void save();
+
+private:
+    Collaborators with_;
+    DelimitedFormat format_;
+};
+
+} // namespace quillet

@@ -1,0 +1,34 @@
+#include "export/ExportFile.h"
+
+#include "platform/Logging.h"
+
+#include <QStandardPaths>
+
+namespace quillet {
+
+void saveThroughPanel(SavePanel& panel, const SettingsStore& settings, const ExportFileKind& kind,
+                      const ExportFileTexts& texts, QString text) {
+    const auto encoding = integerForKey(settings, QStringLiteral("fileEncodingPopUpIndex")) == 1
+                              ? TextEncoding::Utf16
+                              : TextEncoding::Utf8;
+    const SavePanelRequest request{
+        .fileType = kind.fileType,
+        .message = texts.message,
+        .nameFieldLabel = texts.nameFieldLabel,
+        .startingFolder = QStandardPaths::writableLocation(QStandardPaths::DesktopLocation),
+        .suggestedName = texts.suggestedName};
+    panel.beginSheet(request, [&panel, kind, encoding,
+                               finished = std::move(text)](const std::optional<QString>& path) {
+        if (!path) {
+            return;
+        }
+        if (!writeAtomically(*path, encodedText(finished, encoding))) {
+            qCWarning(quilletLog).noquote() << kind.writeIssue;
+        }
+        if (kind.modalCode) {
+            panel.stopModal(*kind.modalCode);
+        }
+    });
+}
+
+} // namespace quillet

@@ -1,0 +1,72 @@
+#include "export/TextExport.h"
+
+#include "export/ExportFile.h"
+#include "export/ExportNames.h"
+#include "export/MailScript.h"
+#include "platform/Localized.h"
+
+#include <tuple>
+
+namespace quillet {
+
+namespace {
+
+const QString noticeKey = QStringLiteral("safari50ExportNotice");
+
+} // namespace
+
+QString TextExport::titledPeriod(FormatDate formatDate) const {
+    const QString period = periodName(with_.settings, with_.formats, formatDate);
+    return kind_.title.isEmpty() ? period : QStringLiteral("%1 - %2").arg(kind_.title, period);
+}
+
+void TextExport::saveAsTxt() {
+    saveThroughPanel(
+        with_.savePanel, with_.settings,
+        {.fileType = QStringLiteral("txt"), .writeIssue = kind_.writeIssue, .modalCode = {}},
+        {.message = {},
+         .nameFieldLabel = kind_.nameFieldLabel,
+         .suggestedName = titledPeriod(formatFileNameDate)},
+        with_.text());
+}
+
+bool TextExport::isScriptingOfStylesBroken() const {
+    return with_.installedPrograms.shortVersion(QStringLiteral("/Applications/Safari.app")) ==
+           u"5.0";
+}
+
+void TextExport::showBrowserNotice() {
+    if (hasKey(with_.settings, noticeKey)) {
+        return;
+    }
+    constexpr int ignore = 1;
+    const int chosen = with_.alerts.runModal(
+        {.style = AlertStyle::Warning,
+         .messageText = localized("Safari 5.0 is installed on this Mac"),
+         .informativeText =
+             localized("Quillet will not be able to format the text for this email due to a known "
+                       "applescript issue caused by Safari 5.0.\n\nIf you would like to use the "
+                       "standard text format that Quillet uses, format the font of the new email "
+                       "message to Monaco, size 10.\n"),
+         .buttonTitles = {localized("Close"), localized("Ignore")}});
+    if (chosen == ignore) {
+        with_.settings.setObject(noticeKey, true);
+    }
+}
+
+void TextExport::sendToMail() {
+    const QString text = with_.text();
+    const QString subject = titledPeriod(formatEmailNameDate);
+    const QString body = removeQuotesFromString(text.isEmpty() ? QStringLiteral(" ") : text);
+    const bool isBroken = isScriptingOfStylesBroken();
+    if (isBroken) {
+        showBrowserNotice();
+    }
+    const bool isPlain = isBroken || kind_.mailStyle == MailStyle::Plain;
+    // A mail program that is missing or refuses is not reported: no window opens, that is all.
+    std::ignore = with_.scriptRunner.run(
+        isPlain ? plainMailScript(body, subject)
+                : styledMailScript(body, with_.textColor.textColor(), subject));
+}
+
+} // namespace quillet

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "platform/Alert.h"
+#include "platform/InstalledPrograms.h"
+#include "platform/LocaleFormats.h"
+#include "platform/SavePanel.h"
+#include "platform/ScriptRunner.h"
+#include "platform/SettingsStore.h"
+#include "platform/TextColorSource.h"
+
+#include <QString>
+
+#include <functional>
+
+namespace quillet {
+
+/// How the body of a mail is set.
+enum class MailStyle {
+    Styled, ///< In a font, size and colour of its own, unless the installed browser breaks that.
+    Plain,  ///< As the mail program sets it.
+};
+
+/// What tells one kind of text from another.
+struct TextExportKind {
+    /// Comes before the period in names and subjects; empty for none.
+    QString title;
+    QString nameFieldLabel;
+    /// The line that a failed write leaves in the log.
+    QString writeIssue;
+    MailStyle mailStyle;
+};
+
+/// Saves a text of the window as a text file, or hands it to the mail program as a new message.
+class TextExport {
+public:
+    struct Collaborators {
+        SettingsStore& settings;
+        const LocaleFormats& formats;
+        SavePanel& savePanel;
+        AlertPresenter& alerts;
+        ScriptRunner& scriptRunner;
+        const InstalledPrograms& installedPrograms;
+        const TextColorSource& textColor;
+        /// The text as its pane shows it now, or would.
+        std::function<QString()> text;
+    };
+
+    TextExport(Collaborators collaborators, TextExportKind kind)
+        : with_(std::move(collaborators))
+        , kind_(std::move(kind)) {}
+
+    /// Takes the text, asks for a place and writes it there. A failed write is only logged.
+    void saveAsTxt();
+    /// Takes the text, a blank where it is empty, and runs the script that makes the message; what
+    /// becomes of that is not told.
+    void sendToMail();
+
+private:
+    using FormatDate = QString (*)(const LocaleFormats&, Instant);
+
+    [[nodiscard]] QString titledPeriod(FormatDate formatDate) const;
+    [[nodiscard]] bool isScriptingOfStylesBroken() const;
+    void showBrowserNotice();
+
+    Collaborators with_;
+    TextExportKind kind_;
+};
+
+} // namespace quillet
