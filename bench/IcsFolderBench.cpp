@@ -1,6 +1,7 @@
 // The calendar store over generated files, each part beside bare libical reading and parsing the
 // same files on one thread.
 
+#include "BareLibical.h"
 #include "backends/icsfolder/IcsFolderStore.h"
 
 #include <QCoreApplication>
@@ -9,7 +10,6 @@
 #include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
-#include <libical/ical.h>
 
 #include <fstream>
 #include <memory>
@@ -124,14 +124,6 @@ private:
     Observation observation_;
 };
 
-void parseWithBareLibical(const QString& path) {
-    std::ifstream stream(path.toStdString(), std::ios::binary);
-    const std::string text((std::istreambuf_iterator<char>(stream)), {});
-    icalcomponent* component = icalparser_parse_string(text.c_str());
-    benchmark::DoNotOptimize(component);
-    icalcomponent_free(component);
-}
-
 void coldLoad(benchmark::State& state, const Library& (*library)()) {
     library();
     for (auto _ : state) {
@@ -143,13 +135,8 @@ void coldLoad(benchmark::State& state, const Library& (*library)()) {
 void bareLibical(benchmark::State& state, const Library& (*library)()) {
     const QDir root(library().rootPath());
     for (auto _ : state) {
-        for (const QString& file : root.entryList({QStringLiteral("*.ics")}, QDir::Files)) {
-            parseWithBareLibical(root.filePath(file));
-        }
-        const QDir folder(root.filePath(QStringLiteral("work")));
-        for (const QString& file : folder.entryList({QStringLiteral("*.ics")}, QDir::Files)) {
-            parseWithBareLibical(folder.filePath(file));
-        }
+        bench::parseFolderWithBareLibical(root.path());
+        bench::parseFolderWithBareLibical(root.filePath(QStringLiteral("work")));
     }
 }
 

@@ -1,0 +1,322 @@
+// The whole program on folders of calendars: what stands between its start and its filled window,
+// what a new period costs its main thread, and what each event costs in memory. Time on the main
+// thread is that of one event of its loop, the longest of all.
+
+#include "BareLibical.h"
+#include "Program.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QMainWindow>
+#include <QProcess>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <QWindow>
+
+#include <benchmark/benchmark.h>
+
+#include <fstream>
+#include <unistd.h>
+
+namespace {
+
+using namespace quillet;
+
+constexpr int eventsAYear = 100'000;
+constexpr int fileCount = 20'000;
+const QString emptyWindowOption = QStringLiteral("--empty-window");
+const QString manyFilesOption = QStringLiteral("--many-files");
+const QString thousandEventsOption = QStringLiteral("--thousand-events");
+
+/// Measures how long each event of the main loop keeps the main thread.
+class MeasuredApplication final : public QApplication {
+public:
+    using QApplication::QApplication;
+    bool notify(QObject* receiver, QEvent* event) override {
+        if (depth_++ > 0) {
+            const bool isHandled = QApplication::notify(receiver, event);
+            --depth_;
+            return isHandled;
+        }
+        QElapsedTimer timer;
+        timer.start();
+        const bool isHandled = QApplication::notify(receiver, event);
+        longestNanoseconds = std::max(longestNanoseconds, timer.nsecsElapsed());
+        --depth_;
+        return isHandled;
+    }
+
+    qint64 longestNanoseconds = 0;
+
+private:
+    int depth_ = 0;
+};
+
+MeasuredApplication& application() {
+    return *static_cast<MeasuredApplication*>(QCoreApplication::instance());
+}
+
+void write(const QString& path, const QByteArray& content) {
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
+        qFatal("cannot write the data");
+    }
+}
+
+QByteArray eventText(int number, int year, int count) {
+    const QDateTime start = QDateTime(QDate(year, 1, 2), QTime(0, 0), Qt::UTC)
+                                .addSecs(qint64(number) * (360 * 86'400LL / count) / 60 * 60);
+    const QByteArray form = start.toString(QStringLiteral("yyyyMMdd'T'hhmmss'Z'")).toLatin1();
+    return "BEGIN:VEVENT\r\nUID:" + QByteArray::number(year) + "-" + QByteArray::number(number) +
+           "\r\nDTSTAMP:20240101T000000Z\r\nSUMMARY:Meeting " + QByteArray::number(number) +
+           "\r\nDTSTART:" + form + "\r\nDURATION:PT" + QByteArray::number(15 + number % 90) +
+           "M\r\nEND:VEVENT\r\n";
+}
+
+QByteArray inCalendar(const QByteArray& events) {
+    return "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//example//bench//EN\r\n" + events +
+           "END:VCALENDAR\r\n";
+}
+
+ProgramPaths pathsIn(const QString& folder) {
+    return {folder + "/config/quillet.json", folder + "/calendars", folder + "/state", {}};
+}
+
+/// A home with one calendar of so many events in 2024 and in 2025 each, and settings that show
+/// 2024.
+class Home {
+public:
+    /// Without calendars.
+    Home() { writeSettings(); }
+    Home(int count, std::initializer_list<int> years) {
+        writeSettings();
+        QByteArray events;
+        for (const int year : years) {
+            for (int number = 0; number < count; ++number) {
+                events += eventText(number, year, count);
+            }
+        }
+        write(path("calendars/work.ics"), inCalendar(events));
+    }
+    [[nodiscard]] QString folder() const { return folder_.path(); }
+
+private:
+    void writeSettings() const {
+        write(path("state/calendar-access"), "granted\n");
+        write(path("config/quillet.json"),
+              R"({"isCalendarAccessGranted": true, "quickDatePeriod": 3,
+                  "selectedDate": {"$date": "2024-01-01T00:00:00Z"},
+                  "filterStartDate": {"$date": "2024-01-01T00:00:00Z"},
+                  "filterEndDate": {"$date": "2024-12-31T23:59:59Z"}})");
+    }
+    [[nodiscard]] QString path(const char* name) const {
+        return folder_.filePath(QString::fromLatin1(name));
+    }
+
+    QTemporaryDir folder_;
+};
+
+QTableView* eventTable() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        for (auto* table : window->findChildren<QTableView*>()) {
+            if (table->accessibleName() == QStringLiteral("Events")) {
+                return table;
+            }
+        }
+    }
+    return nullptr;
+}
+
+void runUntil(const std::function<bool()>& isReached) {
+    while (!isReached()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    QCoreApplication::processEvents();
+}
+
+void runUntilShown(int rows) {
+    runUntil([rows] {
+        const QTableView* table = eventTable();
+        return table != nullptr && table->isVisible() && table->model()->rowCount() == rows;
+    });
+}
+
+/// What the program's own window is measured against: an empty one with a table of as many columns.
+[[noreturn]] void showEmptyWindow() {
+    QMainWindow window;
+    auto* table = new QTableView(&window);
+    QStandardItemModel model(0, 16);
+    table->setModel(&model);
+    window.setCentralWidget(table);
+    window.resize(1200, 700);
+    window.show();
+    runUntil([&window] { return window.windowHandle()->isExposed(); });
+    QCoreApplication::processEvents();
+    // The end of the program is not measured.
+    ::_exit(0);
+}
+
+[[noreturn]] void showThousandEvents(const QString& folder) {
+    Program program(pathsIn(folder));
+    program.start();
+    runUntilShown(1000);
+    ::_exit(0);
+}
+
+[[noreturn]] void showManyFiles(const QString& folder) {
+    Program program(pathsIn(folder));
+    program.start();
+    runUntilShown(fileCount);
+    ::_exit(0);
+}
+
+/// Starts this program anew to show one window, and waits until it stands.
+void start(const QStringList& arguments) {
+    if (QProcess::execute(QCoreApplication::applicationFilePath(), arguments) != 0) {
+        qFatal("the window did not come");
+    }
+}
+
+void emptyWindow(benchmark::State& state) {
+    for (auto _ : state) {
+        start({emptyWindowOption});
+    }
+}
+
+void windowOfAThousandEvents(benchmark::State& state) {
+    const Home home(1000, {2024});
+    for (auto _ : state) {
+        start({thousandEventsOption, home.folder()});
+    }
+}
+
+/// One event in each of 20,000 files, from the start of the program to the filled table.
+const Home& manyFiles() {
+    static const Home home;
+    static const bool isWritten = [] {
+        for (int number = 0; number < fileCount; ++number) {
+            write(home.folder() + QStringLiteral("/calendars/work/%1.ics").arg(number),
+                  inCalendar(eventText(number, 2024, fileCount)));
+        }
+        return true;
+    }();
+    benchmark::DoNotOptimize(isWritten);
+    return home;
+}
+
+void windowOfManyFiles(benchmark::State& state) {
+    const QString folder = manyFiles().folder();
+    for (auto _ : state) {
+        start({manyFilesOption, folder});
+    }
+}
+
+void manyFilesWithBareLibical(benchmark::State& state) {
+    for (auto _ : state) {
+        bench::parseFolderWithBareLibical(manyFiles().folder() + "/calendars/work");
+    }
+}
+
+/// Another year of 100,000 events in memory, one of them selected: the whole, and the longest time
+/// that the main thread was kept.
+void newPeriodInTheWindow(benchmark::State& state) {
+    const Home home(eventsAYear, {2024, 2025});
+    Program program(pathsIn(home.folder()));
+    program.start();
+    runUntilShown(eventsAYear);
+    const char* const steps[] = {"setQuickDatesNext", "setQuickDatesPrevious"};
+    const auto find = [](const char* name) {
+        return eventTable()->window()->findChild<QAction*>(QString::fromLatin1(name));
+    };
+    int round = 0;
+    qint64 longest = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        eventTable()->selectRow(7);
+        QCoreApplication::processEvents();
+        application().longestNanoseconds = 0;
+        bool isPublished = false;
+        const auto notice = QObject::connect(eventTable()->model(), &QAbstractItemModel::modelReset,
+                                             eventTable(), [&isPublished] { isPublished = true; });
+        state.ResumeTiming();
+        find(steps[round++ % 2])->trigger();
+        runUntil([&isPublished] { return isPublished; });
+        QObject::disconnect(notice);
+        longest = std::max(longest, application().longestNanoseconds);
+    }
+    state.counters["longest_ms"] = static_cast<double>(longest) / 1e6;
+}
+
+void sortByCostInTheWindow(benchmark::State& state) {
+    const Home home(eventsAYear, {2024, 2025});
+    Program program(pathsIn(home.folder()));
+    program.start();
+    runUntilShown(eventsAYear);
+    bool isAscending = false;
+    for (auto _ : state) {
+        isAscending = !isAscending;
+        eventTable()->sortByColumn(14, isAscending ? Qt::AscendingOrder : Qt::DescendingOrder);
+        QCoreApplication::processEvents();
+    }
+}
+
+double residentBytes() {
+    std::ifstream statm("/proc/self/statm");
+    std::size_t total = 0;
+    std::size_t resident = 0;
+    statm >> total >> resident;
+    return static_cast<double>(resident) * static_cast<double>(::sysconf(_SC_PAGESIZE));
+}
+
+/// Each event costs this much over the program without calendars.
+void memoryPerEvent(benchmark::State& state) {
+    const Home empty;
+    const Home full(eventsAYear, {2024});
+    for (auto _ : state) {
+        {
+            Program program(pathsIn(empty.folder()));
+            program.start();
+            QCoreApplication::processEvents();
+        }
+        const double before = residentBytes();
+        Program program(pathsIn(full.folder()));
+        program.start();
+        runUntilShown(eventsAYear);
+        state.counters["bytes/event"] = (residentBytes() - before) / eventsAYear;
+    }
+}
+
+} // namespace
+
+BENCHMARK(memoryPerEvent)->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK(emptyWindow)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(windowOfAThousandEvents)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(manyFilesWithBareLibical)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(windowOfManyFiles)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(newPeriodInTheWindow)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(20);
+BENCHMARK(sortByCostInTheWindow)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+int main(int argc, char** argv) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    const MeasuredApplication measured(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.value(1) == emptyWindowOption) {
+        showEmptyWindow();
+    }
+    if (arguments.value(1) == thousandEventsOption) {
+        showThousandEvents(arguments.value(2));
+    }
+    if (arguments.value(1) == manyFilesOption) {
+        showManyFiles(arguments.value(2));
+    }
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
