@@ -1,0 +1,83 @@
+#include "window/ExportPane.h"
+
+#include "platform/Localized.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QShortcut>
+
+namespace quillet {
+
+ExportPane::ExportPane(const QString& title, QWidget& view, Actions actions, QWidget* parent)
+    : QWidget(parent)
+    , view_(view)
+    , remark_(new QLabel(this))
+    , switches_(new QHBoxLayout) {
+    auto* name = new QLabel(title, this);
+    QFont font = name->font();
+    font.setBold(true);
+    name->setFont(font);
+    remark_->setTextFormat(Qt::PlainText);
+    remark_->setForegroundRole(QPalette::PlaceholderText);
+    view_.setAccessibleName(title);
+    setAccessibleName(title);
+
+    const int space = fontMetrics().height() / 2;
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(space, space, space, space);
+    row->setSpacing(space);
+    row->addWidget(name);
+    row->addWidget(remark_);
+    row->addStretch();
+    row->addLayout(switches_);
+    row->addSpacing(space);
+    addButton(*row, localized("&Save…"), std::move(actions.save));
+    mail_ = addButton(*row, localized("&Mail"), std::move(actions.mail));
+    addButton(*row, localized("C&lose"), actions.close);
+
+    auto* line = new QFrame(this);
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Sunken);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(line);
+    layout->addLayout(row);
+    layout->addWidget(&view_, 1);
+
+    auto* escape = new QShortcut(Qt::Key_Escape, this);
+    escape->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(escape, &QShortcut::activated, this, std::move(actions.close));
+}
+
+ExportPane::~ExportPane() = default;
+
+QPushButton* ExportPane::addButton(QBoxLayout& row, const QString& text,
+                                   std::function<void()> action) {
+    auto* button = new QPushButton(text, this);
+    button->setAutoDefault(false);
+    connect(button, &QPushButton::clicked, this, std::move(action));
+    row.addWidget(button);
+    return button;
+}
+
+void ExportPane::addSwitch(QWidget& control) {
+    switches_->addWidget(&control);
+}
+
+void ExportPane::setRemark(const QString& remark) {
+    remark_->setText(remark);
+}
+
+void ExportPane::setMailProblem(const QString& reason) {
+    mail_->setEnabled(reason.isEmpty());
+    mail_->setToolTip(reason);
+}
+
+void ExportPane::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    view_.setFocus();
+}
+
+} // namespace quillet

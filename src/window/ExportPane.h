@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+
+class QBoxLayout;
+class QLabel;
+class QPushButton;
+
+namespace quillet {
+
+/// A pane in which what is about to leave the program is read first: its view, and above it its
+/// name, a remark, its switches and its buttons. Escape closes it.
+class ExportPane : public QWidget {
+    Q_OBJECT
+
+public:
+    struct Actions {
+        std::function<void()> save;
+        std::function<void()> mail;
+        std::function<void()> close;
+    };
+
+    /// The view becomes the pane's; it bears the title as its accessible name.
+    ExportPane(const QString& title, QWidget& view, Actions actions, QWidget* parent = nullptr);
+    ~ExportPane() override;
+    Q_DISABLE_COPY_MOVE(ExportPane)
+
+    /// A switch of what the view shows, under the title's row.
+    void addSwitch(QWidget& control);
+    /// A sentence beside the title; plain text.
+    void setRemark(const QString& remark);
+    /// Why nothing can be mailed; an empty reason lets the user mail.
+    void setMailProblem(const QString& reason);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QPushButton* addButton(QBoxLayout& row, const QString& text, std::function<void()> action);
+
+    QWidget& view_;
+    QLabel* remark_;
+    QBoxLayout* switches_;
+    QPushButton* mail_ = nullptr;
+};
+
+} // namespace quillet

@@ -1,0 +1,51 @@
+#include "window/NotesPane.h"
+
+#include "platform/Localized.h"
+#include "window/SettingsBinding.h"
+#include "window/StyledTextView.h"
+
+#include <QCheckBox>
+
+namespace quillet {
+
+NotesPane::NotesPane(EventNotesViewController& notes, SettingsStore& settings, Actions actions,
+                     QWidget* parent)
+    : NotesPane(new StyledTextView, notes, settings, std::move(actions), parent) {}
+
+NotesPane::NotesPane(StyledTextView* view, EventNotesViewController& notes, SettingsStore& settings,
+                     Actions actions, QWidget* parent)
+    : ExportPane(localized("Event Notes"), *view, std::move(actions), parent)
+    , notes_(notes)
+    , view_(view) {
+    struct Switch {
+        const char* key;
+        const char* text;
+        const char* toolTip;
+    };
+    for (const Switch& item :
+         {Switch{"isEventNotesCalendar", "Calendar", "Tell the calendar in each heading"},
+          Switch{"isEventNotesDate", "Date", "Tell the date in each heading"},
+          Switch{"isEventNotesTitle", "Title", "Tell the title in each heading"},
+          Switch{"isEventNotesLocation", "Location", "Tell the location in each heading"}}) {
+        auto* box = new QCheckBox(localized(item.text), this);
+        box->setToolTip(localized(item.toolTip));
+        bindCheckBox(*box, settings, QString::fromLatin1(item.key));
+        addSwitch(*box);
+    }
+    refreshing_.setSingleShot(true);
+    refreshing_.setInterval(0);
+    connect(&refreshing_, &QTimer::timeout, this, &NotesPane::refresh);
+    for (const auto change :
+         {&EventNotesViewController::notesChanged, &EventNotesViewController::notesCountChanged}) {
+        connect(&notes_, change, &refreshing_, qOverload<>(&QTimer::start));
+    }
+}
+
+NotesPane::~NotesPane() = default;
+
+void NotesPane::refresh() {
+    setRemark(localized("Events with notes: %1").arg(notes_.notesCount()));
+    view_->show(notes_.notes());
+}
+
+} // namespace quillet

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/SettingsStore.h"
+#include "results/EventNotesViewController.h"
+#include "window/ExportPane.h"
+
+#include <QTimer>
+
+namespace quillet {
+
+class StyledTextView;
+
+/// The notes of the listed events under their headings, with the switches of what a heading tells.
+class NotesPane : public ExportPane {
+    Q_OBJECT
+
+public:
+    NotesPane(EventNotesViewController& notes, SettingsStore& settings, Actions actions,
+              QWidget* parent = nullptr);
+    ~NotesPane() override;
+    Q_DISABLE_COPY_MOVE(NotesPane)
+
+private:
+    NotesPane(StyledTextView* view, EventNotesViewController& notes, SettingsStore& settings,
+              Actions actions, QWidget* parent);
+    void refresh();
+
+    EventNotesViewController& notes_;
+    StyledTextView* view_;
+    /// Several changes at once are shown once.
+    QTimer refreshing_;
+};
+
+} // namespace quillet
