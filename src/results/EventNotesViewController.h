@@ -5,6 +5,7 @@
 #include "platform/LocaleFormats.h"
 #include "platform/Observation.h"
 #include "platform/SettingsStore.h"
+#include "platform/StyledText.h"
 
 #include <QObject>
 #include <QString>
@@ -13,22 +14,6 @@
 #include <vector>
 
 namespace quillet {
-
-/// A text in which parts are bold.
-struct StyledText {
-    /// Bold and Regular are 12 points high; Plain parts have no font of their own.
-    enum class Style { Plain, Bold, Regular };
-    struct Part {
-        QString text;
-        Style style = Style::Plain;
-
-        friend bool operator==(const Part&, const Part&) = default;
-    };
-
-    std::vector<Part> parts;
-    /// Whether it is shown in the desktop's text colour.
-    bool hasTextColor = false;
-};
 
 /// The notes of all shown events as one text, each under a heading.
 class EventNotesViewController : public QObject {

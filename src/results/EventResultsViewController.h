@@ -5,7 +5,7 @@
 #include "platform/LocaleFormats.h"
 #include "platform/Observation.h"
 #include "platform/SettingsStore.h"
-#include "results/EventTotals.h"
+#include "eventdata/EventTotals.h"
 #include "results/ResultField.h"
 
 #include <QObject>

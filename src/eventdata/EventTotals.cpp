@@ -1,4 +1,4 @@
-#include "results/EventTotals.h"
+#include "eventdata/EventTotals.h"
 
 #include "eventdata/EventFigures.h"
 
