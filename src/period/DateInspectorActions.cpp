@@ -73,8 +73,9 @@ void DateInspectorController::step(PeriodKind kind, PeriodStep segment) {
     Instant date = today();
     if (segment != PeriodStep::Current) {
         const DateOffset length = lengthOf(kind);
-        date = arithmetic_.firstSecondAfter(
-            startDate(), segment == PeriodStep::Next ? length : reversed(length));
+        const DateOffset offset = segment == PeriodStep::Next ? length : reversed(length);
+        date = kind == PeriodKind::Day ? arithmetic_.firstSecondAfter(startDate(), offset)
+                                       : arithmetic_.firstSecondOfDate(startDate(), offset);
     }
     setPeriod(kind, date);
     setSelectedDate(date);
@@ -133,7 +134,7 @@ void DateInspectorController::setPeriodStartingWith(PeriodKind kind, Instant dat
         weekReferenceDate_ = startDate();
     }
     setBounds(arithmetic_.firstSecondOfDayFromDate(date),
-              arithmetic_.lastSecondBefore(date, lengthOf(kind)));
+              arithmetic_.lastSecondBeforeDate(date, lengthOf(kind)));
 }
 
 Instant DateInspectorController::laterThanWeekReference(Instant date) {

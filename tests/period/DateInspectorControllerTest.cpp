@@ -165,7 +165,12 @@ TEST_F(DateInspectorControllerTest, APickedStartKeepsTheKindsLengthWithoutSnappi
     choose(PeriodKind::Month, local(2024, 3, 4));
     controller->pickStartDate(local(2024, 1, 15));
     EXPECT_EQ(period(), "2024-01-15 00:00:00 - 2024-02-14 23:59:59");
+    controller->pickStartDate(local(2024, 1, 31));
+    EXPECT_EQ(period(), "2024-01-31 00:00:00 - 2024-02-28 23:59:59")
+        << "a month from the 31st ends before the last day of February";
     choose(PeriodKind::Year, local(2024, 3, 4));
+    controller->pickStartDate(local(2024, 2, 29));
+    EXPECT_EQ(period(), "2024-02-29 00:00:00 - 2025-02-27 23:59:59");
     controller->pickStartDate(local(2024, 2, 10));
     EXPECT_EQ(period(), "2024-02-10 00:00:00 - 2025-02-09 23:59:59");
     choose(PeriodKind::Day, local(2024, 3, 4));

@@ -65,7 +65,7 @@ TEST(PeriodArithmeticTest, ADayWithoutAMidnightBeginsWithItsFirstInstant) {
     const Zone saoPaulo("America/Sao_Paulo");
     const Instant date = saoPaulo.at(2018, 11, 4, 12);
     EXPECT_EQ(saoPaulo.arithmetic.firstSecondOfDayFromDate(date), test::utc(2018, 11, 4, 3));
-    EXPECT_EQ(saoPaulo.arithmetic.lastSecondOfDayFromDate(date),
+    EXPECT_EQ(saoPaulo.arithmetic.lastSecondOfDayFromDate(test::utc(2018, 11, 4, 3)),
               test::utc(2018, 11, 5, 2) - seconds(1));
     EXPECT_EQ(saoPaulo.arithmetic.lastSecondOfDayFromDate(saoPaulo.at(2018, 11, 3)),
               test::utc(2018, 11, 4, 3) - seconds(1));
@@ -75,8 +75,16 @@ TEST(PeriodArithmeticTest, ADayWithTwoMidnightsBeginsWithTheFirst) {
     const Zone havana("America/Havana");
     const Instant date = havana.at(2024, 11, 3, 12);
     EXPECT_EQ(havana.arithmetic.firstSecondOfDayFromDate(date), test::utc(2024, 11, 3, 4));
-    EXPECT_EQ(havana.arithmetic.lastSecondOfDayFromDate(date),
+    EXPECT_EQ(havana.arithmetic.lastSecondOfDayFromDate(test::utc(2024, 11, 3, 4)),
               test::utc(2024, 11, 4, 5) - seconds(1));
+}
+
+TEST(PeriodArithmeticTest, ADayIsAddedToTheDateAsItIsGiven) {
+    const Zone berlin("Europe/Berlin");
+    EXPECT_EQ(berlin.arithmetic.lastSecondOfDayFromDate(berlin.at(2024, 3, 1, 15)),
+              berlin.at(2024, 3, 2, 15) - seconds(1));
+    EXPECT_EQ(berlin.arithmetic.lastSecondOfDayFromDate(berlin.at(2024, 3, 31)),
+              berlin.at(2024, 4, 1) - seconds(1));
 }
 
 TEST(PeriodArithmeticTest, CountsWholeDaysOverAChangeOfTheClock) {

@@ -27,6 +27,10 @@ INSTANTIATE_TEST_SUITE_P(
         ZoneCase{"America/Sao_Paulo", 2018, 11, 4}, ZoneCase{"America/Sao_Paulo", 2018, 2, 17},
         ZoneCase{"America/Santiago", 2024, 9, 8}, ZoneCase{"America/Santiago", 2024, 4, 6},
         ZoneCase{"America/Havana", 2024, 3, 10}, ZoneCase{"America/Havana", 2024, 11, 3},
+        ZoneCase{"Africa/Cairo", 2024, 4, 26}, ZoneCase{"Africa/Cairo", 2024, 10, 31},
+        ZoneCase{"Africa/Cairo", 2014, 5, 15}, ZoneCase{"Asia/Beirut", 2024, 3, 31},
+        ZoneCase{"Asia/Beirut", 2024, 10, 26}, ZoneCase{"America/Asuncion", 2023, 10, 1},
+        ZoneCase{"Asia/Amman", 2022, 2, 25}, ZoneCase{"Asia/Tehran", 2022, 3, 22},
         ZoneCase{"Australia/Lord_Howe", 2024, 4, 7}, ZoneCase{"Australia/Lord_Howe", 2024, 10, 6}));
 
 TEST_P(WholeDayTest, ADayIsOneDayAndItsMonthIsItsMonth) {
