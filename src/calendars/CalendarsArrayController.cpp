@@ -69,8 +69,13 @@ void CalendarsArrayController::awakeFromNib() {
 }
 
 void CalendarsArrayController::syncCalendars() {
-    isCalendarsSyncing_ = true;
     setIfAbsent(settings_, calendarsKey, QVariantList());
+    // The setting may tell the last run's answer. A store that is closed now has no calendars, but
+    // that says nothing about those of the list, whose rates would be lost.
+    if (!eventKitManager_.eventCalendarsAccessGranted()) {
+        return;
+    }
+    isCalendarsSyncing_ = true;
     const std::vector<CalendarRecord>& before = *content();
     std::vector<CalendarRecord> after = synced(before);
     if (valuesFrom(after) != valuesFrom(before)) {
@@ -115,7 +120,8 @@ void CalendarsArrayController::refresh(CalendarRecord& record, const StoreCalend
     Decimal rate = *record.rate;
     if (boolForKey(settings_, QStringLiteral("isSingleRate"))) {
         setIfAbsent(settings_, hourlyRateKey, QVariant::fromValue(Decimal()));
-        rate = decimalFromValue(settings_.object(hourlyRateKey));
+        const Decimal shared = decimalFromValue(settings_.object(hourlyRateKey));
+        rate = shared.isNaN() ? Decimal() : shared;
     }
     record.titleWithRate = makeTitleWithStringAndRate(calendar.title, rate.toString());
 }

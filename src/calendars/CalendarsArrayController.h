@@ -22,7 +22,8 @@ public:
     void awakeFromNib();
 
     /// Adds calendars that appeared in the store, drops those that vanished (and with them their
-    /// rates), follows renames, and refreshes the displayed titles.
+    /// rates), follows renames, and refreshes the displayed titles. Without access to the store the
+    /// list stays as it is.
     void syncCalendars();
     /// The user granted access: syncs, and asks for a fetch 1.5 seconds later.
     void accessGranted();

@@ -117,6 +117,32 @@ TEST_F(CalendarsArrayControllerTest, WithoutAccessTheStoredListIsKept) {
     EXPECT_EQ(stored().size(), 3U);
 }
 
+TEST_F(CalendarsArrayControllerTest, ACalendarStoreThatIsClosedAtTheNextStartTakesNoRatesAlong) {
+    for (const auto status : {AuthorizationStatus::Restricted, AuthorizationStatus::Denied,
+                              AuthorizationStatus::NotDetermined}) {
+        settings.setObject("calendars",
+                           QVariantList{QVariantMap{{"calendarIdentifier", "w"}, {"rate", 80}}});
+        // The setting still tells the last run's answer.
+        settings.setObject("isCalendarAccessGranted", true);
+        store.status = status;
+        CalendarsArrayController next(settings, manager, formats, timer);
+        next.awakeFromNib();
+        settings.setObject("isDollarsOn", true);
+        next.storeChanged();
+        ASSERT_EQ(stored().size(), 1U);
+        EXPECT_EQ(stored()[0].rate, Decimal::fromInteger(80));
+    }
+}
+
+TEST_F(CalendarsArrayControllerTest, ASharedRateThatIsNoNumberIsShownAsZero) {
+    settings.setObject("isDollarsOn", true);
+    settings.setObject("hourlyRate", "abc");
+    wakeWithAccess();
+    EXPECT_EQ(titles()[0], QStringLiteral("Clients   ($0.00)"));
+    settings.setObject("hourlyRate", "8");
+    EXPECT_EQ(titles()[0], QStringLiteral("Clients   ($8.00)"));
+}
+
 TEST_F(CalendarsArrayControllerTest, TitlesShowTheRateWhileMoneyIsOn) {
     wakeWithAccess();
     settings.setObject("hourlyRate", 75.5);
