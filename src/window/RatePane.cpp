@@ -50,11 +50,12 @@ RatePane::RatePane(CalendarsArrayController& calendars, EventItemViewController&
 
     connect(field_, &QLineEdit::editingFinished, this, &RatePane::takeRate);
     connect(field_, &QLineEdit::textEdited, complaint_, &QLabel::clear);
+    connect(field_, &QLineEdit::textChanged, this, &RatePane::takeTextOfAssistiveProgram);
     connect(&labels_, &EventItemViewController::hourlyRateLabelStringChanged, this,
-            &RatePane::showRate);
-    connect(&calendars_, &ListControllerNotices::selectedObjectsChanged, this, &RatePane::showRate);
+            &RatePane::refresh);
+    connect(&calendars_, &ListControllerNotices::selectedObjectsChanged, this, &RatePane::refresh);
     for (const QString& key : {singleRateKey, hourlyRateKey, QStringLiteral("calendars")}) {
-        observeWhileAlive(*this, settings_, key, [this] { showRate(); });
+        observeWhileAlive(*this, settings_, key, [this] { refresh(); });
     }
     showRate();
 }
@@ -65,6 +66,13 @@ bool RatePane::isSingleRate() const {
     return boolForKey(settings_, singleRateKey);
 }
 
+void RatePane::refresh() {
+    // What is being typed stays, whatever the calendars do meanwhile.
+    if (!field_->isModified()) {
+        showRate();
+    }
+}
+
 void RatePane::showRate() {
     const bool hasSelection = !calendars_.selectedRows().empty();
     field_->setEnabled(isSingleRate() || hasSelection);
@@ -72,22 +80,34 @@ void RatePane::showRate() {
         label_->setText(
             QStringLiteral("%1: %2").arg(localized("Hourly Rate"), labels_.currencySymbol()));
         const Decimal rate = decimalFromValue(settings_.object(hourlyRateKey));
-        field_->setText(formats_.number(rate.isNaN() ? Decimal() : rate));
+        showText(formats_.number(rate.isNaN() ? Decimal() : rate));
     } else if (hasSelection) {
         label_->setText(labels_.hourlyRateLabelString());
-        field_->setText(formats_.number(
+        showText(formats_.number(
             calendars_.arranged(calendars_.selectedRows().front()).rate.value_or(Decimal())));
     } else {
         label_->setText(localized("Select a calendar to set its hourly rate"));
-        field_->clear();
+        showText({});
+    }
+}
+
+void RatePane::showText(const QString& text) {
+    shownText_ = text;
+    field_->setText(text);
+}
+
+void RatePane::takeTextOfAssistiveProgram(const QString& text) {
+    // They put in a whole text, as this pane does, and need not press a key then.
+    if (!field_->isModified() && text != shownText_) {
+        takeRate();
     }
 }
 
 void RatePane::takeRate() {
-    if (!field_->isModified()) {
+    field_->setModified(false);
+    if (field_->text() == shownText_) {
         return;
     }
-    field_->setModified(false);
     const QString text = field_->text().trimmed();
     const Decimal rate = formats_.parsedNumber(text);
     if (rate.isNaN() || rate.isNegative()) {

@@ -21,7 +21,10 @@ public:
     Q_DISABLE_COPY_MOVE(RatePane)
 
 private:
+    void refresh();
     void showRate();
+    void showText(const QString& text);
+    void takeTextOfAssistiveProgram(const QString& text);
     void takeRate();
     [[nodiscard]] bool isSingleRate() const;
 
@@ -32,6 +35,8 @@ private:
     QLabel* label_;
     QLineEdit* field_;
     QLabel* complaint_;
+    /// What the field shows unless somebody has put in something else.
+    QString shownText_;
 };
 
 } // namespace quillet

@@ -68,7 +68,8 @@ void bindLineEdit(QLineEdit& edit, SettingsStore& settings, const QString& key) 
             edit.setText(text);
         }
     });
-    QObject::connect(&edit, &QLineEdit::textEdited, &edit,
+    // Texts that assistive programs put in are not "edited".
+    QObject::connect(&edit, &QLineEdit::textChanged, &edit,
                      [&settings, key](const QString& text) { settings.setObject(key, text); });
 }
 

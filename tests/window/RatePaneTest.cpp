@@ -1,0 +1,67 @@
+#include "WindowFixture.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTableView>
+#include <QTest>
+
+namespace quillet {
+
+namespace {
+
+class RatePaneTest : public test::WindowFixture {
+protected:
+    void SetUp() override {
+        open();
+        field = named<QLineEdit>("Hourly Rate");
+    }
+    /// As a screen reader puts a text in: all at once, without a key.
+    void putIn(const QString& text) const {
+        QAccessible::queryAccessibleInterface(field)->setText(QAccessible::Value, text);
+    }
+    [[nodiscard]] Decimal sharedRate() const {
+        return decimalFromValue(settings.object("hourlyRate"));
+    }
+
+    QLineEdit* field = nullptr;
+};
+
+} // namespace
+
+TEST_F(RatePaneTest, TakesATextThatAnAssistiveProgramPutsIn) {
+    putIn("45.5");
+    EXPECT_EQ(sharedRate(), Decimal::fromDouble(45.5));
+    putIn("ten");
+    EXPECT_EQ(sharedRate(), Decimal::fromDouble(45.5));
+    EXPECT_EQ(field->text(), QStringLiteral("45.5"));
+    EXPECT_TRUE(named<QLabel>("hourlyRateProblem")->text().contains("ten"));
+}
+
+TEST_F(RatePaneTest, AnAssistiveProgramSetsTheRateOfTheSelectedCalendar) {
+    settings.setObject("isSingleRate", false);
+    named<QTableView>("Calendars")->selectRow(1);
+    putIn("70");
+    EXPECT_EQ(calendars.arranged(1).rate, Decimal::fromInteger(70));
+    EXPECT_EQ(calendars.arranged(0).rate, Decimal());
+}
+
+TEST_F(RatePaneTest, WhatIsBeingTypedStaysWhenTheCalendarsChange) {
+    field->selectAll();
+    QTest::keyClicks(field, "12");
+    calendars.setRate(0, Decimal::fromInteger(5));
+    calendars.syncCalendars();
+    EXPECT_EQ(field->text(), QStringLiteral("12"));
+    QTest::keyClicks(field, "0");
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(sharedRate(), Decimal::fromInteger(120));
+}
+
+TEST_F(RatePaneTest, LookingAtARateRoundsNothing) {
+    settings.setObject("hourlyRate", 99.999);
+    EXPECT_EQ(field->text(), QStringLiteral("100"));
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(sharedRate(), Decimal::fromDouble(99.999));
+}
+
+} // namespace quillet
