@@ -27,12 +27,34 @@ namespace {
 constexpr std::array panes{PreferencesPane::General, PreferencesPane::Columns,
                            PreferencesPane::Csv};
 
+using TimeColumns = PreferencesColumnsViewController;
+
+struct HiddenFlag {
+    bool (TimeColumns::*isHidden)() const = nullptr;
+    void (TimeColumns::*changed)() = nullptr;
+};
+
+/// Null for a column that belongs to every time type.
+HiddenFlag hiddenFlagOf(const QString& columnIdentifier) {
+    if (columnIdentifier == u"hours") {
+        return {&TimeColumns::isHoursHidden, &TimeColumns::isHoursHiddenChanged};
+    }
+    if (columnIdentifier == u"minutes") {
+        return {&TimeColumns::isMinutesHidden, &TimeColumns::isMinutesHiddenChanged};
+    }
+    if (columnIdentifier == u"duration") {
+        return {&TimeColumns::isDurationHidden, &TimeColumns::isDurationHiddenChanged};
+    }
+    return {};
+}
+
 } // namespace
 
 PreferencesDialog::PreferencesDialog(SettingsStore& settings,
                                      std::function<void()> resetAllColumnTitles, QWidget* parent)
     : QDialog(parent)
     , settings_(settings)
+    , timeColumns_(settings)
     , pages_(new QTabWidget(this)) {
     pages_->addTab(makeGeneralPage(), localized("General"));
     pages_->addTab(makeColumnsPage(std::move(resetAllColumnTitles)), localized("Columns"));
@@ -93,17 +115,31 @@ QWidget* PreferencesDialog::makeGeneralPage() {
 QWidget* PreferencesDialog::makeColumnsPage(std::function<void()> resetAllColumnTitles) {
     auto* page = new QWidget(this);
     auto* grid = new QGridLayout(page);
-    for (int number = 0; std::cmp_less(number, eventColumns().size()); ++number) {
-        const EventColumn& column = eventColumns()[static_cast<std::size_t>(number)];
+    // The three time columns share a place, as they do in the table.
+    const int places = static_cast<int>(eventColumns().size()) - 2;
+    int timePlace = -1;
+    int nextPlace = 0;
+    for (const EventColumn& column : eventColumns()) {
+        const QString identifier = QString::fromLatin1(column.identifier);
+        const auto [isHidden, changed] = hiddenFlagOf(identifier);
+        const bool isTime = isHidden != nullptr;
+        const int place = isTime && timePlace >= 0 ? timePlace : nextPlace++;
+        timePlace = isTime ? place : timePlace;
         auto* box = new QCheckBox(localized(column.defaultTitle), page);
         bindCheckBox(*box, settings_, QString::fromLatin1(column.visibilityKey));
         auto* title = new QLineEdit(page);
         title->setAccessibleName(localized("Title of “%1”").arg(localized(column.defaultTitle)));
         bindLineEdit(*title, settings_, QString::fromLatin1(column.titleKey));
-        const int half = static_cast<int>(eventColumns().size()) / 2;
-        grid->addWidget(box, number % half, number / half * 2);
-        grid->addWidget(title, number % half, number / half * 2 + 1);
+        grid->addWidget(box, place % (places / 2), place / (places / 2) * 2);
+        grid->addWidget(title, place % (places / 2), place / (places / 2) * 2 + 1);
+        if (isTime) {
+            connect(&timeColumns_, changed, page, [this, box, title, isHidden] {
+                box->setHidden((timeColumns_.*isHidden)());
+                title->setHidden((timeColumns_.*isHidden)());
+            });
+        }
     }
+    timeColumns_.awakeFromNib();
     auto* reset = new QPushButton(localized("&Reset All Titles"), page);
     reset->setObjectName(QStringLiteral("resetAllColumnTitles"));
     connect(reset, &QPushButton::clicked, this, std::move(resetAllColumnTitles));

@@ -2,6 +2,7 @@
 
 #include "app/PreferencesWindowController.h"
 #include "platform/SettingsStore.h"
+#include "results/PreferencesColumnsViewController.h"
 
 #include <QDialog>
 
@@ -33,6 +34,7 @@ private:
     QWidget* makeCheckBox(const QString& text, const char* key);
 
     SettingsStore& settings_;
+    PreferencesColumnsViewController timeColumns_;
     QTabWidget* pages_;
 };
 
