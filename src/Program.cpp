@@ -58,6 +58,7 @@ Program::Program(const ProgramPaths& paths)
           },
           headerTimeColumns_))
     , resultsPane_(new ResultsPane(settings_))
+    , eventItemTableView_({events_, *eventTable_, fields_, pasteboard_})
     , eventItemView_({settings_, *eventTable_, items(menuTimeColumns_), items(headerTimeColumns_),
                       calendars_, gregorian_, formats_})
     , eventResults_({settings_, *resultsPane_, eventsController_, events_, billing_, formats_})
@@ -66,6 +67,9 @@ Program::Program(const ProgramPaths& paths)
     , txtSettings_(settings_)
     , textReport_(settings_, events_)
     , exportCSV_({settings_, *eventTable_, events_, fields_, dialogs_})
+    , exportTSV_({settings_, *eventTable_, events_, fields_, dialogs_})
+    , exportNotes_({settings_, formats_, dialogs_, dialogs_, scriptRunner_, installedPrograms_,
+                    textColor_, [this] { return eventNotes_.notes().text(); }})
     , appDelegate_({settings_, workspace_, taskLauncher_, dialogs_, toolbarItems(exportItems_),
                     paths.releaseNotes})
     , activation_([this] { eventKitManager_.becomeActive(); }) {}
@@ -110,6 +114,7 @@ void Program::wake() {
     calendarGroupsFilter_.awakeFromNib();
     dateInspector_.awakeFromNib();
     arrangeColumns();
+    eventTable_->follow(eventItemTableView_);
     eventResults_.awakeFromNib();
     resultsPane_->follow(eventResults_);
     columnLayouts_.awakeFromNib();

@@ -6,10 +6,14 @@
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"
 #include "backends/programs/DesktopPrograms.h"
+#include "backends/programs/DesktopScripting.h"
 #include "backends/settingsfile/SettingsFile.h"
 #include "calendars/CalendarGroupsArrayController.h"
 #include "calendars/CalendarGroupsController.h"
 #include "eventtable/ColumnLayoutsArrayController.h"
+#include "eventtable/EventItemTableView.h"
+#include "export/ExportNotes.h"
+#include "export/ExportTSV.h"
 #include "export/TXTSettingsArrayController.h"
 #include "export/TextReportRefresh.h"
 #include "results/EventNotesViewController.h"
@@ -62,6 +66,10 @@ private:
     DesktopDialogs dialogs_;
     DesktopWorkspace workspace_;
     ProcessTaskLauncher taskLauncher_;
+    UnavailableScriptRunner scriptRunner_;
+    PackagedPrograms installedPrograms_;
+    PaletteTextColor textColor_;
+    DesktopPasteboard pasteboard_;
     CalendarAccess access_;
     IcsFolderStore folderStore_;
     CombinedEventStore store_;
@@ -84,6 +92,7 @@ private:
     /// Belong to the window once that is built.
     EventTableView* eventTable_;
     ResultsPane* resultsPane_;
+    EventItemTableView eventItemTableView_;
     EventItemViewController eventItemView_;
     EventResultsViewController eventResults_;
     ColumnLayoutsArrayController columnLayouts_;
@@ -91,6 +100,8 @@ private:
     TXTSettingsArrayController txtSettings_;
     TextReportRefresh textReport_;
     ExportCSV exportCSV_;
+    ExportTSV exportTSV_;
+    ExportNotes exportNotes_;
     AppDelegate appDelegate_;
     std::unique_ptr<MainWindow> window_;
     ActivationWatcher activation_;

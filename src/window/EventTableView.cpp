@@ -1,11 +1,13 @@
 #include "window/EventTableView.h"
 
 #include "eventtable/EventColumns.h"
+#include "eventtable/EventItemTableView.h"
 #include "eventtable/EventOrder.h"
 #include "platform/Localized.h"
 #include "window/CellPadding.h"
 #include "window/ColumnsMenu.h"
 
+#include <QAction>
 #include <QHeaderView>
 #include <QMenu>
 #include <QScrollBar>
@@ -107,6 +109,22 @@ void EventTableView::setUpHeader() {
     });
     connect(&header, &QHeaderView::sortIndicatorChanged, this, &EventTableView::sort);
     connect(&header, &QWidget::customContextMenuRequested, this, &EventTableView::showHeaderMenu);
+}
+
+void EventTableView::follow(EventItemTableView& eventItemTableView) {
+    eventItemTableView_ = &eventItemTableView;
+    auto* action = new QAction(localized("&Copy"), this);
+    action->setObjectName(QStringLiteral("copyFromEventItemTableView"));
+    connect(action, &QAction::triggered, this,
+            [this] { eventItemTableView_->copyFromEventItemTableView(); });
+    addAction(action);
+    setContextMenuPolicy(Qt::ActionsContextMenu);
+}
+
+void EventTableView::copy() {
+    if (eventItemTableView_ != nullptr) {
+        eventItemTableView_->copy();
+    }
 }
 
 int EventTableView::columnCount() const {

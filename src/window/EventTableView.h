@@ -13,6 +13,7 @@
 
 namespace quillet {
 
+class EventItemTableView;
 enum class SortDirection;
 struct TimeColumnActions;
 
@@ -32,6 +33,9 @@ public:
     ~EventTableView() override;
     Q_DISABLE_COPY_MOVE(EventTableView)
 
+    /// Copies its rows through this from now on; the context menu offers that.
+    void follow(EventItemTableView& eventItemTableView);
+
     [[nodiscard]] int columnCount() const override;
     [[nodiscard]] TableColumn& columnAt(int position) override;
     [[nodiscard]] int positionOf(const QString& identifier) const override;
@@ -41,6 +45,10 @@ public:
     [[nodiscard]] QByteArray columnState() const;
     /// False when the state is not one of columnState().
     bool restoreColumnState(const QByteArray& state);
+
+public Q_SLOTS:
+    /// The standard copy command.
+    void copy();
 
 private:
     class HeaderColumn;
@@ -55,6 +63,7 @@ private:
     SettingsStore& settings_;
     MakeSorter makeSorter_;
     TimeColumnActions& timeColumnActions_;
+    EventItemTableView* eventItemTableView_ = nullptr;
     std::vector<std::unique_ptr<HeaderColumn>> columns_;
     bool isShowingSelection_ = false;
     int scrollPosition_ = 0;

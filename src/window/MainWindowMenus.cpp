@@ -2,6 +2,7 @@
 
 #include "platform/Localized.h"
 #include "window/ColumnsMenu.h"
+#include "window/CopyCommand.h"
 #include "window/EventTableView.h"
 #include "window/SettingsBinding.h"
 #include "window/SymbolIcon.h"
@@ -100,6 +101,8 @@ void MainWindow::makeFileMenu() {
 
 void MainWindow::makeEditMenu() {
     QMenu& menu = *menuBar()->addMenu(localized("&Edit"));
+    addAction(menu, localized("&Copy"), "copy", QKeySequence::Copy,
+              [this] { copyWhatHasTheFocus(with_.eventTable); });
     addAction(menu, localized("Select &All Events"), "selectAll", QKeySequence::SelectAll,
               [this] { with_.eventTable.selectAll(); });
     menu.addSeparator();

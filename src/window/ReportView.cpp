@@ -88,8 +88,8 @@ void ReportView::updateScrollBars() {
     verticalScrollBar()->setPageStep(linesOnScreen());
     verticalScrollBar()->setRange(
         0, static_cast<int>(std::max<qsizetype>(0, lines_.count() - linesOnScreen())));
-    const double width = static_cast<double>(lines_.longestLength()) *
-                         QFontMetricsF(font()).horizontalAdvance(u'0');
+    const double width =
+        static_cast<double>(lines_.longestLength()) * QFontMetricsF(font()).horizontalAdvance(u'0');
     horizontalScrollBar()->setSingleStep(fontMetrics().averageCharWidth() * 4);
     horizontalScrollBar()->setPageStep(viewport()->width());
     horizontalScrollBar()->setRange(

@@ -33,7 +33,7 @@ public:
     void selectAll();
     [[nodiscard]] QString selectedText() const;
     /// Puts the selected text on the clipboard; nothing selected changes nothing there.
-    void copy() const;
+    Q_INVOKABLE void copy() const;
 
     /// In the coordinates of the viewport.
     [[nodiscard]] QRect characterRect(qsizetype position) const;
@@ -41,6 +41,7 @@ public:
     void scrollTo(qsizetype position);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

@@ -17,6 +17,18 @@ constexpr int dragScrollMilliseconds = 50;
 
 } // namespace
 
+bool ReportView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->matches(QKeySequence::Copy) || key->matches(QKeySequence::SelectAll)) {
+            // Meant for this text, not for what the window's menus do with the same keys.
+            event->accept();
+            return true;
+        }
+    }
+    return QAbstractScrollArea::event(event);
+}
+
 void ReportView::resizeEvent(QResizeEvent* /*event*/) {
     updateScrollBars();
 }

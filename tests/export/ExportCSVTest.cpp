@@ -1,76 +1,18 @@
 #include "export/ExportCSV.h"
 
-#include "backends/icu/IcuCalendarArithmetic.h"
-#include "backends/icu/IcuLocaleFormats.h"
-#include "support/EventSamples.h"
-#include "support/EventTableFake.h"
-#include "support/ExpectedLog.h"
-#include "support/MemorySettings.h"
+#include "DelimitedFixture.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 namespace quillet {
 
 namespace {
 
-using test::utc;
-
-class ExportCSVTest : public testing::Test {
+class ExportCSVTest : public test::DelimitedFixture {
 protected:
-    ExportCSVTest() {
-        for (const char* key :
-             {"isCSVHeader", "isCSVQuotesForTitle", "isCSVQuotesForNote", "isCSVQuotesForLocation",
-              "isCSVQuotesForCalendar", "isSingleRate", "isDollarsOn"}) {
-            settings.setObject(key, true);
-        }
-        settings.setObject("hourlyRate", 100);
-        settings.setObject("timeTypeSelection", 1);
-        settings.setObject("filterStartDate", QVariant::fromValue(utc(2024, 3, 1)));
-        settings.setObject("filterEndDate", QVariant::fromValue(utc(2024, 3, 31, 23, 59, 59)));
-        useLocale("en_US");
-    }
-    void useLocale(const char* locale) {
-        const QString name = QString::fromLatin1(locale);
-        exporter.reset();
-        formats = std::make_unique<IcuLocaleFormats>(LocaleNames{name, name, name}, "UTC");
-        fields = std::make_unique<EventFields>(source, *formats, calendar, calendar);
-        exporter = std::make_unique<ExportCSV>(
-            ExportCSV::Collaborators{settings, table, list, *fields, panel});
-    }
-    void show(std::initializer_list<const char*> identifiers) {
-        for (const auto& column : table.columns) {
-            column->hidden = true;
-        }
-        for (const char* identifier : identifiers) {
-            table.column(identifier).hidden = false;
-        }
-    }
-    void addEvent(const char* title, const char* notes = nullptr) {
-        EventDetails details;
-        details.calendar = test::calendarNamed("work");
-        details.title = QString::fromUtf8(title);
-        details.notes = QString::fromUtf8(notes);
-        details.eventIdentifier = "uid-1";
-        events.push_back({utc(2024, 3, 4, 9), utc(2024, 3, 4, 10, 30), Instant(),
-                          std::make_shared<const EventDetails>(std::move(details))});
-        list.setContent(events);
-    }
-    std::string text() { return exporter->text().toStdString(); }
-
-    test::MemorySettings settings;
-    test::FakeTable table = test::eventTable();
-    test::FakeSavePanel panel;
-    ListController<Event> list;
-    std::vector<Event> events;
-    IcuCalendarArithmetic calendar{"en_US", "UTC", CalendarSystem::Gregorian};
-    BillingSettingsSource source{settings, calendar};
-    std::unique_ptr<IcuLocaleFormats> formats;
-    std::unique_ptr<EventFields> fields;
-    std::unique_ptr<ExportCSV> exporter;
+    [[nodiscard]] ExportCSV exporter() { return ExportCSV(collaborators()); }
+    [[nodiscard]] std::string text() { return exporter().text().toStdString(); }
 };
 
 } // namespace
@@ -167,12 +109,12 @@ TEST_F(ExportCSVTest, TheSelectedEventsAloneCanBeExported) {
     list.setSelectedRows({1});
     settings.setObject("totalsTabViewSelection", 1);
     EXPECT_EQ(text(), "\"Title\"\n\"b\"\n");
-    exporter->saveAsCSV();
+    exporter().saveAsCSV();
     EXPECT_EQ(panel.requests.back().message, QStringLiteral("Selected Events"));
 }
 
 TEST_F(ExportCSVTest, ThePanelSuggestsThePeriod) {
-    exporter->saveAsCSV();
+    exporter().saveAsCSV();
     ASSERT_EQ(panel.requests.size(), 1U);
     EXPECT_EQ(panel.requests[0].suggestedName, QStringLiteral("March 1 2024 - March 31 2024"));
     EXPECT_EQ(panel.requests[0].fileType, QStringLiteral("csv"));
@@ -185,12 +127,10 @@ TEST_F(ExportCSVTest, SavesTheTextAsItWasWhenThePanelOpened) {
     addEvent("Ünï");
     show({"title"});
     settings.setObject("isCSVHeader", false);
-    exporter->saveAsCSV();
+    exporter().saveAsCSV();
     list.setContent(std::vector<Event>());
     panel.pending(folder.filePath("a.csv"));
-    QFile file(folder.filePath("a.csv"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), QByteArray("\"Ünï\"\n"));
+    EXPECT_EQ(bytesOf(folder.filePath("a.csv")), QByteArray("\"Ünï\"\n"));
     EXPECT_EQ(panel.stopCodes, std::vector<int>{1});
 }
 
@@ -200,24 +140,105 @@ TEST_F(ExportCSVTest, SavesUtf16WithAByteOrderMarkWhenAskedTo) {
     show({"title"});
     settings.setObject("isCSVHeader", false);
     settings.setObject("fileEncodingPopUpIndex", 1);
-    exporter->saveAsCSV();
+    exporter().saveAsCSV();
     panel.pending(folder.filePath("a.csv"));
-    QFile file(folder.filePath("a.csv"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(file.readAll(), QByteArray("\xFF\xFE\"\0a\0\"\0\n\0", 10));
+    EXPECT_EQ(bytesOf(folder.filePath("a.csv")), QByteArray("\xFF\xFE\"\0a\0\"\0\n\0", 10));
 }
 
 TEST_F(ExportCSVTest, AFailedWriteIsLoggedAndLeavesNothing) {
     const QTemporaryDir folder;
-    exporter->saveAsCSV();
+    exporter().saveAsCSV();
     const test::ExpectedLog log("CSV file write issue");
     panel.pending(folder.filePath("missing/a.csv"));
     EXPECT_TRUE(QDir(folder.path()).isEmpty());
     EXPECT_EQ(panel.stopCodes, std::vector<int>{1});
 }
 
+TEST_F(ExportCSVTest, ThePanelSuggestsTheLongDatesWithoutSlashesAndCommas) {
+    useLocale("ja_JP");
+    exporter().saveAsCSV();
+    EXPECT_EQ(panel.requests[0].suggestedName, QString::fromUtf8("2024年3月1日 - 2024年3月31日"));
+    settings.remove("filterEndDate");
+    exporter().saveAsCSV();
+    EXPECT_EQ(panel.requests[1].suggestedName, QString::fromUtf8("2024年3月1日 - "));
+}
+
+TEST_F(ExportCSVTest, TheEncodingIsTheOneOfTheMomentWhenThePanelOpened) {
+    const QTemporaryDir folder;
+    settings.setObject("isCSVHeader", false);
+    addEvent("a");
+    show({"title"});
+    exporter().saveAsCSV();
+    settings.setObject("fileEncodingPopUpIndex", 1);
+    panel.pending(folder.filePath("a.csv"));
+    EXPECT_EQ(bytesOf(folder.filePath("a.csv")), QByteArray("\"a\"\n"));
+}
+
+TEST_F(ExportCSVTest, ATextBeyondTheBasicPlaneKeepsItsPairsInUtf16) {
+    const QTemporaryDir folder;
+    settings.setObject("isCSVHeader", false);
+    settings.setObject("isCSVQuotesForTitle", false);
+    settings.setObject("fileEncodingPopUpIndex", 1);
+    addEvent("😀");
+    show({"title"});
+    exporter().saveAsCSV();
+    panel.pending(folder.filePath("a.csv"));
+    EXPECT_EQ(bytesOf(folder.filePath("a.csv")), QByteArray("\xFF\xFE\x3D\xD8\x00\xDE\n\0", 8));
+}
+
+TEST_F(ExportCSVTest, AFailedWriteLeavesTheOldFileAsItWas) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("a.csv");
+    {
+        QFile old(path);
+        ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+        ASSERT_EQ(old.write("old"), 3);
+    }
+    // A folder stands where the file should be written: nobody can write it, the superuser neither.
+    ASSERT_TRUE(QDir(folder.path()).mkdir("taken.csv"));
+    addEvent("new");
+    exporter().saveAsCSV();
+    {
+        const test::ExpectedLog log("CSV file write issue");
+        panel.pending(folder.filePath("taken.csv"));
+    }
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              (QStringList{"a.csv", "taken.csv"}));
+    EXPECT_EQ(bytesOf(path), QByteArray("old"));
+}
+
+TEST_F(ExportCSVTest, AColumnOfAnUnknownIdentifierHasATitleAndNoField) {
+    table.columns.push_back(std::make_unique<test::FakeColumn>("colour", "Colour", 10));
+    addEvent("T");
+    show({"title", "colour"});
+    EXPECT_EQ(text(), "\"Title\",\"Colour\"\n\"T\"\n");
+}
+
+TEST_F(ExportCSVTest, TimeOutsideThePeriodIsWrittenWithoutItsMinusSign) {
+    addEvent("T");
+    show({"hours", "minutes", "cost"});
+    settings.setObject("isCSVHeader", false);
+    settings.setObject("filterStartDate", QVariant::fromValue(test::utc(2024, 3, 5)));
+    EXPECT_EQ(text(), "\"13.5\",\"$1,350.00\",\"810\"\n");
+}
+
+TEST_F(ExportCSVTest, OnlyTheFourFreeTextsAreEscapedAndFreedOfLineFeeds) {
+    EventDetails details;
+    details.calendar = test::calendarNamed("wo\n\"rk\"");
+    details.title = "ti\n\"tle\"";
+    details.notes = "no\n\"tes\"";
+    details.location = "pla\n\"ce\"";
+    details.url = "https://a/\n\"b\"";
+    addEvent(std::move(details));
+    show({"title", "notes", "url", "location", "calendar"});
+    settings.setObject("isCSVHeader", false);
+    settings.setObject("isCSVRemoveReturns", true);
+    EXPECT_EQ(text(), "\"ti \"\"tle\"\"\",\"no \"\"tes\"\"\",\"https://a/\n\"b\"\","
+                      "\"pla \"\"ce\"\"\",\"wo \"\"rk\"\"\"\n");
+}
+
 TEST_F(ExportCSVTest, CancellingWritesNothing) {
-    exporter->saveAsCSV();
+    exporter().saveAsCSV();
     panel.pending(std::nullopt);
     EXPECT_TRUE(panel.stopCodes.empty());
 }

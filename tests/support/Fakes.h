@@ -3,17 +3,22 @@
 #include "platform/Alert.h"
 #include "platform/Clock.h"
 #include "platform/EventStore.h"
+#include "platform/InstalledPrograms.h"
 #include "platform/InterfaceItems.h"
 #include "platform/ObserverList.h"
 #include "platform/OneShotTimer.h"
+#include "platform/Pasteboard.h"
 #include "platform/SavePanel.h"
+#include "platform/ScriptRunner.h"
 #include "platform/SerialQueue.h"
 #include "platform/Sheet.h"
 #include "platform/SoftwareUpdater.h"
 #include "platform/TableColumn.h"
 #include "platform/TaskLauncher.h"
+#include "platform/TextColorSource.h"
 #include "platform/Workspace.h"
 
+#include <QHash>
 #include <QPair>
 
 #include <deque>
@@ -140,6 +145,48 @@ public:
     void checkForUpdates() override { ++checks; }
 
     int checks = 0;
+};
+
+/// Keeps the scripts, and answers each as the test wishes.
+class FakeScriptRunner final : public ScriptRunner {
+public:
+    [[nodiscard]] bool isAvailable() const override { return true; }
+    std::expected<void, QString> run(const QString& source) override {
+        sources.append(source);
+        return answer;
+    }
+
+    QStringList sources;
+    std::expected<void, QString> answer;
+};
+
+class FakeInstalledPrograms final : public InstalledPrograms {
+public:
+    [[nodiscard]] QString shortVersion(const QString& path) const override {
+        return versions.value(path);
+    }
+
+    /// By path.
+    QHash<QString, QString> versions;
+};
+
+class FakeTextColor final : public TextColorSource {
+public:
+    [[nodiscard]] ColorFractions textColor() const override { return color; }
+
+    ColorFractions color;
+};
+
+class FakePasteboard final : public Pasteboard {
+public:
+    void clear() override { calls.append(QStringLiteral("clear")); }
+    void writeText(const QString& text) override {
+        calls.append(QStringLiteral("write"));
+        content = text;
+    }
+
+    QStringList calls;
+    QString content = QStringLiteral("something of another program");
 };
 
 class FakeToolbarItem final : public ToolbarItem {

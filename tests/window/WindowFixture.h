@@ -3,6 +3,7 @@
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"
 #include "eventtable/ColumnLayout.h"
+#include "eventtable/EventItemTableView.h"
 #include "eventtable/EventOrder.h"
 #include "support/EventSamples.h"
 #include "support/Fakes.h"
@@ -57,6 +58,7 @@ protected:
         calendars.awakeFromNib();
         inspector.awakeFromNib();
         applyPlacements(defaultColumnPlacements(), *table);
+        table->follow(copying);
         results.awakeFromNib();
         resultsPane->follow(results);
         itemView.awakeFromNib();
@@ -136,6 +138,8 @@ protected:
     ResultsPane* resultsPane = new ResultsPane(settings);
     EventResultsViewController results{
         {settings, *resultsPane, eventsController, events, billing, formats}};
+    FakePasteboard pasteboard;
+    EventItemTableView copying{{events, *table, fields, pasteboard}};
     ExportCSV exportCSV{{settings, *table, events, fields, panel}};
     AppDelegate delegate{{settings, workspace, launcher, updater, {&exportItems.csv}, {}}};
     std::unique_ptr<MainWindow> window;

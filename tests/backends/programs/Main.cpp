@@ -1,0 +1,13 @@
+#include "support/ExpectedLog.h"
+
+#include <QGuiApplication>
+
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleTest(&argc, argv);
+    const QGuiApplication application(argc, argv);
+    quillet::test::failOnUnexpectedLog();
+    return RUN_ALL_TESTS();
+}
