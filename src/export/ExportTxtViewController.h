@@ -1,7 +1,6 @@
 #pragma once
 
 #include "eventdata/CalendarRecord.h"
-#include "eventdata/EventAggregates.h"
 #include "eventdata/EventFields.h"
 #include "export/ExportProgress.h"
 #include "export/TextReport.h"
@@ -15,6 +14,7 @@
 #include <QString>
 
 #include <optional>
+#include <vector>
 
 namespace quillet {
 
@@ -79,8 +79,11 @@ Q_SIGNALS:
     void eventsAttributedStringChanged();
 
 private:
-    [[nodiscard]] MinutesSummary allMinutes() const;
-    [[nodiscard]] MinutesSummary selectedMinutes() const;
+    [[nodiscard]] TextReportContent content(ReportScope scope) const;
+    [[nodiscard]] std::vector<ReportColumn> visibleColumns() const;
+    [[nodiscard]] ReportHeaderSwitches headerSwitches() const;
+    [[nodiscard]] bool isOn(const char* key) const;
+    [[nodiscard]] QString text(const char* key) const;
 
     Collaborators with_;
     TextReportRefresh refresh_;

@@ -28,7 +28,10 @@ enum class CellWrapping { Off, On };
 class ReportCellLines {
 public:
     /// The text must stay where it is. A missing text is an empty one. The length is at least 2.
-    ReportCellLines(QStringView text, qsizetype length, CellWrapping wrapping);
+    ReportCellLines(QStringView text, qsizetype length, CellWrapping wrapping)
+        : text_(text)
+        , length_(length)
+        , wrapping_(wrapping) {}
 
     struct Line {
         QStringView text;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "eventdata/BillingSettings.h"
+#include "eventdata/EventTotals.h"
 #include "export/ExportProgress.h"
 #include "export/ExportedEvents.h"
 #include "export/ReportCell.h"
@@ -76,6 +77,9 @@ struct TextReportContent {
 /// ends. Nothing when the progress function cancelled it.
 [[nodiscard]] std::optional<StyledText> textReport(const TextReportContent& content,
                                                    const ExportProgress& progress = {});
+
+/// The figures of the report's events.
+[[nodiscard]] EventTotals reportTotals(const TextReportContent& content);
 
 /// The days that the report's events cover: those of the period, or, of selected events, those from
 /// the first start to the last end. 0 without a period or without events.

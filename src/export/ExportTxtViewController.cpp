@@ -1,0 +1,177 @@
+#include "export/ExportTxtViewController.h"
+
+#include "eventdata/Duration.h"
+#include "eventtable/EventColumns.h"
+#include "export/TextReportHeader.h"
+#include "export/TextReportTable.h"
+
+#include <algorithm>
+
+namespace quillet {
+
+namespace {
+
+/// The settings key of a column's title; null for an unknown column.
+const char* titleKeyOf(const QString& identifier) {
+    const auto columns = eventColumns();
+    const auto found = std::ranges::find_if(columns, [&](const EventColumn& column) {
+        return identifier == QLatin1StringView(column.identifier);
+    });
+    return found == columns.end() ? nullptr : found->titleKey;
+}
+
+QString duration(const std::optional<Decimal>& minutes) {
+    return makeDurationFromMinutes(minutes.value_or(Decimal()).toInteger());
+}
+
+} // namespace
+
+ExportTxtViewController::ExportTxtViewController(const Collaborators& collaborators)
+    : with_(collaborators)
+    , refresh_(collaborators.settings, collaborators.eventsArrayController) {
+    connect(&refresh_, &TextReportRefresh::eventsAttributedStringChanged, this,
+            &ExportTxtViewController::eventsAttributedStringChanged);
+}
+
+bool ExportTxtViewController::isOn(const char* key) const {
+    return boolForKey(with_.settings, QString::fromLatin1(key));
+}
+
+QString ExportTxtViewController::text(const char* key) const {
+    return stringForKey(with_.settings, QString::fromLatin1(key));
+}
+
+std::vector<ReportColumn> ExportTxtViewController::visibleColumns() const {
+    std::vector<ReportColumn> columns;
+    for (int position = 0; position < with_.eventItemTableView.columnCount(); ++position) {
+        const TableColumn& column = with_.eventItemTableView.columnAt(position);
+        if (!column.isHidden()) {
+            const char* const titleKey = titleKeyOf(column.identifier());
+            columns.push_back({.identifier = column.identifier(),
+                               .title = titleKey == nullptr ? QString() : text(titleKey),
+                               .length = reportColumnLength(column.widthPoints())});
+        }
+    }
+    return columns;
+}
+
+ReportHeaderSwitches ExportTxtViewController::headerSwitches() const {
+    return {.hasCalendarTitles = isOn("isTXTCalTitle"),
+            .hasBeginDate = isOn("isTXTBeginDate"),
+            .hasEndDate = isOn("isTXTEndDate"),
+            .hasTotalHours = isOn("isTXTTotalHours"),
+            .hasMinimum = isOn("isTXTMin"),
+            .hasMaximum = isOn("isTXTMax"),
+            .hasAverage = isOn("isTXTAverage"),
+            .hasTotalDays = isOn("isTXTTotalDays"),
+            .hasTotalEvents = isOn("isTXTTotalEvents"),
+            .hasMoney = isOn("isTXTDollars")};
+}
+
+TextReportContent ExportTxtViewController::content(ReportScope scope) const {
+    const SettingsStore& settings = with_.settings;
+    const auto& list = with_.eventsArrayController;
+    TextReportContent content;
+    content.columns = visibleColumns();
+    content.scope = scope;
+    content.events = scope == ReportScope::SelectedEvents ? ExportedEvents::selected(list)
+                                                          : ExportedEvents::arranged(list);
+    content.billing = with_.fields.billing();
+    content.wrapping = isOn("isTXTWrapping") ? CellWrapping::On : CellWrapping::Off;
+    content.hasSummaryRow = isOn("isTXTSummaryRow");
+    content.header = headerSwitches();
+    content.timeType = integerForKey(settings, QStringLiteral("timeTypeSelection"));
+    content.headerText = text("txtHeader");
+    content.footerText = text("txtFooter");
+    const auto& calendars = with_.calendarsArrayController;
+    for (std::size_t row = 0; row < calendars.arrangedCount(); ++row) {
+        if (calendars.arranged(row).isSelected) {
+            content.calendarTitles << calendars.arranged(row).title;
+        }
+    }
+    content.calendarColumnTitle = text("calendarColumnTitle");
+    content.periodStart = dateForKey(settings, QStringLiteral("filterStartDate"));
+    content.periodEnd = dateForKey(settings, QStringLiteral("filterEndDate"));
+    if (const QVariant rate = settings.object(QStringLiteral("hourlyRate")); rate.isValid()) {
+        content.hourlyRate = decimalFromValue(rate);
+    }
+    content.formats = &with_.fields.formats();
+    content.calendar = &with_.fields.gregorian();
+    return content;
+}
+
+TextReportContent ExportTxtViewController::content() const {
+    return content(areOnlySelectedEventsExported(with_.settings) ? ReportScope::SelectedEvents
+                                                                 : ReportScope::AllEvents);
+}
+
+StyledText ExportTxtViewController::eventsAttributedString() const {
+    return textReport(content()).value_or(StyledText());
+}
+
+std::optional<StyledText>
+ExportTxtViewController::eventsAttributedString(const ExportProgress& progress) const {
+    return textReport(content(), progress);
+}
+
+QString ExportTxtViewController::headerString() const {
+    const TextReportContent report = content();
+    return reportHeader(report, reportTotals(report));
+}
+
+QString ExportTxtViewController::tableViewString() const {
+    return reportTable(content()).value_or(QString());
+}
+
+QString ExportTxtViewController::summaryRow() const {
+    const TextReportContent report = content();
+    return reportSummaryRow(report, reportTotals(report));
+}
+
+QString ExportTxtViewController::makeCellWithString(const QString& text, qsizetype columnLength,
+                                                    std::size_t iteration) const {
+    return reportCell(text, columnLength, iteration,
+                      isOn("isTXTWrapping") ? CellWrapping::On : CellWrapping::Off);
+}
+
+QString ExportTxtViewController::totalDuration() const {
+    return duration(reportTotals(content(ReportScope::AllEvents)).sumMinutes());
+}
+
+QString ExportTxtViewController::totalSelectedDuration() const {
+    return duration(reportTotals(content(ReportScope::SelectedEvents)).sumMinutes());
+}
+
+QString ExportTxtViewController::minDuration() const {
+    return duration(reportTotals(content(ReportScope::AllEvents)).minMinutes());
+}
+
+QString ExportTxtViewController::minSelectedDuration() const {
+    return duration(reportTotals(content(ReportScope::SelectedEvents)).minMinutes());
+}
+
+QString ExportTxtViewController::maxDuration() const {
+    return duration(reportTotals(content(ReportScope::AllEvents)).maxMinutes());
+}
+
+QString ExportTxtViewController::maxSelectedDuration() const {
+    return duration(reportTotals(content(ReportScope::SelectedEvents)).maxMinutes());
+}
+
+QString ExportTxtViewController::avgDuration() const {
+    return duration(reportTotals(content(ReportScope::AllEvents)).avgMinutes());
+}
+
+QString ExportTxtViewController::avgSelectedDuration() const {
+    return duration(reportTotals(content(ReportScope::SelectedEvents)).avgMinutes());
+}
+
+int ExportTxtViewController::totalDays() const {
+    return reportedDays(content(ReportScope::AllEvents));
+}
+
+int ExportTxtViewController::totalSelectedDays() const {
+    return reportedDays(content(ReportScope::SelectedEvents));
+}
+
+} // namespace quillet
