@@ -4,6 +4,7 @@
 #include "eventtable/EventOrder.h"
 #include "platform/Localized.h"
 
+#include <QHeaderView>
 #include <QSettings>
 #include <QTimer>
 
@@ -65,7 +66,7 @@ Program::Program(const ProgramPaths& paths)
     , columnLayouts_({settings_, *eventTable_, dialogs_})
     , eventNotes_({settings_, events_, formats_})
     , txtSettings_(settings_)
-    , textReport_(settings_, events_)
+    , exportTxtView_({settings_, *eventTable_, events_, calendars_, fields_})
     , exportCSV_({settings_, *eventTable_, events_, fields_, dialogs_})
     , exportTSV_({settings_, *eventTable_, events_, fields_, dialogs_})
     , exportNotes_({settings_, formats_, dialogs_, dialogs_, scriptRunner_, installedPrograms_,
@@ -120,7 +121,7 @@ void Program::wake() {
     columnLayouts_.awakeFromNib();
     eventNotes_.awakeFromNib();
     txtSettings_.awakeFromNib();
-    textReport_.awakeFromNib();
+    exportTxtView_.awakeFromNib();
     eventItemView_.awakeFromNib();
     eventsController_.awakeFromNib();
 }
@@ -138,6 +139,16 @@ void Program::connectNotices() {
     storeObservation_ = store_.observeChanges([this] { window_->refreshProblems(); });
     settingsProblemObservation_ = settings_.observeWriteProblem(
         [this](const QString& problem) { window_->showMessage(problem); });
+    const QHeaderView* const header = eventTable_->horizontalHeader();
+    QObject::connect(header, &QHeaderView::sectionMoved, &exportTxtView_,
+                     &ExportTxtViewController::tableViewChanged);
+    QObject::connect(header, &QHeaderView::sectionResized, &exportTxtView_,
+                     [this](int, int oldWidth, int newWidth) {
+                         // To and from 0 a column is hidden or shown, which is announced apart.
+                         if (oldWidth > 0 && newWidth > 0) {
+                             exportTxtView_.tableViewChanged();
+                         }
+                     });
 }
 
 CalendarActions Program::calendarActions() {

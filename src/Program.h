@@ -14,8 +14,8 @@
 #include "eventtable/EventItemTableView.h"
 #include "export/ExportNotes.h"
 #include "export/ExportTSV.h"
+#include "export/ExportTxtViewController.h"
 #include "export/TXTSettingsArrayController.h"
-#include "export/TextReportRefresh.h"
 #include "results/EventNotesViewController.h"
 #include "window/ActivationWatcher.h"
 #include "window/DesktopDialogs.h"
@@ -98,7 +98,7 @@ private:
     ColumnLayoutsArrayController columnLayouts_;
     EventNotesViewController eventNotes_;
     TXTSettingsArrayController txtSettings_;
-    TextReportRefresh textReport_;
+    ExportTxtViewController exportTxtView_;
     ExportCSV exportCSV_;
     ExportTSV exportTSV_;
     ExportNotes exportNotes_;
