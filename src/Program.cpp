@@ -67,10 +67,17 @@ Program::Program(const ProgramPaths& paths)
     , eventNotes_({settings_, events_, formats_})
     , txtSettings_(settings_)
     , exportTxtView_({settings_, *eventTable_, events_, calendars_, fields_})
-    , exportCSV_({settings_, *eventTable_, events_, fields_, dialogs_})
-    , exportTSV_({settings_, *eventTable_, events_, fields_, dialogs_})
+    , exportCSV_({settings_, *eventTable_, events_, fields_, dialogs_, dialogs_})
+    , exportTSV_({settings_, *eventTable_, events_, fields_, dialogs_, dialogs_})
+    , exportTXT_({settings_, formats_, dialogs_, dialogs_, scriptRunner_, installedPrograms_,
+                  textColor_, dialogs_,
+                  [this](const ExportProgress& progress) {
+                      return exportTxtView_.eventsAttributedString(progress).transform(
+                          &StyledText::text);
+                  }})
     , exportNotes_({settings_, formats_, dialogs_, dialogs_, scriptRunner_, installedPrograms_,
-                    textColor_, [this] { return eventNotes_.notes().text(); }})
+                    textColor_, dialogs_,
+                    [this](const ExportProgress&) { return eventNotes_.notes().text(); }})
     , appDelegate_({settings_, workspace_, taskLauncher_, dialogs_, toolbarItems(exportItems_),
                     paths.releaseNotes})
     , activation_([this] { eventKitManager_.becomeActive(); }) {}

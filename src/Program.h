@@ -14,6 +14,7 @@
 #include "eventtable/EventItemTableView.h"
 #include "export/ExportNotes.h"
 #include "export/ExportTSV.h"
+#include "export/ExportTXT.h"
 #include "export/ExportTxtViewController.h"
 #include "export/TXTSettingsArrayController.h"
 #include "results/EventNotesViewController.h"
@@ -101,6 +102,7 @@ private:
     ExportTxtViewController exportTxtView_;
     ExportCSV exportCSV_;
     ExportTSV exportTSV_;
+    ExportTXT exportTXT_;
     ExportNotes exportNotes_;
     AppDelegate appDelegate_;
     std::unique_ptr<MainWindow> window_;

@@ -3,6 +3,7 @@
 #include "export/DelimitedText.h"
 #include "export/ExportNames.h"
 #include "export/ExportSelection.h"
+#include "export/ExportedEvents.h"
 #include "platform/Localized.h"
 
 namespace quillet {
@@ -36,34 +37,36 @@ DelimitedSettings storedSettings(const SettingsStore& settings) {
 
 } // namespace
 
-QString DelimitedExport::text() const {
+std::optional<QString> DelimitedExport::text(const ExportProgress& progress) const {
     const DelimitedSettings settings = storedSettings(with_.settings);
     DelimitedText text(visibleColumns(with_.eventListTableView), settings, with_.fields,
                        format_.separator);
     if (settings.hasHeader) {
         text.appendHeader();
     }
-    const ListController<Event>& list = with_.eventsArrayController;
-    if (areOnlySelectedEventsExported(with_.settings)) {
-        for (const std::size_t row : list.selectedRows()) {
-            text.appendEvent(list.arranged(row));
-        }
-    } else {
-        for (std::size_t row = 0; row < list.arrangedCount(); ++row) {
-            text.appendEvent(list.arranged(row));
+    const auto events = ExportedEvents::chosen(with_.eventsArrayController, with_.settings);
+    ExportSteps steps(progress, events.size());
+    for (std::size_t position = 0; position < events.size(); ++position) {
+        text.appendEvent(events[position]);
+        if (!steps.goOn()) {
+            return std::nullopt;
         }
     }
     return text.text();
 }
 
 void DelimitedExport::save() {
-    saveThroughPanel(
-        with_.savePanel, with_.settings, format_.file,
-        {.message = areOnlySelectedEventsExported(with_.settings) ? localized("Selected Events")
-                                                                  : localized("All Events"),
-         .nameFieldLabel = localized("Export as:"),
-         .suggestedName = periodName(with_.settings, with_.fields.formats(), formatFileNameDate)},
-        text());
+    const ExportFileTexts texts{
+        .message = areOnlySelectedEventsExported(with_.settings) ? localized("Selected Events")
+                                                                 : localized("All Events"),
+        .nameFieldLabel = localized("Export as:"),
+        .suggestedName = periodName(with_.settings, with_.fields.formats(), formatFileNameDate)};
+    auto run = with_.progress.begin(localized("Preparing the events…"));
+    std::optional<QString> built = text(shownProgress(*run));
+    run.reset();
+    if (built) {
+        saveThroughPanel(with_.savePanel, with_.settings, format_.file, texts, *std::move(built));
+    }
 }
 
 } // namespace quillet

@@ -2,10 +2,16 @@
 
 #include "eventdata/EventFields.h"
 #include "export/ExportFile.h"
+#include "export/ExportProgress.h"
 #include "platform/ListController.h"
+#include "platform/ProgressPresenter.h"
 #include "platform/SavePanel.h"
 #include "platform/SettingsStore.h"
 #include "platform/TableColumn.h"
+
+#include <QString>
+
+#include <optional>
 
 namespace quillet {
 
@@ -25,17 +31,20 @@ public:
         ListController<Event>& eventsArrayController;
         const EventFields& fields;
         SavePanel& savePanel;
+        ProgressPresenter& progress;
     };
 
-    /// The text as it would be saved now.
-    [[nodiscard]] QString text() const;
+    /// The text as it would be saved now; nothing when the progress function cancelled it.
+    [[nodiscard]] std::optional<QString> text(const ExportProgress& progress) const;
+    [[nodiscard]] QString text() const { return *text({}); }
 
 protected:
     DelimitedExport(const Collaborators& collaborators, DelimitedFormat format)
         : with_(collaborators)
         , format_(std::move(format)) {}
 
-    /// A write that fails is only logged and leaves no file.
+    /// A text that takes long shows its progress; when it is cancelled, no place is asked for. A
+    /// write that fails is only logged and leaves no file.
     void save();
 
 private:

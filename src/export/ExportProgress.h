@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/ProgressPresenter.h"
+
 #include <cstddef>
 #include <functional>
 
@@ -11,6 +13,13 @@ enum class ExportAnswer { GoOn, Cancel };
 /// says whether to go on. An empty function lets every export finish. It may run the event loop:
 /// what is being exported was taken before and does not change.
 using ExportProgress = std::function<ExportAnswer(std::size_t finished, std::size_t all)>;
+
+/// Asks the user, who is shown the progress. The run must outlive the function.
+[[nodiscard]] inline ExportProgress shownProgress(ProgressPresenter::Run& run) {
+    return [&run](std::size_t finished, std::size_t all) {
+        return run.goOn(finished, all) ? ExportAnswer::GoOn : ExportAnswer::Cancel;
+    };
+}
 
 /// Counts the events of one export and asks about it after every thousand.
 class ExportSteps {

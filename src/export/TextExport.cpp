@@ -20,14 +20,23 @@ QString TextExport::titledPeriod(FormatDate formatDate) const {
     return kind_.title.isEmpty() ? period : QStringLiteral("%1 - %2").arg(kind_.title, period);
 }
 
+std::optional<QString> TextExport::takenText() const {
+    const auto run = with_.progress.begin(localized("Preparing the text…"));
+    return with_.text(shownProgress(*run));
+}
+
 void TextExport::saveAsTxt() {
+    std::optional<QString> text = takenText();
+    if (!text) {
+        return;
+    }
     saveThroughPanel(
         with_.savePanel, with_.settings,
         {.fileType = QStringLiteral("txt"), .writeIssue = kind_.writeIssue, .modalCode = {}},
         {.message = {},
          .nameFieldLabel = kind_.nameFieldLabel,
          .suggestedName = titledPeriod(formatFileNameDate)},
-        with_.text());
+        *std::move(text));
 }
 
 bool TextExport::isScriptingOfStylesBroken() const {
@@ -55,9 +64,12 @@ void TextExport::showBrowserNotice() {
 }
 
 void TextExport::sendToMail() {
-    const QString text = with_.text();
+    const std::optional<QString> text = takenText();
+    if (!text) {
+        return;
+    }
     const QString subject = titledPeriod(formatEmailNameDate);
-    const QString body = removeQuotesFromString(text.isEmpty() ? QStringLiteral(" ") : text);
+    const QString body = removeQuotesFromString(text->isEmpty() ? QStringLiteral(" ") : *text);
     const bool isBroken = isScriptingOfStylesBroken();
     if (isBroken) {
         showBrowserNotice();

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "export/ExportProgress.h"
 #include "platform/Alert.h"
 #include "platform/InstalledPrograms.h"
 #include "platform/LocaleFormats.h"
+#include "platform/ProgressPresenter.h"
 #include "platform/SavePanel.h"
 #include "platform/ScriptRunner.h"
 #include "platform/SettingsStore.h"
@@ -11,6 +13,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 namespace quillet {
 
@@ -41,15 +44,17 @@ public:
         ScriptRunner& scriptRunner;
         const InstalledPrograms& installedPrograms;
         const TextColorSource& textColor;
-        /// The text as its pane shows it now, or would.
-        std::function<QString()> text;
+        ProgressPresenter& progress;
+        /// The text as its pane shows it now, or would; nothing when it was cancelled.
+        std::function<std::optional<QString>(const ExportProgress& progress)> text;
     };
 
     TextExport(Collaborators collaborators, TextExportKind kind)
         : with_(std::move(collaborators))
         , kind_(std::move(kind)) {}
 
-    /// Takes the text, asks for a place and writes it there. A failed write is only logged.
+    /// Takes the text, asks for a place and writes it there. A failed write is only logged. Here
+    /// and below a text that takes long shows its progress; when it is cancelled, that was all.
     void saveAsTxt();
     /// Takes the text, a blank where it is empty, and runs the script that makes the message; what
     /// becomes of that is not told.
@@ -58,6 +63,7 @@ public:
 private:
     using FormatDate = QString (*)(const LocaleFormats&, Instant);
 
+    [[nodiscard]] std::optional<QString> takenText() const;
     [[nodiscard]] QString titledPeriod(FormatDate formatDate) const;
     [[nodiscard]] bool isScriptingOfStylesBroken() const;
     void showBrowserNotice();

@@ -1,6 +1,7 @@
 #include "window/DesktopDialogs.h"
 
 #include "platform/Localized.h"
+#include "window/ShownRun.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
@@ -77,6 +78,10 @@ void DesktopDialogs::checkForUpdates() {
     if (box.clickedButton() == open) {
         QDesktopServices::openUrl(QUrl(QStringLiteral("appstream:org.quillet.Quillet")));
     }
+}
+
+std::unique_ptr<ProgressPresenter::Run> DesktopDialogs::begin(const QString& label) {
+    return std::make_unique<ShownRun>(label, window_);
 }
 
 bool DesktopDialogs::askForCalendarAccess() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Alert.h"
+#include "platform/ProgressPresenter.h"
 #include "platform/SavePanel.h"
 #include "platform/SoftwareUpdater.h"
 
@@ -11,7 +12,10 @@ namespace quillet {
 
 /// The dialogs that belong to the main window. They may be made before it: until it is set, they
 /// stand for themselves.
-class DesktopDialogs final : public AlertPresenter, public SavePanel, public SoftwareUpdater {
+class DesktopDialogs final : public AlertPresenter,
+                             public SavePanel,
+                             public SoftwareUpdater,
+                             public ProgressPresenter {
 public:
     void setWindow(QWidget* window) { window_ = window; }
 
@@ -20,6 +24,8 @@ public:
     void stopModal(int code) override;
     /// New versions come with the system's own updates; says so and opens its software centre.
     void checkForUpdates() override;
+
+    [[nodiscard]] std::unique_ptr<Run> begin(const QString& label) override;
 
     /// Asks in the program's own words whether it may read the calendars.
     [[nodiscard]] bool askForCalendarAccess();

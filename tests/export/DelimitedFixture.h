@@ -60,7 +60,7 @@ protected:
         addEvent(std::move(details));
     }
     [[nodiscard]] DelimitedExport::Collaborators collaborators() {
-        return {settings, table, list, *fields, panel};
+        return {settings, table, list, *fields, panel, progress};
     }
     [[nodiscard]] static QByteArray bytesOf(const QString& path) {
         QFile file(path);
@@ -71,6 +71,7 @@ protected:
     MemorySettings settings;
     FakeTable table = eventTable();
     FakeSavePanel panel;
+    FakeProgress progress;
     ListController<Event> list;
     EventList events;
     IcuCalendarArithmetic calendar{"en_US", "UTC", CalendarSystem::Gregorian};

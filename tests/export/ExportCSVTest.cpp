@@ -237,6 +237,46 @@ TEST_F(ExportCSVTest, OnlyTheFourFreeTextsAreEscapedAndFreedOfLineFeeds) {
                       "\"pla \"\"ce\"\"\",\"wo \"\"rk\"\"\"\n");
 }
 
+TEST_F(ExportCSVTest, AsksAfterEveryThousandEventsWhetherToGoOn) {
+    addEvent("T");
+    list.setContent(EventList(2500, events[0]));
+    exporter().saveAsCSV();
+    EXPECT_EQ(progress.steps,
+              (std::vector<std::pair<std::size_t, std::size_t>>{{1000, 2500}, {2000, 2500}}));
+    EXPECT_EQ(progress.labels, (QStringList{"Preparing the events…"}));
+    EXPECT_EQ(progress.openRuns, 0) << "the progress is gone when the panel opens";
+    EXPECT_EQ(panel.requests.size(), 1U);
+}
+
+TEST_F(ExportCSVTest, ACancelledExportAsksForNoPlace) {
+    addEvent("T");
+    list.setContent(EventList(2500, events[0]));
+    progress.answer = [] { return false; };
+    exporter().saveAsCSV();
+    EXPECT_EQ(progress.steps.size(), 1U);
+    EXPECT_EQ(progress.openRuns, 0);
+    EXPECT_TRUE(panel.requests.empty());
+    EXPECT_TRUE(panel.stopCodes.empty());
+}
+
+TEST_F(ExportCSVTest, WhatChangesWhileALongExportRunsDoesNotShowInIt) {
+    addEvent("T");
+    list.setContent(EventList(1500, events[0]));
+    settings.setObject("isCSVHeader", false);
+    show({"title", "cost"});
+    const QTemporaryDir folder;
+    progress.answer = [this] {
+        settings.setObject("hourlyRate", 1);
+        settings.setObject("isCSVQuotesForTitle", false);
+        table.column("title").hidden = true;
+        list.setContent(EventList());
+        return true;
+    };
+    exporter().saveAsCSV();
+    panel.pending(folder.filePath("a.csv"));
+    EXPECT_EQ(bytesOf(folder.filePath("a.csv")), QByteArray("\"T\",\"$150.00\"\n").repeated(1500));
+}
+
 TEST_F(ExportCSVTest, CancellingWritesNothing) {
     exporter().saveAsCSV();
     panel.pending(std::nullopt);

@@ -190,6 +190,25 @@ TEST_F(ExportTXTTest, AnEmptyReportIsMailedAsABlank) {
     EXPECT_NE(script().find("set content to (\" \")\n"), std::string::npos);
 }
 
+TEST_F(ExportTXTTest, ALongReportShowsItsProgressUntilItIsThere) {
+    exporter().saveAsTxt();
+    exporter().sendToMail();
+    EXPECT_EQ(progress.labels, (QStringList{"Preparing the text…", "Preparing the text…"}));
+    EXPECT_EQ(progress.steps,
+              (std::vector<std::pair<std::size_t, std::size_t>>{{1000, 1500}, {1000, 1500}}));
+    EXPECT_EQ(progress.openRuns, 0);
+}
+
+TEST_F(ExportTXTTest, ACancelledReportIsNeitherSavedNorMailed) {
+    progress.answer = [] { return false; };
+    installBrowser("5.0");
+    exporter().saveAsTxt();
+    exporter().sendToMail();
+    EXPECT_TRUE(panel.requests.empty());
+    EXPECT_TRUE(runner.sources.isEmpty());
+    EXPECT_TRUE(alerts.shown.empty());
+}
+
 TEST_F(ExportTXTTest, AScriptThatFailsIsNotTold) {
     runner.answer = std::unexpected(QStringLiteral("no mail program"));
     exporter().sendToMail();

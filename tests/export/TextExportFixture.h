@@ -33,7 +33,9 @@ protected:
         settings.setObject("filterEndDate", QVariant::fromValue(utc(2015, 1, 31, 23, 59, 59)));
     }
     [[nodiscard]] TextExport::Collaborators collaborators() {
-        return {settings, formats, panel, alerts, runner, programs, color, [this] { return text; }};
+        return {settings, formats,  panel,
+                alerts,   runner,   programs,
+                color,    progress, [this](const ExportProgress& asked) { return taken(asked); }};
     }
     void installBrowser(const char* version) {
         programs.versions.insert("/Applications/Safari.app", QString::fromLatin1(version));
@@ -45,6 +47,11 @@ protected:
         return file.readAll();
     }
 
+    /// Asks once, as a report of 1,500 events does.
+    [[nodiscard]] std::optional<QString> taken(const ExportProgress& asked) const {
+        return asked(1000, 1500) == ExportAnswer::GoOn ? std::optional(text) : std::nullopt;
+    }
+
     MemorySettings settings;
     IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "UTC"};
     FakeSavePanel panel;
@@ -52,6 +59,7 @@ protected:
     FakeScriptRunner runner;
     FakeInstalledPrograms programs;
     FakeTextColor color;
+    FakeProgress progress;
     QString text = QStringLiteral("Report");
 };
 

@@ -8,6 +8,7 @@
 #include "platform/ObserverList.h"
 #include "platform/OneShotTimer.h"
 #include "platform/Pasteboard.h"
+#include "platform/ProgressPresenter.h"
 #include "platform/SavePanel.h"
 #include "platform/ScriptRunner.h"
 #include "platform/SerialQueue.h"
@@ -175,6 +176,38 @@ public:
     [[nodiscard]] ColorFractions textColor() const override { return color; }
 
     ColorFractions color;
+};
+
+/// Remembers what it was told, and lets the test act and cancel in between.
+class FakeProgress final : public ProgressPresenter {
+public:
+    [[nodiscard]] std::unique_ptr<Run> begin(const QString& label) override {
+        labels.append(label);
+        ++openRuns;
+        return std::make_unique<FakeRun>(*this);
+    }
+
+    QStringList labels;
+    int openRuns = 0;
+    std::vector<std::pair<std::size_t, std::size_t>> steps;
+    /// Called at every step: whether to go on.
+    std::function<bool()> answer = [] { return true; };
+
+private:
+    class FakeRun final : public Run {
+    public:
+        explicit FakeRun(FakeProgress& owner)
+            : owner_(owner) {}
+        ~FakeRun() override { --owner_.openRuns; }
+        Q_DISABLE_COPY_MOVE(FakeRun)
+        [[nodiscard]] bool goOn(std::size_t finished, std::size_t all) override {
+            owner_.steps.emplace_back(finished, all);
+            return owner_.answer();
+        }
+
+    private:
+        FakeProgress& owner_;
+    };
 };
 
 class FakePasteboard final : public Pasteboard {

@@ -103,6 +103,7 @@ protected:
     FakeTimer timer;
     FakeClock clock{utc(2024, 3, 6, 12)};
     FakeSavePanel panel;
+    FakeProgress progress;
     FakeWorkspace workspace;
     FakeTaskLauncher launcher;
     FakeUpdater updater;
@@ -140,7 +141,7 @@ protected:
         {settings, *resultsPane, eventsController, events, billing, formats}};
     FakePasteboard pasteboard;
     EventItemTableView copying{{events, *table, fields, pasteboard}};
-    ExportCSV exportCSV{{settings, *table, events, fields, panel}};
+    ExportCSV exportCSV{{settings, *table, events, fields, panel, progress}};
     AppDelegate delegate{{settings, workspace, launcher, updater, {&exportItems.csv}, {}}};
     std::unique_ptr<MainWindow> window;
 };
