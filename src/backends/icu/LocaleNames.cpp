@@ -52,7 +52,8 @@ LocaleNames localeNames(const EnvironmentReader& environment) {
         }
         return QStringLiteral("en_US");
     };
-    return {category("LC_TIME"), category("LC_NUMERIC"), category("LC_MONETARY")};
+    return {category("LC_TIME"), category("LC_NUMERIC"), category("LC_MONETARY"),
+            category("LC_COLLATE")};
 }
 
 LocaleNames localeNamesOfProcess() {

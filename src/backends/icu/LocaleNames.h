@@ -13,6 +13,8 @@ struct LocaleNames {
     /// The decimal separator.
     QString numeric;
     QString monetary;
+    /// The order of texts.
+    QString collation = QStringLiteral("en_US");
 
     friend bool operator==(const LocaleNames&, const LocaleNames&) = default;
 };

@@ -101,9 +101,11 @@ TEST(IcuLocaleFormatsTest, WhatIsWrittenReadsBackAsTheRoundedMagnitudeInEveryLoc
 TEST(LocaleNamesTest, TheMostSpecificVariableDecides) {
     std::map<std::string, QString> environment{{"LANG", "de_DE.UTF-8"}, {"LC_TIME", "fr_FR@euro"}};
     const auto reader = [&](const char* name) { return environment[name]; };
-    EXPECT_EQ(localeNames(reader), (LocaleNames{"fr_FR", "de_DE", "de_DE"}));
+    EXPECT_EQ(localeNames(reader), (LocaleNames{"fr_FR", "de_DE", "de_DE", "de_DE"}));
+    environment["LC_COLLATE"] = "sv_SE.UTF-8";
+    EXPECT_EQ(localeNames(reader).collation, QStringLiteral("sv_SE"));
     environment["LC_ALL"] = "ja_JP.UTF-8";
-    EXPECT_EQ(localeNames(reader), (LocaleNames{"ja_JP", "ja_JP", "ja_JP"}));
+    EXPECT_EQ(localeNames(reader), (LocaleNames{"ja_JP", "ja_JP", "ja_JP", "ja_JP"}));
 }
 
 TEST(LocaleNamesTest, NeutralAndUnknownLocalesCountAsAmerican) {
