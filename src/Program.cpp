@@ -1,7 +1,6 @@
 #include "Program.h"
 
 #include "eventtable/ColumnLayout.h"
-#include "eventtable/EventOrder.h"
 #include "platform/Localized.h"
 
 #include <QHeaderView>
@@ -51,11 +50,13 @@ Program::Program(const ProgramPaths& paths)
     , eventsController_({eventKitManager_, settings_, billing_, gregorian_, events_, calendars_,
                          *fetchQueue_, *mainQueue_})
     , dateInspector_({settings_, clock_, gregorian_, currentCalendar_, formats_})
+    , collator_(locales_.collation)
+    , eventOrder_(fields_, currentCalendar_, collator_)
     , eventModel_(events_, fields_, settings_)
     , eventTable_(new EventTableView(
           eventModel_, events_, settings_,
           [this](const QString& column, SortDirection direction) {
-              return eventSorter(column, direction, fields_, currentCalendar_);
+              return eventOrder_.sorter(column, direction);
           },
           headerTimeColumns_))
     , resultsPane_(new ResultsPane(settings_))

@@ -4,6 +4,7 @@
 #include "backends/combined/CombinedEventStore.h"
 #include "backends/icsfolder/IcsFolderStore.h"
 #include "backends/icu/IcuCalendarArithmetic.h"
+#include "backends/icu/IcuCollator.h"
 #include "backends/icu/IcuLocaleFormats.h"
 #include "backends/programs/DesktopPrograms.h"
 #include "backends/programs/DesktopScripting.h"
@@ -12,6 +13,7 @@
 #include "calendars/CalendarGroupsController.h"
 #include "eventtable/ColumnLayoutsArrayController.h"
 #include "eventtable/EventItemTableView.h"
+#include "eventtable/EventOrder.h"
 #include "export/ExportNotes.h"
 #include "export/ExportTSV.h"
 #include "export/ExportTXT.h"
@@ -89,6 +91,8 @@ private:
     TimeColumnActions menuTimeColumns_;
     TimeColumnActions headerTimeColumns_;
     ExportItems exportItems_;
+    IcuCollator collator_;
+    EventOrder eventOrder_;
     EventTableModel eventModel_;
     /// Belong to the window once that is built.
     EventTableView* eventTable_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "backends/icu/IcuCalendarArithmetic.h"
+#include "backends/icu/IcuCollator.h"
 #include "backends/icu/IcuLocaleFormats.h"
 #include "eventtable/ColumnLayout.h"
 #include "eventtable/EventItemTableView.h"
@@ -121,11 +122,13 @@ protected:
     TimeColumnActions menuTimeColumns;
     TimeColumnActions headerTimeColumns;
     ExportItems exportItems;
+    IcuCollator collator{"en_US"};
+    EventOrder order{fields, gregorian, collator};
     EventTableModel model{events, fields, settings};
     EventTableView* table = new EventTableView(
         model, events, settings,
         [this](const QString& column, SortDirection direction) {
-            return eventSorter(column, direction, fields, gregorian);
+            return order.sorter(column, direction);
         },
         headerTimeColumns);
     EventItemViewController itemView{
