@@ -39,8 +39,9 @@ QFrame* line() {
 MainWindow::MainWindow(Collaborators collaborators, QWidget* parent)
     : QMainWindow(parent)
     , with_(std::move(collaborators))
-    , preferences_(
-          with_.settings, [this] { with_.eventItemViewController.resetAllColumnTitles(); }, *this) {
+    , preferences_({with_.settings, with_.formats,
+                    [this] { with_.eventItemViewController.resetAllColumnTitles(); }},
+                   *this) {
     setWindowTitle(QStringLiteral("Quillet"));
     setAcceptDrops(true);
     makeStepActions();

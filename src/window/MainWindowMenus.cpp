@@ -139,6 +139,10 @@ void MainWindow::makeViewMenu() {
         fillColumnsMenu(columns, with_.settings, with_.timeColumnActions);
     });
     fillColumnsMenu(columns, with_.settings, with_.timeColumnActions);
+    addAction(menu, localized("Column &Preferences…"), "showWindowWithColumnsPreferencesView", {},
+              [this] { preferences_.controller().showWindowWithColumnsPreferencesView(); });
+    addAction(menu, localized("Te&xt Report Preferences…"), "showWindowWithTextPreferencesView", {},
+              [this] { preferences_.controller().showWindowWithTextPreferencesView(); });
 }
 
 void MainWindow::makePeriodMenu() {

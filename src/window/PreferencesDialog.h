@@ -1,26 +1,35 @@
 #pragma once
 
 #include "app/PreferencesWindowController.h"
+#include "platform/LocaleFormats.h"
 #include "platform/SettingsStore.h"
-#include "results/PreferencesColumnsViewController.h"
 
 #include <QDialog>
+
+#include <functional>
 
 class QTabWidget;
 
 namespace quillet {
+
+/// What the panes of the preferences work on.
+struct PreferencesCollaborators {
+    SettingsStore& settings;
+    const LocaleFormats& formats;
+    std::function<void()> resetAllColumnTitles;
+};
 
 /// The settings that have no place in the main window. Every control takes effect at once.
 class PreferencesDialog : public QDialog {
     Q_OBJECT
 
 public:
-    PreferencesDialog(SettingsStore& settings, std::function<void()> resetAllColumnTitles,
-                      QWidget* parent = nullptr);
+    explicit PreferencesDialog(const PreferencesCollaborators& collaborators,
+                               QWidget* parent = nullptr);
     ~PreferencesDialog() override;
     Q_DISABLE_COPY_MOVE(PreferencesDialog)
 
-    /// Brings a pane to the front; nothing for one that this window does not have.
+    /// Brings a pane to the front.
     void showPane(PreferencesPane pane);
 
 Q_SIGNALS:
@@ -28,13 +37,8 @@ Q_SIGNALS:
     void paneChosen(quillet::PreferencesPane pane);
 
 private:
-    [[nodiscard]] QWidget* makeGeneralPage();
-    [[nodiscard]] QWidget* makeColumnsPage(std::function<void()> resetAllColumnTitles);
-    [[nodiscard]] QWidget* makeCsvPage();
-    QWidget* makeCheckBox(const QString& text, const char* key);
+    void addPane(PreferencesPane pane, const char* title, QWidget* page);
 
-    SettingsStore& settings_;
-    PreferencesColumnsViewController timeColumns_;
     QTabWidget* pages_;
 };
 

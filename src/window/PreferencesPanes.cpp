@@ -1,23 +1,19 @@
 #include "window/PreferencesPanes.h"
 
-#include "window/PreferencesDialog.h"
-
 #include <utility>
 
 namespace quillet {
 
-PreferencesPanes::PreferencesPanes(SettingsStore& settings,
-                                   std::function<void()> resetAllColumnTitles, QWidget& parent)
-    : settings_(settings)
-    , resetAllColumnTitles_(std::move(resetAllColumnTitles))
+PreferencesPanes::PreferencesPanes(PreferencesCollaborators collaborators, QWidget& parent)
+    : with_(std::move(collaborators))
     , parent_(parent)
-    , controller_(settings, *this) {}
+    , controller_(with_.settings, *this) {}
 
 PreferencesPanes::~PreferencesPanes() = default;
 
 void PreferencesPanes::showWindow() {
     if (dialog_ == nullptr) {
-        dialog_ = std::make_unique<PreferencesDialog>(settings_, resetAllColumnTitles_, &parent_);
+        dialog_ = std::make_unique<PreferencesDialog>(with_, &parent_);
         dialog_->setWindowTitle(title_);
         dialog_->showPane(pane_);
         QObject::connect(dialog_.get(), &PreferencesDialog::paneChosen, dialog_.get(),

@@ -1,22 +1,18 @@
 #pragma once
 
 #include "app/PreferencesWindowController.h"
+#include "window/PreferencesDialog.h"
 
 #include <QWidget>
 
-#include <functional>
 #include <memory>
 
 namespace quillet {
 
-class PreferencesDialog;
-
 /// The preferences window, which is built when it is first shown.
 class PreferencesPanes final : public PreferencesWindow {
 public:
-    PreferencesPanes(SettingsStore& settings, std::function<void()> resetAllColumnTitles,
-                     QWidget& parent);
-
+    PreferencesPanes(PreferencesCollaborators collaborators, QWidget& parent);
     ~PreferencesPanes() override;
     PreferencesPanes(const PreferencesPanes&) = delete;
     PreferencesPanes& operator=(const PreferencesPanes&) = delete;
@@ -32,8 +28,7 @@ public:
     void setSelectedToolbarItem(const QString& identifier) override;
 
 private:
-    SettingsStore& settings_;
-    std::function<void()> resetAllColumnTitles_;
+    PreferencesCollaborators with_;
     QWidget& parent_;
     std::unique_ptr<PreferencesDialog> dialog_;
     QString title_;

@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QSignalBlocker>
 #include <QSpinBox>
 
@@ -71,6 +72,16 @@ void bindLineEdit(QLineEdit& edit, SettingsStore& settings, const QString& key) 
     // Texts that assistive programs put in are not "edited".
     QObject::connect(&edit, &QLineEdit::textChanged, &edit,
                      [&settings, key](const QString& text) { settings.setObject(key, text); });
+}
+
+void bindTextEdit(QPlainTextEdit& edit, SettingsStore& settings, const QString& key) {
+    showValue(edit, settings, key, [&edit, &settings, key] {
+        if (const QString text = stringForKey(settings, key); text != edit.toPlainText()) {
+            edit.setPlainText(text);
+        }
+    });
+    QObject::connect(&edit, &QPlainTextEdit::textChanged, &edit,
+                     [&edit, &settings, key] { settings.setObject(key, edit.toPlainText()); });
 }
 
 void bindComboBox(QComboBox& box, SettingsStore& settings, const QString& key) {

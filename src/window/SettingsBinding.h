@@ -8,6 +8,7 @@ class QAction;
 class QCheckBox;
 class QComboBox;
 class QLineEdit;
+class QPlainTextEdit;
 class QSpinBox;
 
 namespace quillet {
@@ -18,6 +19,7 @@ void bindCheckBox(QCheckBox& box, SettingsStore& settings, const QString& key);
 void bindAction(QAction& action, SettingsStore& settings, const QString& key);
 void bindSpinBox(QSpinBox& box, SettingsStore& settings, const QString& key);
 void bindLineEdit(QLineEdit& edit, SettingsStore& settings, const QString& key);
+void bindTextEdit(QPlainTextEdit& edit, SettingsStore& settings, const QString& key);
 /// The combo box's item data are the values, whole numbers; one that no item has shows nothing.
 void bindComboBox(QComboBox& box, SettingsStore& settings, const QString& key);
 

@@ -1,5 +1,6 @@
 #include "window/PreferencesPanes.h"
 
+#include "backends/icu/IcuLocaleFormats.h"
 #include "support/MemorySettings.h"
 
 #include <QAccessible>
@@ -7,6 +8,7 @@
 #include <QDialog>
 #include <QLineEdit>
 #include <QTabWidget>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -35,7 +37,8 @@ protected:
 
     test::MemorySettings settings;
     QWidget parent;
-    PreferencesPanes panes{settings, [] {}, parent};
+    const IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "UTC"};
+    PreferencesPanes panes{{settings, formats, [] {}}, parent};
 };
 
 } // namespace
@@ -55,7 +58,7 @@ TEST_F(PreferencesPanesTest, TheWindowIsBuiltWhenFirstShownOnTheGeneralPane) {
 TEST_F(PreferencesPanesTest, ChoosingATabTitlesTheWindowAndStoresThePane) {
     panes.controller().awakeFromNib();
     panes.showWindow();
-    tabs().setCurrentIndex(2);
+    tabs().setCurrentIndex(3);
     EXPECT_EQ(dialog()->windowTitle(), "CSV/TSV");
     EXPECT_EQ(settings.object(paneKey), QVariant(3));
     tabs().setCurrentIndex(1);
@@ -69,6 +72,53 @@ TEST_F(PreferencesPanesTest, TheWindowCanBeOpenedOnTheColumns) {
     EXPECT_EQ(shownTab(), "Columns");
     EXPECT_EQ(dialog()->windowTitle(), "Columns");
     EXPECT_EQ(settings.object(paneKey), QVariant(1));
+}
+
+TEST_F(PreferencesPanesTest, TheWindowCanBeOpenedOnTheTextReport) {
+    panes.controller().awakeFromNib();
+    panes.controller().showWindowWithTextPreferencesView();
+    EXPECT_EQ(shownTab(), "Text");
+    EXPECT_EQ(dialog()->windowTitle(), "Text");
+    EXPECT_EQ(settings.object(paneKey), QVariant(2));
+}
+
+TEST_F(PreferencesPanesTest, ThereAreFivePanesOfWhichOneIsShown) {
+    panes.controller().awakeFromNib();
+    panes.showWindow();
+    QStringList titles;
+    QStringList identifiers;
+    for (int tab = 0; tab < tabs().count(); ++tab) {
+        titles << tabs().tabText(tab);
+        identifiers << tabs().widget(tab)->objectName();
+    }
+    EXPECT_EQ(titles, (QStringList{"General", "Columns", "Text", "CSV/TSV", "Reminders"}));
+    EXPECT_EQ(identifiers, (QStringList{"general", "columns", "text", "csv", "reminders"}));
+    for (const int tab : {1, 2, 3, 4, 0}) {
+        tabs().setCurrentIndex(tab);
+        for (int other = 0; other < tabs().count(); ++other) {
+            EXPECT_EQ(tabs().widget(other)->isVisible(), other == tab);
+        }
+    }
+}
+
+TEST_F(PreferencesPanesTest, TheShownPaneIsResizedWithTheWindow) {
+    panes.showWindow();
+    QApplication::processEvents();
+    const QSize before = tabs().currentWidget()->size();
+    dialog()->resize(dialog()->size() + QSize(120, 90));
+    QApplication::processEvents();
+    EXPECT_EQ(tabs().currentWidget()->size(), before + QSize(120, 90));
+}
+
+TEST_F(PreferencesPanesTest, ReturnEndsTheTypingAndEscapeClosesTheWindow) {
+    panes.controller().showWindowWithColumnsPreferencesView();
+    auto* field = parent.findChild<QLineEdit*>("titleColumnTitle");
+    QTest::keyClicks(field, "Task");
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_TRUE(dialog()->isVisible());
+    EXPECT_EQ(settings.object("titleColumnTitle"), QVariant("Task"));
+    QTest::keyClick(field, Qt::Key_Escape);
+    EXPECT_FALSE(dialog()->isVisible());
 }
 
 TEST_F(PreferencesPanesTest, OfTheTimeColumnsThatOfTheTimeTypeCanBeSet) {

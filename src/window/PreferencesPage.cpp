@@ -1,0 +1,64 @@
+#include "window/PreferencesPage.h"
+
+#include "platform/Localized.h"
+#include "window/SettingsBinding.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+
+namespace quillet {
+
+PreferencesPage::PreferencesPage(SettingsStore& settings, QWidget* parent)
+    : QScrollArea(parent)
+    , settings_(settings) {
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
+    setWidget(new QWidget(this));
+    // The tab's own ground shows through.
+    viewport()->setAutoFillBackground(false);
+    widget()->setAutoFillBackground(false);
+}
+
+QSize PreferencesPage::sizeHint() const {
+    return widget()->sizeHint();
+}
+
+QCheckBox* PreferencesPage::makeCheckBox(const PreferencesSwitch& each) {
+    auto* box = new QCheckBox(localized(each.label), &body());
+    if (each.toolTip != nullptr) {
+        box->setToolTip(localized(each.toolTip));
+    }
+    bindCheckBox(*box, settings_, QString::fromLatin1(each.key));
+    return box;
+}
+
+QWidget* PreferencesPage::makeGroup(const QString& title,
+                                    std::span<const PreferencesSwitch> switches, int columns) {
+    auto* group = new QGroupBox(title, &body());
+    auto* grid = new QGridLayout(group);
+    const int rows = (static_cast<int>(switches.size()) + columns - 1) / columns;
+    int place = 0;
+    for (const PreferencesSwitch& each : switches) {
+        grid->addWidget(makeCheckBox(each), place % rows, place / rows);
+        ++place;
+    }
+    grid->setRowStretch(rows, 1);
+    return group;
+}
+
+QLabel* PreferencesPage::makeNote(const QString& text) {
+    auto* note = new QLabel(text, &body());
+    note->setTextFormat(Qt::PlainText);
+    note->setWordWrap(true);
+    return note;
+}
+
+QString spokenLabel(QString label) {
+    label.remove(u'&');
+    return label.endsWith(u':') ? label.chopped(1) : label;
+}
+
+} // namespace quillet

@@ -1,0 +1,74 @@
+#include "window/PreferencesTextPage.h"
+
+#include "platform/Localized.h"
+#include "window/SettingsBinding.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace quillet {
+
+namespace {
+
+/// In the order of the report's lines, so that the boxes look like the report.
+constexpr std::array<PreferencesSwitch, 10> headerSwitches{{
+    {"isTXTCalTitle", "&Calendars", "The titles of the ticked calendars"},
+    {"isTXTBeginDate", "&Beginning date", "The first day of the period"},
+    {"isTXTEndDate", "E&nding date", "The last day of the period"},
+    {"isTXTTotalHours", "&Total time", "The sum in hours, minutes or as a duration"},
+    {"isTXTMin", "S&hortest event", nullptr},
+    {"isTXTMax", "&Longest event", nullptr},
+    {"isTXTAverage", "&Average time", "The mean of an event"},
+    {"isTXTTotalDays", "&Days", "On how many days there are events"},
+    {"isTXTTotalEvents", "N&umber of events", nullptr},
+    {"isTXTDollars", "&Money", "Rate and cost, while money is shown"},
+}};
+
+constexpr std::array<PreferencesSwitch, 2> tableSwitches{{
+    {"isTXTWrapping", "&Wrap long texts",
+     "Texts that are longer than their column go on in the next line; when off, they are cut"},
+    {"isTXTSummaryRow", "&Summary row", "A last row with the sums of the columns"},
+}};
+
+} // namespace
+
+PreferencesTextPage::PreferencesTextPage(SettingsStore& settings, QWidget* parent)
+    : PreferencesPage(settings, parent) {
+    auto* layout = new QVBoxLayout(&body());
+    layout->addWidget(makeFreeText(localized("Te&xt above the report:"),
+                                   localized("Stands before everything else in the report"),
+                                   QStringLiteral("txtHeader")));
+    layout->addWidget(makeGroup(localized("Above the Table"), headerSwitches, 2));
+    layout->addWidget(makeGroup(localized("Table"), tableSwitches, 2));
+    layout->addWidget(makeFreeText(localized("Text below the re&port:"),
+                                   localized("Stands behind everything else in the report"),
+                                   QStringLiteral("txtFooter")));
+    layout->addStretch();
+}
+
+QWidget* PreferencesTextPage::makeFreeText(const QString& label, const QString& toolTip,
+                                           const QString& key) {
+    auto* area = new QWidget(&body());
+    auto* layout = new QVBoxLayout(area);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(fontMetrics().height() / 4);
+    auto* text = new QPlainTextEdit(area);
+    text->setTabChangesFocus(true);
+    text->setAccessibleName(spokenLabel(label));
+    text->setToolTip(toolTip);
+    constexpr int shownLines = 3;
+    text->setFixedHeight(text->fontMetrics().lineSpacing() * shownLines +
+                         text->fontMetrics().height());
+    bindTextEdit(*text, settings(), key);
+    auto* caption = new QLabel(label, area);
+    caption->setBuddy(text);
+    layout->addWidget(caption);
+    layout->addWidget(text);
+    return area;
+}
+
+} // namespace quillet
