@@ -71,16 +71,19 @@ public:
         if (name == filterName_) {
             return;
         }
+        const bool isFirstFilter = filterName_.isEmpty();
         filterName_ = name;
         filter_ = name.isEmpty() ? Filter() : std::move(filter);
-        rearrangeKeepingSelection();
+        // What was all arranged is in order already: leaving records out keeps it.
+        rearrangeKeepingSelection(isFirstFilter ? Rearrangement::Narrowing
+                                                : Rearrangement::Complete);
     }
     [[nodiscard]] const QString& filterName() const { return filterName_; }
 
     /// Sorts; an empty sorter restores the content's own order.
     void setSorter(Sorter sorter) {
         sorter_ = std::move(sorter);
-        rearrangeKeepingSelection();
+        rearrangeKeepingSelection(Rearrangement::Complete);
     }
     /// Sorts, stably on the content's own order.
     void setOrder(Order order) {
@@ -123,6 +126,12 @@ public:
     }
 
 private:
+    enum class Rearrangement { Complete, Narrowing };
+
+    void narrow() {
+        std::erase_if(rows_, [this](std::size_t row) { return !filter_((*content_)[row]); });
+    }
+
     void rearrange() {
         rows_.clear();
         rows_.reserve(content_->size());
@@ -136,7 +145,7 @@ private:
         }
     }
 
-    void rearrangeKeepingSelection() {
+    void rearrangeKeepingSelection(Rearrangement rearrangement) {
         Q_EMIT arrangedObjectsWillChange();
         std::vector<std::size_t> selectedIndexes;
         selectedIndexes.reserve(selectedRows_.size());
@@ -144,7 +153,11 @@ private:
             selectedIndexes.push_back(rows_[row]);
         }
         std::ranges::sort(selectedIndexes);
-        rearrange();
+        if (rearrangement == Rearrangement::Narrowing) {
+            narrow();
+        } else {
+            rearrange();
+        }
         selectedRows_.clear();
         for (std::size_t row = 0; row < rows_.size() && !selectedIndexes.empty(); ++row) {
             if (std::ranges::binary_search(selectedIndexes, rows_[row])) {

@@ -11,65 +11,71 @@ namespace quillet {
 
 namespace {
 
-bool isMissing(const QVariant& value) {
-    return !value.isValid() || (value.typeId() == QMetaType::QString && value.toString().isNull());
-}
-
-bool matchesComparison(const Predicate::Comparison& comparison, const QVariant& value) {
-    if (isMissing(value)) {
+bool matchesText(const Predicate::Comparison& comparison, QStringView text) {
+    if (text.isNull() || comparison.value.typeId() != QMetaType::QString) {
         return false;
     }
     switch (comparison.operation) {
     case Predicate::Operation::Equal:
-        return comparison.value.typeId() == QMetaType::QString
-                   ? value.typeId() == QMetaType::QString &&
-                         value.toString() == comparison.value.toString()
-                   : value.typeId() != QMetaType::QString &&
-                         value.toLongLong() == comparison.value.toLongLong();
+        return text == comparison.value.toString();
     case Predicate::Operation::Contains:
-        return value.toString().contains(comparison.value.toString());
+        return text.contains(comparison.value.toString());
     case Predicate::Operation::ContainsFolded:
-        return value.toString().toCaseFolded().contains(comparison.value.toString());
+        return comparison.folded.isIn(text);
     }
     return false;
 }
 
-bool matchesNode(const Predicate::Node& node, const Predicate::FieldReader& field);
-
-bool matchesAll(const std::vector<Predicate::Node>& nodes, const Predicate::FieldReader& field) {
-    return std::ranges::all_of(nodes, [&](const auto& node) { return matchesNode(node, field); });
+bool matchesValue(const Predicate::Comparison& comparison, const QVariant& value) {
+    if (value.typeId() == QMetaType::QString ||
+        comparison.operation != Predicate::Operation::Equal) {
+        return matchesText(comparison, value.toString());
+    }
+    return value.isValid() && comparison.value.typeId() != QMetaType::QString &&
+           value.toLongLong() == comparison.value.toLongLong();
 }
 
-bool matchesAny(const std::vector<Predicate::Node>& nodes, const Predicate::FieldReader& field) {
-    return std::ranges::any_of(nodes, [&](const auto& node) { return matchesNode(node, field); });
-}
-
-bool matchesNode(const Predicate::Node& node, const Predicate::FieldReader& field) {
+/// `matchesOne` tells whether a comparison holds for the record.
+template <typename MatchesOne>
+bool matchesNode(const Predicate::Node& node, const MatchesOne& matchesOne) {
+    const auto matches = [&](const Predicate::Node& inner) {
+        return matchesNode(inner, matchesOne);
+    };
     if (const auto* comparison = std::get_if<Predicate::Comparison>(&node.content)) {
-        return matchesComparison(*comparison, field(comparison->key));
+        return matchesOne(*comparison);
     }
     if (const auto* all = std::get_if<Predicate::All>(&node.content)) {
-        return matchesAll(all->nodes, field);
+        return std::ranges::all_of(all->nodes, matches);
     }
-    return matchesAny(std::get<Predicate::Any>(node.content).nodes, field);
+    return std::ranges::any_of(std::get<Predicate::Any>(node.content).nodes, matches);
 }
 
 } // namespace
 
-Predicate::Predicate(QString text, std::shared_ptr<const Node> root)
+Predicate::Predicate(QString text, QStringList keys, std::shared_ptr<const Node> root)
     : text_(std::move(text))
+    , keys_(std::move(keys))
     , root_(std::move(root)) {}
 
 std::optional<Predicate> Predicate::parse(const QString& text) {
-    auto root = PredicateParser(text).parse();
+    PredicateParser parser(text);
+    auto root = parser.parse();
     if (!root) {
         return std::nullopt;
     }
-    return Predicate(text, std::make_shared<const Node>(*std::move(root)));
+    return Predicate(text, parser.keys(), std::make_shared<const Node>(*std::move(root)));
 }
 
 bool Predicate::matches(const FieldReader& field) const {
-    return matchesNode(*root_, field);
+    return matchesNode(*root_, [&](const Comparison& comparison) {
+        return matchesValue(comparison, field(keys_[static_cast<qsizetype>(comparison.key)]));
+    });
+}
+
+bool Predicate::matchesTexts(const TextReader& text) const {
+    return matchesNode(*root_, [&](const Comparison& comparison) {
+        return matchesText(comparison, text(comparison.key));
+    });
 }
 
 } // namespace quillet

@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -23,6 +25,9 @@ class Predicate {
 public:
     /// Reads a record's field; an invalid QVariant when it has none of that name.
     using FieldReader = std::function<QVariant(const QString& key)>;
+    /// Reads a record's text where it lies, by the key's position in keys(); a null view when the
+    /// record has none.
+    using TextReader = std::function<QStringView(std::size_t key)>;
 
     /// The parsed form; see PredicateParser.h.
     struct Node;
@@ -35,6 +40,10 @@ public:
     [[nodiscard]] static std::optional<Predicate> parse(const QString& text);
 
     [[nodiscard]] bool matches(const FieldReader& field) const;
+    /// The same for records all of whose fields are texts, at a fraction of the cost.
+    [[nodiscard]] bool matchesTexts(const TextReader& text) const;
+    /// The keys that the condition reads, each once.
+    [[nodiscard]] const QStringList& keys() const { return keys_; }
     /// The text that was parsed.
     [[nodiscard]] const QString& text() const { return text_; }
 
@@ -44,9 +53,10 @@ public:
     }
 
 private:
-    Predicate(QString text, std::shared_ptr<const Node> root);
+    Predicate(QString text, QStringList keys, std::shared_ptr<const Node> root);
 
     QString text_;
+    QStringList keys_;
     std::shared_ptr<const Node> root_;
 };
 

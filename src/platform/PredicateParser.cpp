@@ -35,7 +35,7 @@ PredicateParser::Node PredicateParser::condition(int depth) {
         }
         any.nodes.push_back(*std::move(next));
     }
-    return Predicate::Node{std::move(any)};
+    return any.nodes.size() == 1 ? std::move(any.nodes.front()) : Predicate::Node{std::move(any)};
 }
 
 PredicateParser::Node PredicateParser::conjunction(int depth) {
@@ -52,7 +52,7 @@ PredicateParser::Node PredicateParser::conjunction(int depth) {
         }
         all.nodes.push_back(*std::move(next));
     }
-    return Predicate::Node{std::move(all)};
+    return all.nodes.size() == 1 ? std::move(all.nodes.front()) : Predicate::Node{std::move(all)};
 }
 
 PredicateParser::Node PredicateParser::term(int depth) {
@@ -79,10 +79,18 @@ PredicateParser::Node PredicateParser::comparison() {
     if (*found != Predicate::Operation::Equal && operand.typeId() != QMetaType::QString) {
         return std::nullopt;
     }
+    CaseFoldedText folded;
     if (*found == Predicate::Operation::ContainsFolded) {
-        operand = operand.toString().toCaseFolded();
+        folded = CaseFoldedText(operand.toString());
     }
-    return Predicate::Node{Predicate::Comparison{key, *found, operand}};
+    return Predicate::Node{Predicate::Comparison{positionOf(key), *found, operand, folded}};
+}
+
+std::size_t PredicateParser::positionOf(const QString& key) {
+    if (!keys_.contains(key)) {
+        keys_ << key;
+    }
+    return static_cast<std::size_t>(keys_.indexOf(key));
 }
 
 std::optional<Predicate::Operation> PredicateParser::operation() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/CaseFoldedText.h"
 #include "platform/Predicate.h"
 
 #include <QString>
@@ -14,10 +15,13 @@ namespace quillet {
 enum class Predicate::Operation { Equal, Contains, ContainsFolded };
 
 struct Predicate::Comparison {
-    QString key;
+    /// The position among the keys that were met.
+    std::size_t key;
     Operation operation;
-    /// A text (already folded for ContainsFolded), a bool or a whole number.
+    /// A text, a bool or a whole number.
     QVariant value;
+    /// The text, for ContainsFolded.
+    CaseFoldedText folded;
 };
 
 struct Predicate::All {
@@ -40,6 +44,8 @@ public:
 
     /// The whole text as a condition, or nothing.
     [[nodiscard]] std::optional<Predicate::Node> parse();
+    /// The keys that were met, each once.
+    [[nodiscard]] const QStringList& keys() const { return keys_; }
 
 private:
     using Node = std::optional<Predicate::Node>;
@@ -56,7 +62,10 @@ private:
     bool skipWord(QStringView keyword);
     void skipBlanks();
 
+    [[nodiscard]] std::size_t positionOf(const QString& key);
+
     QStringView rest_;
+    QStringList keys_;
 };
 
 } // namespace quillet

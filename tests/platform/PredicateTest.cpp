@@ -61,6 +61,27 @@ TEST(PredicateTest, BackslashEscapesTheNextCharacter) {
     EXPECT_TRUE(matches(R"(title contains[c] "100%")", {{"title", "100% sure"}}));
 }
 
+TEST(PredicateTest, ReadsTextsWhereTheyLie) {
+    const auto predicate = Predicate::parse(
+        R"((title contains[c] "MEET") or (notes contains "x") or (title = "Lunch"))");
+    ASSERT_TRUE(predicate);
+    ASSERT_EQ(predicate->keys(), (QStringList{"title", "notes"}));
+    const auto matchesTexts = [&](const QString& title, const QString& notes) {
+        const std::vector<QString> texts{title, notes};
+        return predicate->matchesTexts([&](std::size_t key) { return QStringView(texts[key]); });
+    };
+    EXPECT_TRUE(matchesTexts("Team meeting", "missing"));
+    EXPECT_TRUE(matchesTexts("Lunch", QString()));
+    EXPECT_TRUE(matchesTexts(QString(), "x"));
+    EXPECT_FALSE(matchesTexts("lunch", "X"));
+    EXPECT_FALSE(matchesTexts(QString(), QString()));
+}
+
+TEST(PredicateTest, TextsAreNoTruthValues) {
+    const auto predicate = Predicate::parse("isAllDay = NO");
+    EXPECT_FALSE(predicate->matchesTexts([](std::size_t) { return QStringView(u"0"); }));
+}
+
 TEST(PredicateTest, MalformedTextsDoNotParse) {
     for (const char* wrong :
          {"", "(", "title", "title ==", R"(title == "open)", R"(== "x")", R"((title == "x")",

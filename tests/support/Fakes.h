@@ -11,6 +11,7 @@
 #include "platform/ProgressPresenter.h"
 #include "platform/SavePanel.h"
 #include "platform/ScriptRunner.h"
+#include "platform/SearchField.h"
 #include "platform/SerialQueue.h"
 #include "platform/Sheet.h"
 #include "platform/SoftwareUpdater.h"
@@ -234,6 +235,22 @@ public:
     void setHidden(bool hidden) override { isHidden = hidden; }
 
     bool isHidden = false;
+};
+
+/// A toolbar item and the field in it, as the test's user fills it.
+class FakeSearchField final : public SearchField, public LabelledToolbarItem {
+public:
+    [[nodiscard]] QString text() const override { return typed; }
+    void setPlaceholder(const QString& text) override { placeholder = text; }
+    void setMenuTemplate(const SearchMenu& shown) override { menu = shown; }
+    void setLabel(const QString& text) override { label = text; }
+    void setPaletteLabel(const QString& text) override { paletteLabel = text; }
+
+    QString typed;
+    QString placeholder;
+    SearchMenu menu;
+    QString label;
+    QString paletteLabel;
 };
 
 class FakeColumn final : public TableColumn {

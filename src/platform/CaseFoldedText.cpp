@@ -1,0 +1,136 @@
+#include "platform/CaseFoldedText.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <cstdint>
+
+namespace quillet {
+
+namespace {
+
+/// The characters that fold to each character that is not alone in that.
+using Variants = QHash<char32_t, std::vector<char32_t>>;
+
+const Variants& variants() {
+    static const Variants found = [] {
+        Variants result;
+        for (char32_t code = 0; code <= QChar::LastValidCodePoint; ++code) {
+            if (const char32_t folded = QChar::toCaseFolded(code); folded != code) {
+                std::vector<char32_t>& codes = result[folded];
+                if (codes.empty()) {
+                    codes.push_back(folded);
+                }
+                codes.push_back(code);
+            }
+        }
+        return result;
+    }();
+    return found;
+}
+
+std::vector<char32_t> variantsOf(char32_t code) {
+    const char32_t folded = QChar::toCaseFolded(code);
+    const auto found = variants().constFind(folded);
+    return found == variants().cend() ? std::vector{folded} : *found;
+}
+
+} // namespace
+
+CaseFoldedText::CaseFoldedText(const QString& text) {
+    for (const char32_t code : text.toUcs4()) {
+        const std::vector<char32_t> codes = variantsOf(code);
+        std::vector<char16_t> units;
+        if (QChar::requiresSurrogates(code)) {
+            // The variants of such a character differ in their second units only.
+            units_.push_back(unitOf({QChar::highSurrogate(code)}));
+            std::ranges::transform(codes, std::back_inserter(units), QChar::lowSurrogate);
+        } else {
+            std::ranges::transform(codes, std::back_inserter(units),
+                                   [](char32_t variant) { return static_cast<char16_t>(variant); });
+        }
+        units_.push_back(unitOf(units));
+    }
+    chooseProbes();
+}
+
+CaseFoldedText::Unit CaseFoldedText::unitOf(const std::vector<char16_t>& variants) {
+    Unit unit;
+    for (std::size_t index = 0; index < unit.size(); ++index) {
+        unit[index] = variants[std::min(index, variants.size() - 1)];
+    }
+    return unit;
+}
+
+void CaseFoldedText::chooseProbes() {
+    if (units_.empty()) {
+        return;
+    }
+    const auto hasTwoVariants = [](const Unit& unit) { return unit[1] == unit.back(); };
+    const auto first = std::ranges::find_if(units_, hasTwoVariants);
+    const auto last = std::find_if(units_.rbegin(), units_.rend(), hasTwoVariants);
+    isProbingTwoVariants_ = first != units_.end();
+    firstProbe_ =
+        isProbingTwoVariants_ ? static_cast<std::size_t>(first - units_.begin()) : std::size_t{0};
+    secondProbe_ = isProbingTwoVariants_ ? static_cast<std::size_t>(units_.rend() - last) - 1
+                                         : units_.size() - 1;
+}
+
+bool CaseFoldedText::isIn(QStringView text) const {
+    const std::ptrdiff_t places = text.size() - static_cast<std::ptrdiff_t>(units_.size()) + 1;
+    if (units_.empty() || places <= 0) {
+        return units_.empty();
+    }
+    return isProbingTwoVariants_ ? isAtAnyOf<2>(text.utf16(), places)
+                                 : isAtAnyOf<mostVariants>(text.utf16(), places);
+}
+
+template <std::size_t variants>
+bool CaseFoldedText::isAtAnyOf(const char16_t* first, std::ptrdiff_t count) const {
+    // Compilers make this look at many units at a time, as long as it stays this plain.
+    const auto isOneOf = [](char16_t unit, const Unit& wanted) {
+        std::uint16_t found = 0;
+        for (std::size_t index = 0; index < variants; ++index) {
+            found = static_cast<std::uint16_t>(found | std::uint16_t{unit == wanted[index]});
+        }
+        return found;
+    };
+    const Unit firstWanted = units_[firstProbe_];
+    const Unit secondWanted = units_[secondProbe_];
+    constexpr std::ptrdiff_t blockSize = 16;
+    std::ptrdiff_t done = 0;
+    while (count - done >= blockSize) {
+        const char16_t* firstProbe = first + done + firstProbe_;
+        const char16_t* secondProbe = first + done + secondProbe_;
+        std::uint16_t found = 0;
+        for (std::ptrdiff_t index = 0; index < blockSize; ++index) {
+            found = static_cast<std::uint16_t>(found | (isOneOf(firstProbe[index], firstWanted) &
+                                                        isOneOf(secondProbe[index], secondWanted)));
+        }
+        if (found != 0 && standsAmong(first + done, blockSize)) {
+            return true;
+        }
+        // The last block overlaps the one before rather than leaving a rest.
+        done = count - done < 2 * blockSize && count - done > blockSize ? count - blockSize
+                                                                        : done + blockSize;
+    }
+    return standsAmong(first + done, count - done);
+}
+
+bool CaseFoldedText::standsAmong(const char16_t* first, std::ptrdiff_t count) const {
+    for (std::ptrdiff_t place = 0; place < count; ++place) {
+        if (standsAt(first + place)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool CaseFoldedText::standsAt(const char16_t* place) const {
+    return std::ranges::all_of(units_, [&place](const Unit& wanted) {
+        const char16_t unit = *place++;
+        return unit == wanted[0] || unit == wanted[1] || unit == wanted[2] || unit == wanted[3];
+    });
+}
+
+} // namespace quillet

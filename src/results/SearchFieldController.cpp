@@ -1,0 +1,138 @@
+#include "results/SearchFieldController.h"
+
+#include "platform/Localized.h"
+
+namespace quillet {
+
+namespace {
+
+const QString viewModeKey = QStringLiteral("viewMode");
+
+constexpr qint64 eventsView = 0;
+constexpr qint64 remindersView = 1;
+
+constexpr qint64 allCategory = 1;
+constexpr qint64 titleCategory = 2;
+constexpr qint64 notesCategory = 3;
+constexpr qint64 locationCategory = 4;
+
+std::vector<SearchMenuItem> menuItems(qint64 viewMode) {
+    std::vector<SearchMenuItem> items{
+        {.title = localized("All"), .tag = allCategory, .isTicked = true},
+        {.title = localized("Title"), .tag = titleCategory, .isTicked = false},
+        {.title = localized("Notes"), .tag = notesCategory, .isTicked = false}};
+    if (viewMode == eventsView) {
+        items.push_back(
+            {.title = localized("Location"), .tag = locationCategory, .isTicked = false});
+    }
+    return items;
+}
+
+QString conditionFormat(qint64 category) {
+    switch (category) {
+    case titleCategory:
+        return QStringLiteral("(title contains[c] \"%@\")");
+    case notesCategory:
+        return QStringLiteral("(notes contains[c] \"%@\")");
+    case locationCategory:
+        return QStringLiteral("(location contains[c] \"%@\")");
+    default:
+        return QStringLiteral("(title contains[c] \"%@\") or (notes contains[c] \"%@\") or "
+                              "(location contains[c] \"%@\")");
+    }
+}
+
+/// The text as it stands between the quotes of a condition. Only what would end the quotes or
+/// escape a character is escaped, so that it is looked for literally.
+QString quotable(const QString& text) {
+    QString result;
+    result.reserve(text.size());
+    for (const QChar character : text) {
+        if (character == u'"' || character == u'\\') {
+            result += u'\\';
+        }
+        result += character;
+    }
+    return result;
+}
+
+using SearchedField = QString EventDetails::*;
+
+SearchedField searchedField(const QString& key) {
+    if (key == u"title") {
+        return &EventDetails::title;
+    }
+    return key == u"notes" ? &EventDetails::notes : &EventDetails::location;
+}
+
+ListController<Event>::Filter filterBy(const QString& condition) {
+    const auto predicate = Predicate::parse(condition);
+    std::vector<SearchedField> fields;
+    for (const QString& key : predicate ? predicate->keys() : QStringList()) {
+        fields.push_back(searchedField(key));
+    }
+    return [predicate, fields](const Event& event) {
+        return predicate && predicate->matchesTexts([&](std::size_t key) {
+            return QStringView((*event.details).*fields[key]);
+        });
+    };
+}
+
+} // namespace
+
+SearchFieldController::SearchFieldController(const Collaborators& collaborators)
+    : with_(collaborators) {}
+
+void SearchFieldController::awakeFromNib() {
+    viewModeObservation_ = with_.settings.observe(viewModeKey, [this] { setSearchFieldMode(); });
+    setSearchFieldMode();
+}
+
+void SearchFieldController::setSearchFieldMode() {
+    menu_ = {.title = localized("Search Menu"), .items = {}};
+    const qint64 mode = viewMode();
+    if (mode == eventsView || mode == remindersView) {
+        menu_.items = menuItems(mode);
+        const QString label =
+            mode == eventsView ? localized("Search Events") : localized("Search Reminders");
+        with_.searchFieldToolbarItem.setLabel(label);
+        with_.searchFieldToolbarItem.setPaletteLabel(label);
+    }
+    with_.searchField.setMenuTemplate(menu_);
+    setSearchCategoryFrom(0);
+}
+
+void SearchFieldController::setSearchCategoryFrom(std::size_t position) {
+    if (position >= menu_.items.size()) {
+        return;
+    }
+    for (SearchMenuItem& item : menu_.items) {
+        item.isTicked = false;
+    }
+    SearchMenuItem& chosen = menu_.items[position];
+    searchCategory_ = chosen.tag;
+    with_.searchField.setPlaceholder(chosen.title);
+    chosen.isTicked = true;
+    with_.searchField.setMenuTemplate(menu_);
+    updateFilter();
+}
+
+void SearchFieldController::updateFilter() {
+    const QString text = with_.searchField.text();
+    if (text.isEmpty()) {
+        with_.eventsArrayController.setFilter({}, {});
+        return;
+    }
+    if (viewMode() != eventsView) {
+        return;
+    }
+    const QString condition =
+        conditionFormat(searchCategory_).replace(QStringLiteral("%@"), quotable(text));
+    with_.eventsArrayController.setFilter(condition, filterBy(condition));
+}
+
+qint64 SearchFieldController::viewMode() const {
+    return integerForKey(with_.settings, viewModeKey);
+}
+
+} // namespace quillet
