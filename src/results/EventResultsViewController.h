@@ -1,11 +1,11 @@
 #pragma once
 
+#include "eventdata/EventTotals.h"
 #include "eventdata/EventsController.h"
 #include "platform/ListController.h"
 #include "platform/LocaleFormats.h"
 #include "platform/Observation.h"
 #include "platform/SettingsStore.h"
-#include "eventdata/EventTotals.h"
 #include "results/ResultField.h"
 
 #include <QObject>
