@@ -23,6 +23,7 @@ void EventTotals::add(const Event& event) {
     }
     const auto [entry, isNew] = calendars_.try_emplace(event.details->calendar.get());
     if (isNew) {
+        entry->second.calendar = event.details->calendar;
         entry->second.rate = billableRate(event, settings_);
     }
     ++entry->second.countsByMinutes[minutes];

@@ -6,6 +6,7 @@
 #include "platform/Event.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <unordered_map>
 #include <utility>
@@ -36,6 +37,8 @@ public:
 private:
     /// How many events of one calendar have how many minutes: few numbers, even for many events.
     struct CalendarMinutes {
+        /// Keeps the address, which is the key, from being given to another calendar.
+        std::shared_ptr<const StoreCalendar> calendar;
         Decimal rate;
         std::unordered_map<std::int64_t, std::int64_t> countsByMinutes;
     };
