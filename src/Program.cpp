@@ -3,7 +3,6 @@
 #include "eventtable/ColumnLayout.h"
 #include "platform/Localized.h"
 
-#include <QHeaderView>
 #include <QSettings>
 #include <QTimer>
 
@@ -79,6 +78,9 @@ Program::Program(const ProgramPaths& paths)
     , exportNotes_({settings_, formats_, dialogs_, dialogs_, scriptRunner_, installedPrograms_,
                     textColor_, dialogs_,
                     [this](const ExportProgress&) { return eventNotes_.notes().text(); }})
+    , reportFormats_(locales_, timeZone_)
+    , reportCalendar_(locales_.time, timeZone_, CalendarSystem::Gregorian)
+    , reportQueue_(makeBackgroundQueue(QStringLiteral("org.quillet.Quillet.textReport")))
     , appDelegate_({settings_, workspace_, taskLauncher_, dialogs_, toolbarItems(exportItems_),
                     paths.releaseNotes})
     , activation_([this] { eventKitManager_.becomeActive(); }) {}
@@ -89,13 +91,14 @@ Program::~Program() {
     }
     // The main queue's last tasks would find their receivers gone.
     fetchQueue_.reset();
+    reportQueue_.reset();
 }
 
 void Program::start() {
     wake();
     window_ = std::make_unique<MainWindow>(MainWindow::Collaborators{
         settings_, formats_, currentCalendar_, events_, calendars_, dateInspector_, eventItemView_,
-        exportCSV_, appDelegate_, *eventTable_, *resultsPane_, exportItems_, menuTimeColumns_,
+        exports(), appDelegate_, *eventTable_, *resultsPane_, exportItems_, menuTimeColumns_,
         calendarActions()});
     dialogs_.setWindow(window_.get());
     connectNotices();
@@ -147,16 +150,17 @@ void Program::connectNotices() {
     storeObservation_ = store_.observeChanges([this] { window_->refreshProblems(); });
     settingsProblemObservation_ = settings_.observeWriteProblem(
         [this](const QString& problem) { window_->showMessage(problem); });
-    const QHeaderView* const header = eventTable_->horizontalHeader();
-    QObject::connect(header, &QHeaderView::sectionMoved, &exportTxtView_,
-                     &ExportTxtViewController::tableViewChanged);
-    QObject::connect(header, &QHeaderView::sectionResized, &exportTxtView_,
-                     [this](int, int oldWidth, int newWidth) {
-                         // To and from 0 a column is hidden or shown, which is announced apart.
-                         if (oldWidth > 0 && newWidth > 0) {
-                             exportTxtView_.tableViewChanged();
-                         }
-                     });
+}
+
+WindowExports Program::exports() {
+    return {exportCSV_,
+            exportTSV_,
+            exportTXT_,
+            exportNotes_,
+            scriptRunner_,
+            exportTxtView_,
+            {*reportQueue_, *mainQueue_, reportFormats_, reportCalendar_},
+            eventNotes_};
 }
 
 CalendarActions Program::calendarActions() {

@@ -52,6 +52,7 @@ public:
 
 private:
     [[nodiscard]] CalendarActions calendarActions();
+    [[nodiscard]] WindowExports exports();
     void wake();
     void becomeActiveFirst();
     void arrangeColumns();
@@ -108,6 +109,9 @@ private:
     ExportTSV exportTSV_;
     ExportTXT exportTXT_;
     ExportNotes exportNotes_;
+    IcuLocaleFormats reportFormats_;
+    IcuCalendarArithmetic reportCalendar_;
+    std::unique_ptr<SerialQueue> reportQueue_;
     AppDelegate appDelegate_;
     std::unique_ptr<MainWindow> window_;
     ActivationWatcher activation_;

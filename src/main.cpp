@@ -1,4 +1,5 @@
 #include "Program.h"
+#include "window/ReportViewAccessible.h"
 
 #include <QApplication>
 #include <QDir>
@@ -34,6 +35,7 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("quillet"));
     QApplication::setQuitOnLastWindowClosed(
         quillet::AppDelegate::applicationShouldTerminateAfterLastWindowClosed());
+    quillet::installReportViewAccessibility();
     quillet::Program program(programPaths());
     program.start();
     return QApplication::exec();

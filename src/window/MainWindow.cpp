@@ -45,6 +45,7 @@ MainWindow::MainWindow(Collaborators collaborators, QWidget* parent)
     setWindowTitle(QStringLiteral("Quillet"));
     setAcceptDrops(true);
     makeStepActions();
+    makeExportActions();
     makePanes();
     makeToolBar();
     makeMenus();
@@ -66,12 +67,12 @@ void MainWindow::makePanes() {
         new InspectorPane(with_.dateInspectorController, with_.settings, with_.calendar, this);
     auto* rate = new RatePane(with_.calendarsArrayController, with_.eventItemViewController,
                               with_.settings, with_.formats, this);
-    panes_ = std::make_unique<WindowPanes>(
-        WindowPanes::Contents{{PaneContent::CalendarListView, calendarPane_},
-                              {PaneContent::EventItemView, makeEventItemView()},
-                              {PaneContent::DateInspectorView, inspector},
-                              {PaneContent::EventRateView, rate}},
-        *this);
+    WindowPanes::Contents contents = exportPanes();
+    contents.insert({{PaneContent::CalendarListView, calendarPane_},
+                     {PaneContent::EventItemView, makeEventItemView()},
+                     {PaneContent::DateInspectorView, inspector},
+                     {PaneContent::EventRateView, rate}});
+    panes_ = std::make_unique<WindowPanes>(std::move(contents), *this);
     splitter_ = new QSplitter(this);
     splitter_->setObjectName(QStringLiteral("panes"));
     splitter_->setChildrenCollapsible(false);
@@ -134,16 +135,6 @@ void MainWindow::followState() {
             &MainWindow::showPeriodTitle);
     showPeriodTitle();
     showTableOrReason();
-}
-
-void MainWindow::followExportPanes() {
-    const auto follow = [this] {
-        panes_->setCentreDividerDraggable(!views_->effectiveRect(QRectF(rect())).isEmpty());
-    };
-    for (const char* key : {"isExportTXTViewOn", "isNotesViewOn"}) {
-        observeWhileAlive(*this, with_.settings, QString::fromLatin1(key), follow);
-    }
-    follow();
 }
 
 void MainWindow::showPeriodTitle() {

@@ -5,10 +5,15 @@
 #include "calendars/CalendarsArrayController.h"
 #include "eventtable/EventItemViewController.h"
 #include "export/ExportCSV.h"
+#include "export/ExportNotes.h"
+#include "export/ExportTSV.h"
+#include "export/ExportTXT.h"
 #include "period/DateInspectorController.h"
+#include "results/EventNotesViewController.h"
 #include "window/CalendarListModel.h"
 #include "window/InterfaceActions.h"
 #include "window/PreferencesPanes.h"
+#include "window/ReportPane.h"
 #include "window/WindowPanes.h"
 
 #include <QMainWindow>
@@ -39,6 +44,18 @@ struct CalendarActions {
     CalendarListModel::ColorOf colorOf;
 };
 
+/// What the window can send out, and what it shows of that before.
+struct WindowExports {
+    ExportCSV& csv;
+    ExportTSV& tsv;
+    ExportTXT& text;
+    ExportNotes& notes;
+    const ScriptRunner& scriptRunner;
+    ExportTxtViewController& report;
+    ReportPane::Building reportBuilding;
+    EventNotesViewController& eventNotes;
+};
+
 /// The main window: the calendars to the left, the events in the middle, the period to the right.
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -52,7 +69,7 @@ public:
         CalendarsArrayController& calendarsArrayController;
         DateInspectorController& dateInspectorController;
         EventItemViewController& eventItemViewController;
-        ExportCSV& exportCSV;
+        WindowExports exports;
         AppDelegate& appDelegate;
         /// Become the window's.
         EventTableView& eventTable;
@@ -83,6 +100,11 @@ private:
     [[nodiscard]] QWidget* makeEventItemView();
     [[nodiscard]] QWidget* makeCentre();
     void makeToolBar();
+    void makeExportActions();
+    [[nodiscard]] WindowPanes::Contents exportPanes();
+    [[nodiscard]] QString mailProblem() const;
+    void mail();
+    void closeExportPane(void (AppViewsController::*turnOff)());
     void makeMenus();
     void makeFileMenu();
     void makeEditMenu();
@@ -92,6 +114,8 @@ private:
     void makeHelpMenu();
     QAction* addAction(QMenu& menu, const QString& text, const char* name,
                        const QKeySequence& shortcut, std::function<void()> action);
+    void addExportPaneAction(QMenu& menu, const QString& text, const QString& paneKey,
+                             const QKeySequence& shortcut);
     void makeStepActions();
     void followState();
     void followExportPanes();
@@ -114,6 +138,7 @@ private:
     QAction* previousAction_ = nullptr;
     QAction* currentAction_ = nullptr;
     QAction* nextAction_ = nullptr;
+    QAction* mailAction_ = nullptr;
     PreferencesPanes preferences_;
 };
 

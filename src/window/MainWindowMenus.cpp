@@ -67,12 +67,10 @@ void MainWindow::makeToolBar() {
     bar->setObjectName(QStringLiteral("toolbar"));
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    QAction& csv = with_.exportItems.csv.action();
-    csv.setText(localized("CSV"));
-    csv.setIcon(symbolIcon(Symbol::Save));
-    csv.setToolTip(localized("Save the listed events as a CSV file"));
-    connect(&csv, &QAction::triggered, this, [this] { with_.exportCSV.saveAsCSV(); });
-    bar->addAction(&csv);
+    ExportItems& items = with_.exportItems;
+    bar->addActions({&items.text.action(), &items.notes.action()});
+    bar->addSeparator();
+    bar->addActions({&items.csv.action(), &items.tsv.action(), mailAction_});
     bar->addSeparator();
     bar->addActions({previousAction_, currentAction_, nextAction_});
     for (QToolButton* button : bar->findChildren<QToolButton*>()) {
@@ -92,7 +90,15 @@ void MainWindow::makeMenus() {
 void MainWindow::makeFileMenu() {
     QMenu& menu = *menuBar()->addMenu(localized("&File"));
     addAction(menu, localized("&Save as CSV…"), "saveAsCSV", QKeySequence::Save,
-              [this] { with_.exportCSV.saveAsCSV(); });
+              [this] { with_.exports.csv.saveAsCSV(); });
+    addAction(menu, localized("Save as &TSV…"), "saveAsTSV", {},
+              [this] { with_.exports.tsv.saveAsTSV(); });
+    addAction(menu, localized("Save Text &Report…"), "saveAsTxt", {},
+              [this] { with_.exports.text.saveAsTxt(); });
+    addAction(menu, localized("Save Event &Notes…"), "saveNotesAsTxt", {},
+              [this] { with_.exports.notes.saveAsTxt(); });
+    menu.addSeparator();
+    menu.addAction(mailAction_);
     menu.addSeparator();
     addAction(menu, localized("&Restart Quillet"), "relaunch", {},
               [this] { with_.appDelegate.relaunch(); });
@@ -114,6 +120,11 @@ void MainWindow::makeEditMenu() {
 
 void MainWindow::makeViewMenu() {
     QMenu& menu = *menuBar()->addMenu(localized("&View"));
+    addExportPaneAction(menu, localized("&Text Report"), QStringLiteral("isExportTXTViewOn"),
+                        QKeySequence(Qt::CTRL | Qt::Key_R));
+    addExportPaneAction(menu, localized("Event &Notes"), QStringLiteral("isNotesViewOn"),
+                        QKeySequence(Qt::CTRL | Qt::Key_E));
+    menu.addSeparator();
     bindAction(*menu.addAction(localized("&Money")), with_.settings, QStringLiteral("isDollarsOn"));
     menu.addSeparator();
     auto* group = new QActionGroup(this);

@@ -32,6 +32,35 @@ QPainterPath padlock(bool isLocked) {
     return path;
 }
 
+/// A sheet of paper with lines of these lengths.
+QPainterPath sheet(std::initializer_list<double> lines) {
+    QPainterPath path;
+    path.addRoundedRect(QRectF(3, 1.5, 10, 13), 1, 1);
+    double height = 5;
+    for (const double length : lines) {
+        path.addPath(polyline({{5.5, height}, {5.5 + length, height}}));
+        height += 3;
+    }
+    return path;
+}
+
+QPainterPath envelope() {
+    QPainterPath path;
+    path.addRoundedRect(QRectF(1.5, 3.5, 13, 9.5), 1, 1);
+    path.addPath(polyline({{2, 4.5}, {8, 9}, {14, 4.5}}));
+    return path;
+}
+
+/// A sheet with a folded corner.
+QPainterPath note() {
+    QPainterPath path =
+        polyline({{2.5, 2.5}, {13.5, 2.5}, {13.5, 9.5}, {9.5, 13.5}, {2.5, 13.5}, {2.5, 2.5}});
+    path.addPath(polyline({{13.5, 9.5}, {9.5, 9.5}, {9.5, 13.5}}));
+    path.addPath(polyline({{5, 6}, {11, 6}}));
+    path.addPath(polyline({{5, 9}, {7.5, 9}}));
+    return path;
+}
+
 QPainterPath drawing(Symbol symbol) {
     QPainterPath path;
     switch (symbol) {
@@ -51,6 +80,12 @@ QPainterPath drawing(Symbol symbol) {
         path.addPath(polyline({{4.5, 6.5}, {8, 10}, {11.5, 6.5}}));
         path.addPath(polyline({{2.5, 11}, {2.5, 13.5}, {13.5, 13.5}, {13.5, 11}}));
         return path;
+    case Symbol::Text:
+        return sheet({5, 5, 3});
+    case Symbol::Notes:
+        return note();
+    case Symbol::Mail:
+        return envelope();
     case Symbol::Locked:
     case Symbol::Unlocked:
         return padlock(symbol == Symbol::Locked);

@@ -5,7 +5,7 @@
 
 namespace quillet {
 
-enum class Symbol { Previous, Current, Next, Save, Locked, Unlocked };
+enum class Symbol { Previous, Current, Next, Save, Locked, Unlocked, Text, Notes, Mail };
 
 /// A line drawing in a colour of the palette, sharp at every size; it follows light and dark.
 [[nodiscard]] QIcon symbolIcon(Symbol symbol, QPalette::ColorRole role = QPalette::ButtonText);

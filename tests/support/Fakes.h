@@ -152,12 +152,13 @@ public:
 /// Keeps the scripts, and answers each as the test wishes.
 class FakeScriptRunner final : public ScriptRunner {
 public:
-    [[nodiscard]] bool isAvailable() const override { return true; }
+    [[nodiscard]] bool isAvailable() const override { return isThere; }
     std::expected<void, QString> run(const QString& source) override {
         sources.append(source);
         return answer;
     }
 
+    bool isThere = true;
     QStringList sources;
     std::expected<void, QString> answer;
 };

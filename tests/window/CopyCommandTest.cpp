@@ -95,12 +95,12 @@ TEST_F(CopyCommandTest, ATextThatHasTheFocusIsCopiedInstead) {
 
 TEST_F(CopyCommandTest, AReportThatHasTheFocusIsCopiedInstead) {
     openWithSelection({0});
-    auto& report = focused(new ReportView);
-    report.setLines(TextLines(QStringLiteral("one\ntwo\n")));
-    report.select(0, 3);
+    auto& focusedReport = focused(new ReportView);
+    focusedReport.setLines(TextLines(QStringLiteral("one\ntwo\n")));
+    focusedReport.select(0, 3);
     chooseCopy();
     EXPECT_EQ(clipboard(), "one");
-    QTest::keyClick(&report, Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&focusedReport, Qt::Key_A, Qt::ControlModifier);
     pressCopy();
     EXPECT_EQ(clipboard(), "one\ntwo\n");
     EXPECT_EQ(rows(), untouched);

@@ -62,10 +62,20 @@ protected:
         table->follow(copying);
         results.awakeFromNib();
         resultsPane->follow(results);
+        notes.awakeFromNib();
+        report.awakeFromNib();
         itemView.awakeFromNib();
         eventsController.awakeFromNib();
         window = std::make_unique<MainWindow>(MainWindow::Collaborators{
-            settings, formats, gregorian, events, calendars, inspector, itemView, exportCSV,
+            settings, formats, gregorian, events, calendars, inspector, itemView,
+            WindowExports{exportCSV,
+                          exportTSV,
+                          exportTXT,
+                          exportNotes,
+                          scripts,
+                          report,
+                          {reportQueue, main, formats, gregorian},
+                          notes},
             delegate, *table, *resultsPane, exportItems, menuTimeColumns,
             CalendarActions{
                 .addCalendar = [](const QString&) { return std::expected<void, QString>(); },
@@ -144,8 +154,27 @@ protected:
         {settings, *resultsPane, eventsController, events, billing, formats}};
     FakePasteboard pasteboard;
     EventItemTableView copying{{events, *table, fields, pasteboard}};
+    FakeScriptRunner scripts;
+    FakeInstalledPrograms installed;
+    FakeTextColor textColor;
+    FakeQueue reportQueue;
+    EventNotesViewController notes{{settings, events, formats}};
+    ExportTxtViewController report{{settings, *table, events, calendars, fields}};
     ExportCSV exportCSV{{settings, *table, events, fields, panel, progress}};
-    AppDelegate delegate{{settings, workspace, launcher, updater, {&exportItems.csv}, {}}};
+    ExportTSV exportTSV{{settings, *table, events, fields, panel, progress}};
+    ExportTXT exportTXT{
+        {settings, formats, panel, alerts, scripts, installed, textColor, progress,
+         [this](const ExportProgress&) { return report.eventsAttributedString().text(); }}};
+    ExportNotes exportNotes{{settings, formats, panel, alerts, scripts, installed, textColor,
+                             progress,
+                             [this](const ExportProgress&) { return notes.notes().text(); }}};
+    AppDelegate delegate{
+        {settings,
+         workspace,
+         launcher,
+         updater,
+         {&exportItems.text, &exportItems.csv, &exportItems.tsv, &exportItems.notes},
+         {}}};
     std::unique_ptr<MainWindow> window;
 };
 

@@ -1,0 +1,201 @@
+#include "WindowFixture.h"
+
+#include "window/ReportView.h"
+
+#include <QAbstractButton>
+#include <QElapsedTimer>
+#include <QHeaderView>
+#include <QPlainTextEdit>
+#include <QSplitter>
+#include <QTest>
+
+namespace quillet {
+
+namespace {
+
+class ExportPanesTest : public test::WindowFixture {
+protected:
+    QAction* action(const char* name) {
+        return window->findChild<QAction*>(QString::fromLatin1(name));
+    }
+    ReportView* reportView() { return window->findChild<ReportView*>(); }
+    QPlainTextEdit* notesView() { return window->findChild<QPlainTextEdit*>(); }
+    void openReport() {
+        exportItems.text.action().trigger();
+        fetch();
+    }
+    std::vector<ActionToolbarItem*> items() {
+        return {&exportItems.text, &exportItems.csv, &exportItems.tsv, &exportItems.notes};
+    }
+    bool areItemsEnabled() {
+        return std::ranges::all_of(
+            items(), [](ActionToolbarItem* item) { return item->action().isEnabled(); });
+    }
+    bool areItemsDisabled() {
+        return std::ranges::none_of(
+            items(), [](ActionToolbarItem* item) { return item->action().isEnabled(); });
+    }
+    /// A button of the pane that is open.
+    QAbstractButton* button(const char* text) {
+        for (QAbstractButton* found : window->findChildren<QAbstractButton*>()) {
+            if (found->isVisible() && found->text().remove(u'&') == QString::fromUtf8(text)) {
+                return found;
+            }
+        }
+        ADD_FAILURE() << "no button says " << text;
+        return nullptr;
+    }
+};
+
+} // namespace
+
+TEST_F(ExportPanesTest, TheReportOpensBelowTheTableAndClosesAgain) {
+    open();
+    ASSERT_TRUE(areItemsEnabled());
+    EXPECT_FALSE(reportView()->isVisible());
+    openReport();
+    EXPECT_TRUE(reportView()->isVisible());
+    EXPECT_TRUE(areItemsDisabled());
+    EXPECT_EQ(reportView()->accessibleName(), QStringLiteral("Text Report"));
+    EXPECT_EQ(reportView()->text(), report.eventsAttributedString().text());
+    EXPECT_TRUE(reportView()->text().contains("Planning"));
+    EXPECT_TRUE(named<QSplitter>("centre")->handle(1)->isEnabled());
+    EXPECT_GT(reportView()->height(), 50);
+    button("Close")->click();
+    EXPECT_FALSE(reportView()->isVisible());
+    EXPECT_TRUE(areItemsEnabled());
+    EXPECT_FALSE(named<QSplitter>("centre")->handle(1)->isEnabled());
+}
+
+TEST_F(ExportPanesTest, EscapeClosesThePaneThatHasTheFocus) {
+    open();
+    openReport();
+    QTest::keyClick(reportView(), Qt::Key_Escape);
+    EXPECT_FALSE(reportView()->isVisible());
+    EXPECT_TRUE(areItemsEnabled());
+}
+
+TEST_F(ExportPanesTest, TheMenuOpensAndClosesThePanesAndOffersOneAtATime) {
+    open();
+    QAction* text = action("displayTxtExportView");
+    QAction* notesAction = action("displayNotesExportView");
+    text->trigger();
+    fetch();
+    EXPECT_TRUE(reportView()->isVisible());
+    EXPECT_TRUE(text->isChecked());
+    EXPECT_FALSE(notesAction->isEnabled());
+    text->trigger();
+    EXPECT_FALSE(reportView()->isVisible());
+    EXPECT_FALSE(text->isChecked());
+    notesAction->trigger();
+    fetch();
+    EXPECT_TRUE(notesView()->isVisible());
+    EXPECT_FALSE(text->isEnabled());
+}
+
+TEST_F(ExportPanesTest, TheReportFollowsColumnsWidthsSwitchesAndSelection) {
+    open();
+    openReport();
+    const auto expectCurrent = [&] {
+        fetch();
+        EXPECT_EQ(reportView()->text(), report.eventsAttributedString().text());
+    };
+    const QString first = reportView()->text();
+    table->horizontalHeader()->resizeSection(2, 300);
+    expectCurrent();
+    EXPECT_NE(reportView()->text(), first);
+    table->moveColumn(table->positionOf("title"), 0);
+    expectCurrent();
+    EXPECT_LT(reportView()->text().indexOf("Title"), reportView()->text().indexOf("Start Date"));
+    settings.setObject("isTXTSummaryRow", false);
+    expectCurrent();
+    settings.setObject("txtHeader", "For Mills & Daughters");
+    expectCurrent();
+    EXPECT_TRUE(reportView()->text().contains("For Mills & Daughters"));
+    settings.setObject("totalsTabViewSelection", 1);
+    table->selectRow(1);
+    expectCurrent();
+    EXPECT_FALSE(reportView()->text().contains("Planning"));
+    settings.setObject("isNotesColumn", true);
+    expectCurrent();
+}
+
+TEST_F(ExportPanesTest, ALongReportIsBuiltInTheBackgroundAndAnOvertakenOneIsDropped) {
+    const Event sample = store.storedEvents.front();
+    store.storedEvents.assign(5000, sample);
+    open();
+    openReport();
+    EXPECT_EQ(reportView()->text(), QString());
+    settings.setObject("txtHeader", "second");
+    fetch();
+    ASSERT_TRUE(reportQueue.runOne());
+    fetch();
+    EXPECT_EQ(reportView()->text(), QString());
+    ASSERT_TRUE(reportQueue.runOne());
+    EXPECT_FALSE(reportQueue.runOne());
+    fetch();
+    EXPECT_TRUE(reportView()->text().contains("second"));
+    EXPECT_EQ(reportView()->text(), report.eventsAttributedString().text());
+}
+
+TEST_F(ExportPanesTest, TheReportIsSavedAndMailedFromItsPane) {
+    open();
+    openReport();
+    button("Save…")->click();
+    ASSERT_EQ(panel.requests.size(), 1U);
+    EXPECT_EQ(panel.requests.front().fileType, QStringLiteral("txt"));
+    button("Mail")->click();
+    ASSERT_EQ(scripts.sources.size(), 1);
+    EXPECT_TRUE(scripts.sources.front().contains("Planning"));
+}
+
+TEST_F(ExportPanesTest, MailWithNoPaneOpenTakesTheReport) {
+    open();
+    action("sendToMail")->trigger();
+    ASSERT_EQ(scripts.sources.size(), 1);
+    EXPECT_TRUE(scripts.sources.front().contains("Planning"));
+    EXPECT_FALSE(reportView()->isVisible());
+}
+
+TEST_F(ExportPanesTest, WhereNoProgramTakesScriptsMailSaysSo) {
+    scripts.isThere = false;
+    open();
+    EXPECT_FALSE(action("sendToMail")->isEnabled());
+    EXPECT_EQ(action("sendToMail")->text(),
+              QStringLiteral("Mail (no mail program can be reached yet)"));
+    EXPECT_EQ(action("sendToMail")->iconText(), QStringLiteral("Mail"));
+    openReport();
+    EXPECT_FALSE(button("Mail")->isEnabled());
+    EXPECT_FALSE(button("Mail")->toolTip().isEmpty());
+}
+
+TEST_F(ExportPanesTest, TheNotesShowTheirHeadingsAndSwitches) {
+    auto details = *store.storedEvents.front().details;
+    details.notes = QStringLiteral("Bring the drawings\n<b>not bold</b>");
+    store.storedEvents.front().details = std::make_shared<const EventDetails>(details);
+    open();
+    exportItems.notes.action().trigger();
+    fetch();
+    ASSERT_TRUE(notesView()->isVisible());
+    EXPECT_EQ(notesView()->accessibleName(), QStringLiteral("Event Notes"));
+    EXPECT_TRUE(areItemsDisabled());
+    EXPECT_EQ(
+        notesView()->toPlainText(),
+        QStringLiteral("\nWork - 3/4/24 - Planning\nBring the drawings\n<b>not bold</b>\n\n\n"));
+    settings.setObject("isEventNotesCalendar", false);
+    fetch();
+    EXPECT_TRUE(notesView()->toPlainText().startsWith("\n3/4/24 - Planning\n"));
+    QTextCursor cursor(notesView()->document());
+    cursor.setPosition(5);
+    EXPECT_EQ(cursor.charFormat().fontWeight(), QFont::Bold);
+    cursor.setPosition(static_cast<int>(notesView()->toPlainText().indexOf("drawings")) + 1);
+    EXPECT_NE(cursor.charFormat().fontWeight(), QFont::Bold);
+    button("Save…")->click();
+    ASSERT_EQ(panel.requests.size(), 1U);
+    EXPECT_TRUE(panel.requests.front().suggestedName.startsWith("Event Notes"));
+    button("Close")->click();
+    EXPECT_FALSE(notesView()->isVisible());
+    EXPECT_TRUE(areItemsEnabled());
+}
+
+} // namespace quillet
