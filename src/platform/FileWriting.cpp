@@ -15,7 +15,9 @@ QByteArray encodedText(const QString& text, TextEncoding encoding) {
 
 std::expected<void, QString> writeAtomically(const QString& path, const QByteArray& bytes) {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+    // A short write of what was buffered is told by flush() alone: commit() would pass it over.
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
+        !file.commit()) {
         return std::unexpected(file.errorString());
     }
     return {};

@@ -1,5 +1,7 @@
 #include "platform/FileWriting.h"
 
+#include "support/FullDisk.h"
+
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -43,6 +45,20 @@ TEST(FileWritingTest, AFailureSaysWhyAndLeavesNothing) {
     ASSERT_FALSE(result);
     EXPECT_FALSE(result.error().isEmpty());
     EXPECT_TRUE(QDir(folder.path()).isEmpty());
+}
+
+TEST(FileWritingTest, AFullDiskLeavesTheOldFileAndNothingElse) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("out.csv");
+    ASSERT_TRUE(writeAtomically(path, "old"));
+    for (const qsizetype size : {5'000, 5'000'000}) {
+        const test::FullDisk disk(4096);
+        const auto result = writeAtomically(path, QByteArray(size, 'x'));
+        ASSERT_FALSE(result) << size;
+        EXPECT_FALSE(result.error().isEmpty());
+    }
+    EXPECT_EQ(contents(path), QByteArray("old"));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
 }
 
 } // namespace quillet
