@@ -34,7 +34,9 @@ bool readSettings(QIODevice& device, QSettings::SettingsMap& map) {
 
 bool writeSettings(QIODevice& device, const QSettings::SettingsMap& map) {
     const QByteArray text = settingsText(map);
-    return device.write(text) == text.size();
+    // A short write of what was buffered is told by flush() alone: closing would pass it over.
+    auto* file = qobject_cast<QFileDevice*>(&device);
+    return device.write(text) == text.size() && (file == nullptr || file->flush());
 }
 
 QSettings::Format jsonFormat() {

@@ -2,6 +2,7 @@
 
 #include "backends/settingsfile/SettingsJson.h"
 #include "support/ExpectedLog.h"
+#include "support/FullDisk.h"
 
 #include <QDir>
 #include <QFile>
@@ -219,6 +220,26 @@ TEST_F(SettingsFileTest, AFailingWriteIsReportedOnceAndItsRecoveryToo) {
     ASSERT_EQ(reports.size(), 2);
     EXPECT_TRUE(reports.back().isEmpty());
     EXPECT_TRUE(QFile::exists(blocked + "/quillet.json"));
+}
+
+TEST_F(SettingsFileTest, AFullDiskLeavesTheFileAsItWasAndIsReported) {
+    SettingsFile settings(path);
+    settings.setObject("key", 1);
+    settings.flush();
+    const QByteArray before = contents();
+    ASSERT_FALSE(before.isEmpty());
+    QStringList reports;
+    const Observation token =
+        settings.observeWriteProblem([&](const QString& text) { reports << text; });
+    settings.setObject("text", QString(8000, u'x'));
+    {
+        const test::FullDisk disk(4096);
+        settings.flush();
+    }
+    EXPECT_EQ(contents(), before);
+    EXPECT_EQ(reports.size(), 1);
+    settings.flush();
+    EXPECT_GT(contents().size(), 8000) << "written when there is room again";
 }
 
 TEST_F(SettingsFileTest, ReadingIsSafeOnAnotherThread) {
