@@ -1,11 +1,12 @@
-// The CSV text of 100,000 events in sixteen columns. The baseline writes the same finished fields,
-// read back out of that text, through the same string type: what formatting costs is the rest.
-// `CsvBench --benchmark_filter=none` with QUILLET_CSV_FILE set saves the text, so that another
-// program can be timed at writing the same fields.
+// The CSV and TSV texts and the clipboard rows of 100,000 events in sixteen columns. The baseline
+// writes the same finished fields, read back out of that text, through the same string type: what
+// formatting costs is the rest. `CsvBench --benchmark_filter=none` with QUILLET_CSV_FILE set saves
+// the text, so that another program can be timed at writing the same fields.
 
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"
 #include "eventtable/EventColumns.h"
+#include "eventtable/RowsText.h"
 #include "export/DelimitedText.h"
 #include "support/EventSamples.h"
 #include "support/Fakes.h"
@@ -47,12 +48,14 @@ struct Sample {
         settings.setObject("isSingleRate", true);
         settings.setObject("hourlyRate", 90);
         for (const EventColumn& column : eventColumns()) {
+            table.columns.push_back(std::make_unique<test::FakeColumn>(
+                QString::fromLatin1(column.identifier), QString(), 100.0));
             columns.push_back(
                 {QString::fromLatin1(column.identifier), QString::fromLatin1(column.defaultTitle)});
         }
     }
-    [[nodiscard]] QString text() const {
-        DelimitedText csv(columns, {}, fields, u',');
+    [[nodiscard]] QString text(QChar separator) const {
+        DelimitedText csv(columns, {}, fields, separator);
         csv.appendHeader();
         for (const Event& event : events) {
             csv.appendEvent(event);
@@ -66,23 +69,38 @@ struct Sample {
     BillingSettingsSource billing{settings, calendar};
     EventFields fields{billing, formats, calendar, calendar};
     std::vector<ExportColumn> columns;
+    test::FakeTable table;
     EventList events = sampleEvents();
 };
 
-const Sample& sample() {
-    static const Sample shared;
+Sample& sample() {
+    static Sample shared;
     return shared;
 }
 
 void csvOfAHundredThousandEvents(benchmark::State& state) {
     for (const auto _ : state) {
-        benchmark::DoNotOptimize(sample().text());
+        benchmark::DoNotOptimize(sample().text(u','));
     }
 }
 BENCHMARK(csvOfAHundredThousandEvents)->Unit(benchmark::kMillisecond);
 
+void tsvOfAHundredThousandEvents(benchmark::State& state) {
+    for (const auto _ : state) {
+        benchmark::DoNotOptimize(sample().text(u'\t'));
+    }
+}
+BENCHMARK(tsvOfAHundredThousandEvents)->Unit(benchmark::kMillisecond);
+
+void copiedRowsOfAHundredThousandEvents(benchmark::State& state) {
+    for (const auto _ : state) {
+        benchmark::DoNotOptimize(rowsText(sample().events, sample().table, sample().fields));
+    }
+}
+BENCHMARK(copiedRowsOfAHundredThousandEvents)->Unit(benchmark::kMillisecond);
+
 void finishedFieldsWrittenAgain(benchmark::State& state) {
-    const QStringList fields = sample().text().split(u',');
+    const QStringList fields = sample().text(u',').split(u',');
     for (const auto _ : state) {
         QString text;
         for (const QString& field : fields) {
@@ -98,7 +116,7 @@ BENCHMARK(finishedFieldsWrittenAgain)->Unit(benchmark::kMillisecond);
     const QString path = qEnvironmentVariable("QUILLET_CSV_FILE");
     QFile file(path);
     return !path.isEmpty() && file.open(QIODevice::WriteOnly) &&
-           file.write(sample().text().toUtf8()) > 0;
+           file.write(sample().text(u',').toUtf8()) > 0;
 }();
 
 } // namespace
