@@ -1,5 +1,7 @@
 #include "window/ShownRun.h"
 
+#include "window/DesktopDialogs.h"
+
 #include <QApplication>
 #include <QPushButton>
 #include <QTest>
@@ -46,6 +48,17 @@ TEST(ShownRunTest, LongWorkIsShownWithItsProgressAndClosesTheWindowToTheUser) {
         EXPECT_TRUE(run.goOn(3000, 3000));
     }
     EXPECT_EQ(shownDialog(window), nullptr);
+}
+
+TEST(ShownRunTest, TheProgramsDialogsShowTheProgressOverTheMainWindow) {
+    QWidget window;
+    window.show();
+    DesktopDialogs dialogs;
+    dialogs.setWindow(&window);
+    const auto run = dialogs.begin("Working…");
+    QTest::qSleep(longMilliseconds);
+    EXPECT_TRUE(run->goOn(1000, 3000));
+    EXPECT_NE(shownDialog(window), nullptr);
 }
 
 TEST(ShownRunTest, TheUserCanCancel) {
