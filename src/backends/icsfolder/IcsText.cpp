@@ -13,6 +13,8 @@ constexpr std::array<std::string_view, 15> eventProperties = {
 constexpr std::array<std::string_view, 6> zoneProperties = {"TZID",    "TZOFFSETFROM", "TZOFFSETTO",
                                                             "DTSTART", "RRULE",        "RDATE"};
 
+constexpr std::array<std::string_view, 3> freeTexts = {"SUMMARY", "LOCATION", "DESCRIPTION"};
+
 /// The parser drops a line with more values than 500.
 constexpr std::size_t mostValuesInLine = 250;
 
@@ -46,6 +48,11 @@ std::size_t valueOffset(std::string_view line) {
         }
     }
     return line.size();
+}
+
+/// Whether the parser would take a character off the end of a text, or it looks like a guard.
+bool needsGuard(char edge) {
+    return edge == textGuard || std::string_view(" \t\v\f\r").contains(edge);
 }
 
 /// Hands out lines with folds undone. A line is a view of the file where it was not folded.
@@ -212,9 +219,23 @@ private:
         }
         if (*property == "EXDATE" || *property == "RDATE") {
             appendSplit(line);
+        } else if (std::ranges::find(freeTexts, *property) != freeTexts.end()) {
+            appendFreeText(cut(line));
         } else {
             append(cut(line));
         }
+    }
+
+    void appendFreeText(std::string_view line) {
+        const std::string_view head = line.substr(0, valueOffset(line));
+        const std::string_view value = line.substr(head.size());
+        // A backslash at the end would take the guard for a part of its escape sequence.
+        if (value.empty() || value.ends_with('\\') ||
+            !(needsGuard(value.front()) || needsGuard(value.back()))) {
+            append(line);
+            return;
+        }
+        append(head, textGuard + std::string(value) + textGuard);
     }
 
     void appendSplit(std::string_view line) {

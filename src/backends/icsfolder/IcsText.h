@@ -20,6 +20,10 @@ constexpr std::size_t largestEventBytes = std::size_t(1024) * 1024;
 constexpr std::size_t mostEventsInFile = 300'000;
 constexpr std::size_t mostZonesInFile = 500;
 
+/// Stands at both ends of a title, place or note that begins or ends with a blank: the parser
+/// behind would drop such blanks. It has to be taken off again.
+constexpr char textGuard = '\x01';
+
 /// The whole content of a regular file. The error says why there is none, for the user.
 [[nodiscard]] std::expected<std::string, QString> readWholeFile(const std::string& path);
 /// At most so many of its first bytes.

@@ -1,6 +1,7 @@
 #include "backends/icsfolder/RawEvent.h"
 
 #include "backends/icsfolder/IcalValues.h"
+#include "backends/icsfolder/IcsText.h"
 
 #include <algorithm>
 
@@ -23,6 +24,13 @@ EventLength lengthFrom(const icaldurationtype& duration) {
                        duration.seconds;
     constexpr std::int64_t mostDays = longestEvent.count();
     return {days(std::min(wholeDays, mostDays)), seconds(std::min(clock, mostDays * 86400))};
+}
+
+QString freeTextFrom(const icalproperty* property) {
+    const QString text = textFrom(property);
+    const QChar guard = QLatin1Char(textGuard);
+    const bool isGuarded = text.size() >= 2 && text.front() == guard && text.back() == guard;
+    return isGuarded ? text.sliced(1, text.size() - 2) : text;
 }
 
 class EventReader {
@@ -51,13 +59,13 @@ private:
             event_.uid = textFrom(property);
             break;
         case ICAL_SUMMARY_PROPERTY:
-            event_.title = textFrom(property);
+            event_.title = freeTextFrom(property);
             break;
         case ICAL_LOCATION_PROPERTY:
-            event_.location = textFrom(property);
+            event_.location = freeTextFrom(property);
             break;
         case ICAL_DESCRIPTION_PROPERTY:
-            event_.notes = textFrom(property);
+            event_.notes = freeTextFrom(property);
             break;
         case ICAL_URL_PROPERTY:
             event_.url = textFrom(property);

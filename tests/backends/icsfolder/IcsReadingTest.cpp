@@ -20,6 +20,25 @@ TEST_F(IcsReadingTest, readsAFoldInTheMiddleOfACharacter) {
     EXPECT_EQ(titles(), QStringList({QStringLiteral("Café")}));
 }
 
+TEST_F(IcsReadingTest, keepsTheBlanksAtBothEndsOfATextButKnowsNoEmptyText) {
+    write(QStringLiteral("a.ics"),
+          eventFile("SUMMARY:  Indented \\n \r\nDESCRIPTION;LANGUAGE=en: \r\nLOCATION:\r\n"
+                    "DTSTART:20240301T110000Z"));
+    write(QStringLiteral("b.ics"),
+          eventFile("SUMMARY:\x01Guarded\x01\r\nDESCRIPTION:\tTab\r\nLOCATION:Hall \r\n  \r\n"
+                    "DTSTART:20240302T110000Z"));
+    write(QStringLiteral("c.ics"), eventFile("SUMMARY: Torn\\\r\nDTSTART:20240303T110000Z"));
+    const EventList events = allEvents();
+    ASSERT_EQ(events.size(), 3U);
+    EXPECT_EQ(events[0].details->title, QStringLiteral("  Indented \n "));
+    EXPECT_EQ(events[0].details->notes, QStringLiteral(" "));
+    EXPECT_TRUE(events[0].details->location.isNull());
+    EXPECT_EQ(events[1].details->title, QStringLiteral("\u0001Guarded\u0001"));
+    EXPECT_EQ(events[1].details->notes, QStringLiteral("\tTab"));
+    EXPECT_EQ(events[1].details->location, QStringLiteral("Hall  "));
+    EXPECT_EQ(events[2].details->title, QStringLiteral("Torn"));
+}
+
 TEST_F(IcsReadingTest, readsLinesThatEndInLineFeedsAlone) {
     write(QStringLiteral("a.ics"),
           eventFile("SUMMARY:Lunch\r\n, long\r\nDTSTART:20240301T110000Z").replace("\r\n", "\n"));
