@@ -49,6 +49,7 @@ ExportPane::ExportPane(const QString& title, QWidget& view, Actions actions, QWi
     auto* escape = new QShortcut(Qt::Key_Escape, this);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
     connect(escape, &QShortcut::activated, this, std::move(actions.close));
+    orderTabs();
 }
 
 ExportPane::~ExportPane() = default;
@@ -59,11 +60,24 @@ QPushButton* ExportPane::addButton(QBoxLayout& row, const QString& text,
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, std::move(action));
     row.addWidget(button);
+    row_.append(button);
     return button;
+}
+
+void ExportPane::orderTabs() {
+    QWidget* previous = nullptr;
+    for (QWidget* control : row_ + QList<QWidget*>{&view_}) {
+        if (previous != nullptr) {
+            setTabOrder(previous, control);
+        }
+        previous = control;
+    }
 }
 
 void ExportPane::addSwitch(QWidget& control) {
     switches_->addWidget(&control);
+    row_.insert(switchCount_++, &control);
+    orderTabs();
 }
 
 void ExportPane::setRemark(const QString& remark) {

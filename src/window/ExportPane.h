@@ -39,11 +39,16 @@ protected:
 
 private:
     QPushButton* addButton(QBoxLayout& row, const QString& text, std::function<void()> action);
+    /// As the eye goes: the row from its start to its end, then the view.
+    void orderTabs();
 
     QWidget& view_;
     QLabel* remark_;
     QBoxLayout* switches_;
     QPushButton* mail_ = nullptr;
+    /// The switches, then the buttons.
+    QList<QWidget*> row_;
+    qsizetype switchCount_ = 0;
 };
 
 } // namespace quillet

@@ -104,6 +104,9 @@ class Quillet:
         press(self.control(name, {ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON, ROLE.RADIO_BUTTON,
                                   ROLE.CHECK_BOX}))
 
+    def choose_tab(self, name):
+        press(self.control(name, {ROLE.PAGE_TAB}))
+
     def press_menu_item(self, name):
         items = {ROLE.MENU_ITEM, ROLE.CHECK_MENU_ITEM, ROLE.RADIO_MENU_ITEM}
         press(wait_for(f'a menu item "{name}"', lambda: next(
@@ -130,7 +133,12 @@ class Quillet:
 
     @staticmethod
     def _focus(control):
-        control.get_component_iface().grab_focus()
+        """Tables take the focus from keys only."""
+        if not control.get_component_iface().grab_focus():
+            for _ in range(60):
+                if has_state(control, Atspi.StateType.FOCUSED):
+                    break
+                press_key("Tab")
         wait_for(f'"{control.get_name()}" to have the focus',
                  lambda: has_state(control, Atspi.StateType.FOCUSED))
 

@@ -67,6 +67,25 @@ TEST_F(ExportPanesTest, TheReportOpensBelowTheTableAndClosesAgain) {
     EXPECT_FALSE(named<QSplitter>("centre")->handle(1)->isEnabled());
 }
 
+TEST_F(ExportPanesTest, TabGoesAlongTheRowAndThenIntoTheText) {
+    open();
+    openReport();
+    const QWidget* pane = reportView()->parentWidget();
+    QStringList names;
+    for (QWidget* next = button("Options…"); names.size() < 4; next = next->nextInFocusChain()) {
+        if (next->isVisible() && pane->isAncestorOf(next) && next->focusPolicy() != Qt::NoFocus) {
+            auto* found = qobject_cast<QAbstractButton*>(next);
+            names << (found != nullptr ? found->text().remove(u'&') : next->accessibleName());
+        }
+    }
+    EXPECT_EQ(names.join(' '), QString::fromUtf8("Options… Save… Mail Close"));
+    button("Close")->setFocus();
+    QTest::keyClick(button("Close"), Qt::Key_Tab);
+    EXPECT_EQ(window->focusWidget(), reportView());
+    QTest::keyClick(reportView(), Qt::Key_Backtab);
+    EXPECT_EQ(window->focusWidget(), button("Close"));
+}
+
 TEST_F(ExportPanesTest, EscapeClosesThePaneThatHasTheFocus) {
     open();
     openReport();
