@@ -1,7 +1,7 @@
 #include "export/TextReportTable.h"
 
 #include "eventdata/Duration.h"
-#include "export/ReportColumnText.h"
+#include "eventtable/ColumnText.h"
 
 namespace quillet {
 
@@ -10,7 +10,7 @@ namespace {
 QString titleLine(const std::vector<ReportColumn>& columns) {
     QString line;
     for (const ReportColumn& column : columns) {
-        const bool isKnown = ReportColumnText::shows(column.identifier);
+        const bool isKnown = ColumnText::shows(column.identifier);
         line += paddedCell(isKnown ? column.title : QString(), column.length);
     }
     return line + u'\n';
@@ -33,8 +33,8 @@ public:
         , text_(text) {
         qsizetype width = 0;
         for (const ReportColumn& column : content.columns) {
-            if (ReportColumnText::shows(column.identifier)) {
-                columns_.push_back({ReportColumnText(column.identifier), width, column.length});
+            if (ColumnText::shows(column.identifier)) {
+                columns_.push_back({ColumnText(column.identifier), width, column.length});
                 width += column.length + 1;
             }
         }
@@ -56,7 +56,7 @@ public:
 
 private:
     struct Column {
-        ReportColumnText text;
+        ColumnText text;
         /// Where its cell begins in a line.
         qsizetype start;
         qsizetype length;

@@ -1,4 +1,4 @@
-#include "export/ReportColumnText.h"
+#include "eventtable/ColumnText.h"
 
 #include <QHash>
 
@@ -21,17 +21,17 @@ Detail detailNamed(const QString& identifier) {
 
 } // namespace
 
-bool ReportColumnText::shows(const QString& identifier) {
+bool ColumnText::shows(const QString& identifier) {
     return identifier == calendarIdentifier || detailNamed(identifier) != nullptr ||
            EventTexts::fieldNamed(identifier) != nullptr;
 }
 
-ReportColumnText::ReportColumnText(const QString& identifier)
+ColumnText::ColumnText(const QString& identifier)
     : field_(EventTexts::fieldNamed(identifier))
     , detail_(detailNamed(identifier))
     , isCleaned_(identifier != addressIdentifier) {}
 
-QStringView ReportColumnText::of(const EventDetails& details, EventTexts& texts) {
+QStringView ColumnText::of(const EventDetails& details, EventTexts& texts) {
     if (field_ != nullptr) {
         made_ = (texts.*field_)();
         return made_;
@@ -40,7 +40,7 @@ QStringView ReportColumnText::of(const EventDetails& details, EventTexts& texts)
     return isCleaned_ ? cleaned(text) : QStringView(text);
 }
 
-QStringView ReportColumnText::cleaned(const QString& text) {
+QStringView ColumnText::cleaned(const QString& text) {
     if (!text.contains(u'%')) {
         return text;
     }

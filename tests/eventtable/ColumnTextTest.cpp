@@ -1,4 +1,4 @@
-#include "export/ReportColumnText.h"
+#include "eventtable/ColumnText.h"
 
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"
@@ -14,9 +14,9 @@ namespace {
 
 using test::utc;
 
-class ReportColumnTextTest : public testing::Test {
+class ColumnTextTest : public testing::Test {
 protected:
-    ReportColumnTextTest() {
+    ColumnTextTest() {
         billing.isMoneyOn = true;
         billing.singleRate = Decimal::fromInteger(60);
         details.calendar = test::calendarNamed("Work");
@@ -25,7 +25,7 @@ protected:
         EventTexts texts(billing, formats, calendar);
         const Event event{start, end, Instant(), std::make_shared<const EventDetails>(details)};
         texts.setEvent(event);
-        ReportColumnText column(QString::fromLatin1(identifier));
+        ColumnText column(QString::fromLatin1(identifier));
         return column.of(*event.details, texts).toString();
     }
 
@@ -39,7 +39,7 @@ protected:
 
 } // namespace
 
-TEST_F(ReportColumnTextTest, IsTheFieldOfTheColumn) {
+TEST_F(ColumnTextTest, IsTheFieldOfTheColumn) {
     details.title = "Night shift";
     details.location = "Room 1";
     details.notes = "Bring keys";
@@ -62,13 +62,13 @@ TEST_F(ReportColumnTextTest, IsTheFieldOfTheColumn) {
     EXPECT_EQ(shown("endWeekday"), "Tuesday");
 }
 
-TEST_F(ReportColumnTextTest, AnEndAtMidnightBelongsToTheDayBefore) {
+TEST_F(ColumnTextTest, AnEndAtMidnightBelongsToTheDayBefore) {
     end = utc(2024, 3, 5);
     EXPECT_EQ(shown("endDate"), "3/4/24");
     EXPECT_EQ(shown("endWeekday"), "Monday");
 }
 
-TEST_F(ReportColumnTextTest, DoublesPercentSignsInFreeTextsButNotInAddresses) {
+TEST_F(ColumnTextTest, DoublesPercentSignsInFreeTextsButNotInAddresses) {
     details.calendar = test::calendarNamed("%w%");
     details.title = "50% off %%";
     details.location = "%l";
@@ -81,25 +81,27 @@ TEST_F(ReportColumnTextTest, DoublesPercentSignsInFreeTextsButNotInAddresses) {
     EXPECT_EQ(shown("url"), "https://example.org/a%20b");
 }
 
-TEST_F(ReportColumnTextTest, LeavesQuotesAndLineFeedsAlone) {
+TEST_F(ColumnTextTest, LeavesQuotesAndLineFeedsAlone) {
     details.notes = "\"a\"\r\nb";
     EXPECT_EQ(shown("notes"), "\"a\"\r\nb");
 }
 
-TEST_F(ReportColumnTextTest, OfAMissingValueIsEmpty) {
+TEST_F(ColumnTextTest, OfAMissingValueIsNullAndOfAnEmptyOneEmpty) {
     billing.isMoneyOn = false;
     for (const char* identifier : {"title", "location", "notes", "url", "cost"}) {
-        EXPECT_EQ(shown(identifier), "") << identifier;
+        EXPECT_TRUE(shown(identifier).isNull()) << identifier;
     }
+    details.title = "";
+    EXPECT_TRUE(shown("title").isEmpty());
+    EXPECT_FALSE(shown("title").isNull());
 }
 
-TEST_F(ReportColumnTextTest, ShowsTheColumnsOfTheEventTableAndNoOther) {
+TEST_F(ColumnTextTest, ShowsTheColumnsOfTheEventTableAndNoOther) {
     for (const EventColumn& column : eventColumns()) {
-        EXPECT_TRUE(ReportColumnText::shows(QString::fromLatin1(column.identifier)))
-            << column.identifier;
+        EXPECT_TRUE(ColumnText::shows(QString::fromLatin1(column.identifier))) << column.identifier;
     }
     for (const char* identifier : {"", "colour", "Title", "URL", "startDate"}) {
-        EXPECT_FALSE(ReportColumnText::shows(QString::fromLatin1(identifier))) << identifier;
+        EXPECT_FALSE(ColumnText::shows(QString::fromLatin1(identifier))) << identifier;
     }
 }
 

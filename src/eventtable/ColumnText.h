@@ -8,17 +8,17 @@
 
 namespace quillet {
 
-/// What one column of the text report shows of an event. In calendar, title, notes and location
-/// every "%" is doubled; nothing else is changed.
-class ReportColumnText {
+/// What one column shows of events in the text report and in copied rows. In calendar, title, notes
+/// and location every "%" is doubled; nothing else is changed.
+class ColumnText {
 public:
     /// Whether it shows anything of an event: whether the identifier is one of the event table's.
     [[nodiscard]] static bool shows(const QString& identifier);
 
     /// Of an identifier that it shows.
-    explicit ReportColumnText(const QString& identifier);
+    explicit ColumnText(const QString& identifier);
 
-    /// Empty for a missing value. Valid until the next call, and while the event lives, which the
+    /// Null for a missing value. Valid until the next call, and while the event lives, which the
     /// texts must have been set to.
     [[nodiscard]] QStringView of(const EventDetails& details, EventTexts& texts);
 
