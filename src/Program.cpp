@@ -88,6 +88,8 @@ Program::Program(const ProgramPaths& paths)
 Program::~Program() {
     if (window_) {
         window_->saveState(paths_.stateFolder + windowStateFile);
+        // First, so that a report that is being built is given up instead of waited for.
+        window_.reset();
     }
     // The main queue's last tasks would find their receivers gone.
     fetchQueue_.reset();
