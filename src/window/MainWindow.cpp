@@ -7,6 +7,7 @@
 #include "window/InspectorPane.h"
 #include "window/RatePane.h"
 #include "window/ResultsPane.h"
+#include "window/SearchBox.h"
 #include "window/SettingsBinding.h"
 
 #include <QDragEnterEvent>
@@ -167,6 +168,11 @@ void MainWindow::showTableOrReason() {
         emptyState_->show(localized("No calendar is ticked"),
                           localized("Tick the calendars whose time counts."),
                           localized("Tick All Calendars"), [this] { tickAllCalendars(); });
+    } else if (with_.eventsArrayController.arrangedCount() == 0 &&
+               !with_.eventsArrayController.content()->empty()) {
+        emptyState_->show(localized("Nothing found"),
+                          localized("No event of this period matches the search."),
+                          localized("Clear Search"), [this] { searchBox_->clear(); });
     } else if (with_.eventsArrayController.arrangedCount() == 0) {
         emptyState_->show(localized("No events in this period"),
                           localized("The ticked calendars have no events on these days."),

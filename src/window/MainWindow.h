@@ -10,6 +10,7 @@
 #include "export/ExportTXT.h"
 #include "period/DateInspectorController.h"
 #include "results/EventNotesViewController.h"
+#include "results/SearchFieldController.h"
 #include "window/CalendarListModel.h"
 #include "window/InterfaceActions.h"
 #include "window/PreferencesPanes.h"
@@ -25,6 +26,7 @@
 class QLabel;
 class QSplitter;
 class QStackedWidget;
+class QToolBar;
 
 namespace quillet {
 
@@ -32,6 +34,7 @@ class CalendarPane;
 class EmptyState;
 class EventTableView;
 class ResultsPane;
+class SearchBox;
 
 /// What the window can ask for around the calendars themselves.
 struct CalendarActions {
@@ -105,6 +108,7 @@ private:
     [[nodiscard]] QString mailProblem() const;
     void mail();
     void closeExportPane(void (AppViewsController::*turnOff)());
+    void makeSearch(QToolBar& bar);
     void makeMenus();
     void makeFileMenu();
     void makeEditMenu();
@@ -132,6 +136,8 @@ private:
     QLabel* periodTitle_ = nullptr;
     QStackedWidget* centreStack_ = nullptr;
     EmptyState* emptyState_ = nullptr;
+    SearchBox* searchBox_ = nullptr;
+    std::unique_ptr<SearchFieldController> search_;
     std::unique_ptr<WindowPanes> panes_;
     std::unique_ptr<AppViewsController> views_;
     QSplitter* splitter_ = nullptr;

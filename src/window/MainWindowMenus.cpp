@@ -4,6 +4,7 @@
 #include "window/ColumnsMenu.h"
 #include "window/CopyCommand.h"
 #include "window/EventTableView.h"
+#include "window/SearchBox.h"
 #include "window/SettingsBinding.h"
 #include "window/SymbolIcon.h"
 
@@ -73,9 +74,26 @@ void MainWindow::makeToolBar() {
     bar->addActions({&items.csv.action(), &items.tsv.action(), mailAction_});
     bar->addSeparator();
     bar->addActions({previousAction_, currentAction_, nextAction_});
-    for (QToolButton* button : bar->findChildren<QToolButton*>()) {
+    makeSearch(*bar);
+    for (QToolButton* button :
+         bar->findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly)) {
         button->setFocusPolicy(Qt::TabFocus);
     }
+}
+
+void MainWindow::makeSearch(QToolBar& bar) {
+    auto* space = new QWidget(this);
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar.addWidget(space);
+    searchBox_ = new SearchBox(this);
+    bar.addWidget(searchBox_);
+    search_ = std::make_unique<SearchFieldController>(SearchFieldController::Collaborators{
+        with_.settings, *searchBox_, *searchBox_, with_.eventsArrayController});
+    connect(searchBox_, &QLineEdit::textChanged, this, [this] { search_->updateFilter(); });
+    connect(searchBox_, &SearchBox::categoryChosen, this,
+            [this](std::size_t position) { search_->setSearchCategoryFrom(position); });
+    connect(searchBox_, &SearchBox::left, this, [this] { with_.eventTable.setFocus(); });
+    search_->awakeFromNib();
 }
 
 void MainWindow::makeMenus() {
@@ -111,6 +129,17 @@ void MainWindow::makeEditMenu() {
               [this] { copyWhatHasTheFocus(with_.eventTable); });
     addAction(menu, localized("Select &All Events"), "selectAll", QKeySequence::SelectAll,
               [this] { with_.eventTable.selectAll(); });
+    menu.addSeparator();
+    addAction(menu, localized("&Find…"), "startSearch", QKeySequence::Find,
+              [this] { searchBox_->startSearch(); });
+    QMenu& places = *menu.addMenu(localized("Find &In"));
+    const auto fill = [this, &places] {
+        places.clear();
+        places.addActions(searchBox_->menu().actions());
+    };
+    // Each view has places of its own.
+    connect(&menu, &QMenu::aboutToShow, this, fill);
+    fill();
     menu.addSeparator();
     QAction* preferences =
         addAction(menu, localized("&Preferences…"), "showPreferences",

@@ -61,6 +61,21 @@ QPainterPath note() {
     return path;
 }
 
+/// The small arrow tells that there is a menu behind.
+QPainterPath magnifier() {
+    QPainterPath path;
+    path.addEllipse(QPointF(6.5, 6.5), 4, 4);
+    path.addPath(polyline({{9.5, 9.5}, {12.5, 12.5}}));
+    path.addPath(polyline({{12, 5.5}, {13.5, 7}, {15, 5.5}}));
+    return path;
+}
+
+QPainterPath pencil() {
+    QPainterPath path = polyline({{3, 13}, {3.5, 10.5}, {11, 3}, {13, 5}, {5.5, 12.5}, {3, 13}});
+    path.addPath(polyline({{9.5, 4.5}, {11.5, 6.5}}));
+    return path;
+}
+
 QPainterPath drawing(Symbol symbol) {
     QPainterPath path;
     switch (symbol) {
@@ -86,6 +101,16 @@ QPainterPath drawing(Symbol symbol) {
         return note();
     case Symbol::Mail:
         return envelope();
+    case Symbol::Search:
+        return magnifier();
+    case Symbol::Edit:
+        return pencil();
+    case Symbol::Add:
+        path = polyline({{8, 3.5}, {8, 12.5}});
+        path.addPath(polyline({{3.5, 8}, {12.5, 8}}));
+        return path;
+    case Symbol::Remove:
+        return polyline({{3.5, 8}, {12.5, 8}});
     case Symbol::Locked:
     case Symbol::Unlocked:
         return padlock(symbol == Symbol::Locked);

@@ -5,7 +5,21 @@
 
 namespace quillet {
 
-enum class Symbol { Previous, Current, Next, Save, Locked, Unlocked, Text, Notes, Mail };
+enum class Symbol {
+    Previous,
+    Current,
+    Next,
+    Save,
+    Locked,
+    Unlocked,
+    Text,
+    Notes,
+    Mail,
+    Search,
+    Edit,
+    Add,
+    Remove,
+};
 
 /// A line drawing in a colour of the palette, sharp at every size; it follows light and dark.
 [[nodiscard]] QIcon symbolIcon(Symbol symbol, QPalette::ColorRole role = QPalette::ButtonText);
