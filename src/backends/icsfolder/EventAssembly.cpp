@@ -57,7 +57,7 @@ public:
     void add(Family& family) {
         keepNewestMasters(family.masters);
         keepNewestVersions(family.overrides,
-                           [](const RawEvent& event) { return event.recurrenceId->instant(); });
+                           [&](const RawEvent& event) { return originalOf(event, family); });
         for (const RawEvent* master : family.masters) {
             addMaster(*master, family.overrides);
         }
@@ -81,13 +81,16 @@ private:
         keepNewestVersions(masters, [](const RawEvent& event) { return event.start->instant(); });
     }
 
-    /// The start that an exception replaces, read in the zone of its series where it names none.
+    /// The start that an exception replaces, however the exception names it.
     static sys_seconds originalOf(const RawEvent& moved, const Family& family) {
         const RawTime& named = *moved.recurrenceId;
-        if (named.kind != RawTime::Kind::Zoned && !family.masters.empty()) {
-            return family.masters.front()->start->zone->toInstant(named.local);
+        if (family.masters.empty()) {
+            return named.instant();
         }
-        return named.instant();
+        const RawEvent& master = *family.masters.front();
+        return named.kind == RawTime::Kind::Zoned && !master.isAllDay()
+                   ? named.instant()
+                   : master.start->zone->toInstant(inZoneOf(master, named));
     }
 
     void addMaster(const RawEvent& master, const std::vector<const RawEvent*>& overrides) {
@@ -141,7 +144,7 @@ private:
 
     static void addExtras(Series& series, const RawEvent& master) {
         for (const RawEvent::Extra& extra : master.extras) {
-            const LocalSeconds start = inZoneOf(series, extra.start, master);
+            const LocalSeconds start = inZoneOf(master, extra.start);
             std::optional<EventLength> length = extra.length;
             if (extra.end) {
                 const auto exact = extra.end->instant() - extra.start.instant();
@@ -152,27 +155,29 @@ private:
         }
     }
 
-    /// A time of another zone in the wall-clock time of the series.
-    static LocalSeconds inZoneOf(const Series& series, const RawTime& time,
-                                 const RawEvent& master) {
+    /// A time of another zone in the wall-clock time of a series.
+    static LocalSeconds inZoneOf(const RawEvent& master, const RawTime& time) {
+        const RawTime& start = *master.start;
+        const auto dayOf = [](LocalSeconds local) {
+            return std::chrono::floor<std::chrono::days>(local);
+        };
         if (master.isAllDay()) {
-            return std::chrono::floor<std::chrono::days>(time.kind == RawTime::Kind::Zoned
-                                                             ? series.zone->toLocal(time.instant())
-                                                             : time.local);
+            // A midnight names its day, also that of another zone.
+            const bool isDay = time.kind != RawTime::Kind::Zoned || time.local == dayOf(time.local);
+            return dayOf(isDay ? time.local : start.zone->toLocal(time.instant()));
         }
         if (time.kind == RawTime::Kind::Date) {
             // A day without a time means the series' time on that day.
-            return time.local +
-                   (series.start - std::chrono::floor<std::chrono::days>(series.start));
+            return time.local + (start.local - dayOf(start.local));
         }
         return time.kind == RawTime::Kind::Floating ? time.local
-                                                    : series.zone->toLocal(time.instant());
+                                                    : start.zone->toLocal(time.instant());
     }
 
     static void exclude(Series& series, const RawTime& time, const RawEvent& master) {
         if (time.kind == RawTime::Kind::Date || master.isAllDay()) {
             series.excludedDays.push_back(
-                std::chrono::floor<std::chrono::days>(inZoneOf(series, time, master)));
+                std::chrono::floor<std::chrono::days>(inZoneOf(master, time)));
         } else if (time.kind == RawTime::Kind::Floating) {
             series.excludedInstants.push_back(series.zone->toInstant(time.local));
         } else {
@@ -181,7 +186,7 @@ private:
     }
 
     void addVariation(Series& series, const RawEvent& moved, const RawEvent& master) {
-        const LocalSeconds original = inZoneOf(series, *moved.recurrenceId, master);
+        const LocalSeconds original = inZoneOf(master, *moved.recurrenceId);
         series.variations.push_back(
             {series.zone->toInstant(original), moved.start->local - original, moved.length(),
              moved.start->zone, moved.isCancelled ? nullptr : detailsFrom(moved)});

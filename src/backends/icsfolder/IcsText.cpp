@@ -100,6 +100,10 @@ public:
     IcsBlocks blocks;
 
     void take(std::string_view line) {
+        // Files that were joined keep the byte-order mark of each.
+        if (line.starts_with("\xEF\xBB\xBF")) {
+            line.remove_prefix(3);
+        }
         if (startsLine(line, "BEGIN")) {
             begin(trimmed(line.substr(6)));
         } else if (startsLine(line, "END")) {

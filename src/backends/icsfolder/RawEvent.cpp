@@ -46,6 +46,8 @@ public:
             takeTime(property);
             takeText(property);
         }
+        // An exception that names no start of its own leaves its occurrence where it was.
+        event_.start = event_.start ? event_.start : event_.recurrenceId;
         if (event_.start) {
             finishRules();
         }

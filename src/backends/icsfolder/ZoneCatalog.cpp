@@ -2,6 +2,9 @@
 
 #include "backends/icsfolder/IcalValues.h"
 
+#include <QHash>
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace quillet {
@@ -113,12 +116,43 @@ ZoneCatalog::Definition definitionFrom(const char* block) {
     return {nameText, std::make_shared<const ZoneRules>(earliest->second, std::move(transitions))};
 }
 
+/// Zone names in small letters, those of Windows too, with what this system calls them.
+const QHash<QByteArray, QByteArray>& knownNames() {
+    static const QHash<QByteArray, QByteArray> names = [] {
+        QHash<QByteArray, QByteArray> known{{"z", "UTC"},
+                                            {"utc", "UTC"},
+                                            {"coordinated universal time", "UTC"},
+                                            {"greenwich mean time", "UTC"}};
+        for (const QByteArray& name : QTimeZone::availableTimeZoneIds()) {
+            known.insert(name.toLower(), name);
+            if (const QByteArray windows = QTimeZone::ianaIdToWindowsId(name); !windows.isEmpty()) {
+                known.insert(windows.toLower(), QTimeZone::windowsIdToDefaultIanaId(windows));
+            }
+        }
+        return known;
+    }();
+    return names;
+}
+
+/// Whether a name can be that of a zone and of nothing else on the disk. "right" zones count leap
+/// seconds, which no calendar does.
+bool isZoneName(const QByteArray& name) {
+    static const QRegularExpression pattern(
+        QStringLiteral("^(?!right/)[A-Za-z][A-Za-z0-9_+-]*(/[A-Za-z0-9][A-Za-z0-9_+-]*)*$"));
+    return pattern.match(QString::fromLatin1(name)).hasMatch();
+}
+
 QTimeZone zoneWithName(const QByteArray& name) {
-    if (QTimeZone::isTimeZoneIdAvailable(name)) {
-        return QTimeZone(name);
+    // The list of available zones lacks the older names of many ("Asia/Calcutta").
+    if (isZoneName(name)) {
+        if (QTimeZone zone(name); zone.isValid()) {
+            return zone;
+        }
     }
-    const QByteArray known = QTimeZone::windowsIdToDefaultIanaId(name);
-    if (!known.isEmpty()) {
+    if (const QByteArray known = QTimeZone::windowsIdToDefaultIanaId(name); !known.isEmpty()) {
+        return QTimeZone(known);
+    }
+    if (const QByteArray known = knownNames().value(name.toLower()); !known.isEmpty()) {
         return QTimeZone(known);
     }
     // Some programs put a path of their own before the name.
