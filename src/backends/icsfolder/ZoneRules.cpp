@@ -25,9 +25,23 @@ std::shared_ptr<const ZoneRules> ZoneRules::fromTimeZone(const QTimeZone& zone) 
     const QDateTime first(QDate(1900, 1, 1), QTime(0, 0), Qt::UTC);
     const QDateTime last(QDate(2200, 1, 1), QTime(0, 0), Qt::UTC);
     std::vector<Transition> transitions;
-    for (const QTimeZone::OffsetData& data : zone.transitions(first, last)) {
+    const auto add = [&](const QDateTime& at) {
         transitions.push_back(
-            {sys_seconds(seconds(data.atUtc.toSecsSinceEpoch())), seconds(data.offsetFromUtc)});
+            {sys_seconds(seconds(at.toSecsSinceEpoch())), seconds(zone.offsetFromUtc(at))});
+    };
+    QDateTime latest(QDate(2037, 1, 1), QTime(0, 0), Qt::UTC);
+    for (const QTimeZone::OffsetData& data : zone.transitions(first, last)) {
+        add(data.atUtc);
+        latest = std::max(latest, data.atUtc);
+    }
+    // That list ends with 2037; the rules that go on are told one transition at a time.
+    for (;;) {
+        const QDateTime next = zone.nextTransition(latest.addSecs(1)).atUtc;
+        if (!next.isValid() || next <= latest || next > last) {
+            break;
+        }
+        add(next);
+        latest = next;
     }
     return std::make_shared<const ZoneRules>(seconds(zone.offsetFromUtc(first)),
                                              std::move(transitions));

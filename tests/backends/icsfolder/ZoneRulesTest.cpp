@@ -1,0 +1,46 @@
+#include "backends/icsfolder/ZoneRules.h"
+
+#include <QDateTime>
+
+#include <gtest/gtest.h>
+
+namespace quillet {
+
+namespace {
+
+using std::chrono::days;
+using std::chrono::hours;
+using std::chrono::seconds;
+using std::chrono::sys_days;
+using std::chrono::sys_seconds;
+
+} // namespace
+
+TEST(ZoneRulesTest, TellTheZonesOwnOffsetsOverTwoCenturies) {
+    for (const char* name : {"Europe/Berlin", "America/New_York", "America/Santiago", "Asia/Gaza",
+                             "Asia/Kolkata", "Australia/Lord_Howe", "Africa/Casablanca",
+                             "America/Sao_Paulo", "Pacific/Apia", "Europe/Dublin", "UTC"}) {
+        const QTimeZone zone(name);
+        const auto rules = ZoneRules::fromTimeZone(zone);
+        const sys_seconds last = sys_days(std::chrono::year(2150) / 1 / 1);
+        for (sys_seconds at = sys_days(std::chrono::year(1950) / 1 / 1); at < last;
+             at += days(9) + hours(7)) {
+            const auto offset = seconds(zone.offsetFromUtc(
+                QDateTime::fromSecsSinceEpoch(at.time_since_epoch().count(), Qt::UTC)));
+            ASSERT_EQ(rules->toLocal(at).time_since_epoch() - at.time_since_epoch(), offset)
+                << name << " " << at.time_since_epoch().count();
+        }
+    }
+}
+
+TEST(ZoneRulesTest, EveryInstantButARepeatedOneComesBack) {
+    const auto rules = ZoneRules::fromTimeZone(QTimeZone("Europe/Berlin"));
+    const sys_seconds first = sys_days(std::chrono::year(2044) / 1 / 1);
+    int repeated = 0;
+    for (sys_seconds at = first; at < first + days(366); at += hours(1)) {
+        repeated += rules->toInstant(rules->toLocal(at)) == at ? 0 : 1;
+    }
+    EXPECT_EQ(repeated, 1) << "the hour that the clocks repeat in autumn";
+}
+
+} // namespace quillet
