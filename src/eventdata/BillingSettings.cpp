@@ -2,6 +2,8 @@
 
 #include "eventdata/CalendarRecord.h"
 
+#include <algorithm>
+
 namespace quillet {
 
 namespace {
@@ -12,6 +14,8 @@ const QString isDollarsOnKey = QStringLiteral("isDollarsOn");
 const QString migrationKey = QStringLiteral("tempNumberRate");
 
 constexpr std::int64_t hoursOfADay = 24;
+/// No rule sets a lower bound; below this one sums could no longer be held.
+constexpr std::int64_t fewestHours = -1'000'000;
 constexpr std::chrono::seconds lengthOfADay{86'400};
 
 } // namespace
@@ -72,7 +76,8 @@ BillingSettings BillingSettingsSource::taken() const {
     if (const auto end = dateForKey(settings_, QStringLiteral("filterEndDate"))) {
         result.periodEnd = calendar_.startOfDay(*end) + lengthOfADay;
     }
-    result.allDayHours = integerForKey(settings_, allDayHoursKey);
+    result.allDayHours =
+        std::max<std::int64_t>(integerForKey(settings_, allDayHoursKey), fewestHours);
     result.isMoneyOn = boolForKey(settings_, isDollarsOnKey);
     result.isMoneyFromHours = integerForKey(settings_, QStringLiteral("timeTypeSelection")) == 1;
     result.isSingleRate = boolForKey(settings_, QStringLiteral("isSingleRate"));

@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace quillet {
 
 namespace {
@@ -157,6 +159,42 @@ TEST_F(EventFiguresTest, ANegativeRateCountsAsItsMagnitudeRoundedToTwoDecimals) 
 TEST_F(EventFiguresTest, ASingleRateThatWasNeverStoredIsZero) {
     settings.setObject("isSingleRate", true);
     EXPECT_EQ(text(of(ninetyMinutes).rate), "0");
+}
+
+TEST_F(EventFiguresTest, ASingleRateThatWasNeverStoredIsStoredAsZeroOnceMoneyIsOn) {
+    (void)source.current();
+    EXPECT_FALSE(settings.object("hourlyRate").isValid());
+    settings.setObject("isDollarsOn", true);
+    EXPECT_EQ(text(of(ninetyMinutes).cost), "NaN") << "no record and no single rate";
+    EXPECT_EQ(settings.object("hourlyRate").value<Decimal>(), Decimal());
+    EXPECT_TRUE(settings.object("hourlyRate").isValid());
+}
+
+TEST_F(EventFiguresTest, AbsurdHoursOfADayAreCountedWithoutOverflowing) {
+    settings.setObject("allDayHours", std::numeric_limits<qint64>::min());
+    EXPECT_LT(of(allDayEvent(utc(2024, 3, 4), utc(2024, 3, 6))).minutes, 0);
+    settings.setObject("allDayHours", -8);
+    EXPECT_EQ(of(allDayEvent(utc(2024, 3, 4), utc(2024, 3, 5))).minutes, -480);
+}
+
+TEST_F(EventFiguresTest, OnADayOf23HoursEightHoursCountProportionally) {
+    const IcuCalendarArithmetic berlin("de_DE", "Europe/Berlin", CalendarSystem::Gregorian);
+    BillingSettingsSource berlinSource(settings, berlin);
+    settings.setObject("allDayHours", 8);
+    EXPECT_EQ(
+        figures(allDayEvent(utc(2024, 3, 30, 23), utc(2024, 3, 31, 22)), berlinSource.current())
+            .minutes,
+        460);
+    EXPECT_EQ(
+        figures(allDayEvent(utc(2024, 10, 26, 22), utc(2024, 10, 27, 23)), berlinSource.current())
+            .minutes,
+        500);
+}
+
+TEST_F(EventFiguresTest, ANegativeSpanRoundsHalvesAwayFromZero) {
+    setPeriod(utc(2024, 3, 5), utc(2024, 3, 5));
+    EXPECT_EQ(of(timedEvent(utc(2024, 3, 4, 23), utc(2024, 3, 4, 23, 59, 30))).minutes, -1);
+    EXPECT_EQ(of(timedEvent(utc(2024, 3, 4, 23), utc(2024, 3, 4, 23, 59, 31))).minutes, 0);
 }
 
 TEST_F(EventFiguresTest, TheLastRecordOfACalendarDecides) {
