@@ -3,6 +3,7 @@
 #include "eventtable/EventColumns.h"
 #include "platform/Localized.h"
 
+#include <algorithm>
 #include <array>
 
 namespace quillet {
@@ -35,6 +36,9 @@ constexpr std::array<DefaultPlacement, 16> defaultPlacements{{
     {70, 4, true},
 }};
 
+/// What a stored layout may ask for; wider columns can only come from a hand that slipped.
+constexpr int widestPoints = 10'000;
+
 } // namespace
 
 std::vector<ColumnPlacement> defaultColumnPlacements() {
@@ -57,7 +61,9 @@ void applyPlacements(const std::vector<ColumnPlacement>& placements, ColumnTable
         if (position < 0) {
             continue;
         }
-        table.columnAt(position).setWidthPoints(placement.widthPoints);
+        if (placement.widthPoints > 0) {
+            table.columnAt(position).setWidthPoints(std::min(placement.widthPoints, widestPoints));
+        }
         if (placement.index >= 0 && placement.index < table.columnCount()) {
             table.moveColumn(position, placement.index);
         }

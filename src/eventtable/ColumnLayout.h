@@ -11,7 +11,9 @@ namespace quillet {
 /// Where one column stands in a layout.
 struct ColumnPlacement {
     QString identifier;
+    /// Null where a stored layout has none: the column keeps its own.
     QString title;
+    /// 0 or less where a stored layout has none: the column keeps its own.
     int widthPoints = 0;
     /// 0 is the leftmost; hidden columns count.
     int index = 0;

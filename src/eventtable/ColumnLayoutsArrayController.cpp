@@ -53,6 +53,10 @@ void ColumnLayoutsArrayController::updateDefaultColumnLayoutsName() {
 }
 
 void ColumnLayoutsArrayController::createColumnLayout() {
+    if (content()->empty()) {
+        // Somebody emptied the store; the first layout is the default one all the same.
+        createDefaultColumnLayouts();
+    }
     const QString name = localized("New Layout") + u' ' + QString::number(content()->size() + 1);
     append(capturedColumnLayout(with_.eventsTableView, name));
 }
@@ -74,7 +78,7 @@ void ColumnLayoutsArrayController::applyColumnLayout() {
     with_.settings.setObject(isApplyingKey, true);
     // One column after the other: each write of a visibility key may move the time columns.
     for (const ColumnPlacement& placement : layout.placements) {
-        if (boolForKey(with_.settings, usesNamesKey)) {
+        if (boolForKey(with_.settings, usesNamesKey) && !placement.title.isNull()) {
             with_.settings.setObject(layoutTitleKey(placement), placement.title);
         }
         applyPlacements({placement}, with_.eventsTableView);
@@ -112,12 +116,15 @@ void ColumnLayoutsArrayController::removeColumnLayout() {
              .buttonTitles = {localized("OK")}});
         return;
     }
+    const StoredColumnLayout doomed = arranged(row);
     const int answer =
         with_.alerts.runModal({.style = AlertStyle::Warning,
                                .messageText = localized("Delete the record?"),
                                .informativeText = localized("Deleted records cannot be restored."),
                                .buttonTitles = {localized("OK"), localized("Cancel")}});
-    if (answer != 0 || row >= arrangedCount()) {
+    // The stored list may have changed under the question.
+    if (answer != 0 || row >= arrangedCount() ||
+        valueFromColumnLayout(arranged(row)) != valueFromColumnLayout(doomed)) {
         return;
     }
     std::vector<StoredColumnLayout> layouts = *content();

@@ -29,7 +29,8 @@ public:
     void createDefaultColumnLayouts();
     /// Lets the first layout follow the current language; nothing when there is none.
     void updateDefaultColumnLayoutsName();
-    /// Appends the table as it stands, named "New Layout n", and selects it.
+    /// Appends the table as it stands, named "New Layout n", and selects it. In an empty list
+    /// "Default" comes first.
     void createColumnLayout();
     /// createColumnLayout(), then asks for the new name to be edited.
     void saveColumnLayout();

@@ -22,6 +22,11 @@ int boundedInteger(const QVariant& value) {
     return static_cast<int>(std::clamp(integerFromValue(value), lowest, highest));
 }
 
+/// A place outside the table, where the column stays, when there is none.
+int indexFromValue(const QVariant& value) {
+    return value.isValid() ? boundedInteger(value) : -1;
+}
+
 } // namespace
 
 StoredColumnLayout columnLayoutFromValue(const QVariant& value) {
@@ -33,7 +38,7 @@ StoredColumnLayout columnLayoutFromValue(const QVariant& value) {
             {.identifier = QString::fromLatin1(column.identifier),
              .title = stringFromValue(members.take(member(column, "ColumnName"))),
              .widthPoints = boundedInteger(members.take(member(column, "ColumnWidth"))),
-             .index = boundedInteger(members.take(member(column, "ColumnIndex"))),
+             .index = indexFromValue(members.take(member(column, "ColumnIndex"))),
              .isHidden = boolFromValue(members.take(member(column, "ColumnIsHidden")))});
     }
     layout.otherMembers = members;
@@ -45,7 +50,9 @@ QVariant valueFromColumnLayout(const StoredColumnLayout& layout) {
     members.insert(nameMember, layout.columnLayoutName);
     for (const ColumnPlacement& placement : layout.placements) {
         const EventColumn& column = eventColumn(placement.identifier);
-        members.insert(member(column, "ColumnName"), placement.title);
+        if (!placement.title.isNull()) {
+            members.insert(member(column, "ColumnName"), placement.title);
+        }
         members.insert(member(column, "ColumnWidth"), qint64(placement.widthPoints));
         members.insert(member(column, "ColumnIndex"), qint64(placement.index));
         members.insert(member(column, "ColumnIsHidden"), placement.isHidden);

@@ -16,7 +16,8 @@ struct StoredColumnLayout {
     QVariantMap otherMembers;
 };
 
-/// Members of a wrong type are read as the platform's typed getters do.
+/// Members of a wrong type are read as the platform's typed getters do; where they are missing the
+/// column keeps what it has, and is visible.
 [[nodiscard]] StoredColumnLayout columnLayoutFromValue(const QVariant& value);
 [[nodiscard]] QVariant valueFromColumnLayout(const StoredColumnLayout& layout);
 

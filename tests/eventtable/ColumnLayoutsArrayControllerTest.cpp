@@ -112,6 +112,75 @@ TEST_F(ColumnLayoutsArrayControllerTest, AStoreWhoseLayoutsWereEmptiedByHandStil
     EXPECT_TRUE(alerts.shown.empty());
 }
 
+TEST_F(ColumnLayoutsArrayControllerTest, TheNextCreationInAnEmptiedStorePutsTheDefaultLayoutFirst) {
+    settings.setObject("isDefaultColumnLayoutsCreated", true);
+    controller.awakeFromNib();
+    controller.saveColumnLayout();
+    ASSERT_EQ(storedCount(), 2);
+    EXPECT_EQ(stored(0).value("columnLayoutName"), QVariant("Default"));
+    EXPECT_EQ(stored(1).value("columnLayoutName"), QVariant("New Layout 2"));
+}
+
+TEST_F(ColumnLayoutsArrayControllerTest, MissingMembersLeaveTheColumnAsItIs) {
+    controller.awakeFromNib();
+    controller.createColumnLayout();
+    const QVariantMap second = stored(1);
+    settings.setObject("titleColumnTitle", "Task");
+    table.column("title").width = 55;
+    table.moveColumn(table.positionOf("title"), 6);
+    settings.setObject(layoutsKey,
+                       QVariantList{QVariantMap{{"columnLayoutName", "Bare"}}, 3, second});
+    settings.setObject("isTitleColumn", false);
+    const std::string before = order();
+    applyFirst();
+    EXPECT_EQ(order(), before);
+    EXPECT_EQ(table.column("title").width, 55.0);
+    EXPECT_EQ(settings.object("titleColumnTitle"), QVariant("Task"));
+    EXPECT_EQ(settings.object("isTitleColumn"), QVariant(true)) << "no column is hidden in it";
+    controller.renameColumnLayout(0, "Barer");
+    EXPECT_EQ(stored(0).value("columnLayoutName"), QVariant("Barer"));
+    EXPECT_FALSE(stored(0).contains("titleColumnName"));
+    EXPECT_EQ(stored(1), second) << "the other layout is not lost";
+}
+
+TEST_F(ColumnLayoutsArrayControllerTest, WidthsThatNoTableHasAreNotTakenOver) {
+    controller.awakeFromNib();
+    table.column("title").width = 55;
+    change("titleColumnWidth", -40);
+    applyFirst();
+    EXPECT_EQ(table.column("title").width, 55.0);
+    change("titleColumnWidth", qint64(1) << 40);
+    applyFirst();
+    EXPECT_EQ(table.column("title").width, 10'000.0);
+}
+
+TEST_F(ColumnLayoutsArrayControllerTest, ALayoutThatChangesUnderTheQuestionIsNotDeleted) {
+    class Rewriting final : public AlertPresenter {
+    public:
+        explicit Rewriting(SettingsStore& settings)
+            : settings_(settings) {}
+        [[nodiscard]] int runModal(const Alert& /*alert*/) override {
+            QVariantList layouts = arrayForKey(settings_, layoutsKey);
+            layouts.removeAt(1);
+            settings_.setObject(layoutsKey, layouts);
+            return 0;
+        }
+
+    private:
+        SettingsStore& settings_;
+    };
+    Rewriting rewriting(settings);
+    ColumnLayoutsArrayController layouts(
+        {.settings = settings, .eventsTableView = table, .alerts = rewriting});
+    layouts.awakeFromNib();
+    layouts.createColumnLayout();
+    layouts.createColumnLayout();
+    layouts.setSelectedRows({1});
+    layouts.removeColumnLayout();
+    ASSERT_EQ(storedCount(), 2);
+    EXPECT_EQ(stored(1).value("columnLayoutName"), QVariant("New Layout 3"));
+}
+
 TEST_F(ColumnLayoutsArrayControllerTest, SavingCapturesPlacesAndCutsWidths) {
     controller.awakeFromNib();
     table.moveColumn(table.positionOf("title"), 0);
