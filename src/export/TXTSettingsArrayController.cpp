@@ -3,6 +3,7 @@
 #include "platform/Localized.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace quillet {
 
@@ -105,6 +106,35 @@ void TXTSettingsArrayController::applyTXTSettings() {
     settings_.setObject(headerKey, preset.txtHeader);
     settings_.setObject(footerKey, preset.txtFooter);
     settings_.setObject(isApplyingKey, false);
+}
+
+void TXTSettingsArrayController::removeTXTSettings() {
+    if (selectedRows().empty()) {
+        return;
+    }
+    const std::size_t row = selectedRows().front();
+    if (row == 0) {
+        std::ignore =
+            alerts_.runModal({.style = AlertStyle::Warning,
+                              .messageText = localized("Cannot delete Default settings"),
+                              .informativeText = localized("Default settings cannot be deleted."),
+                              .buttonTitles = {localized("OK")}});
+        return;
+    }
+    const TXTSettings doomed = arranged(row);
+    const int answer =
+        alerts_.runModal({.style = AlertStyle::Warning,
+                          .messageText = localized("Delete the record?"),
+                          .informativeText = localized("Deleted records cannot be restored."),
+                          .buttonTitles = {localized("OK"), localized("Cancel")}});
+    // The stored list may have changed under the question.
+    if (answer != 0 || row >= arrangedCount() ||
+        valueFromTXTSettings(arranged(row)) != valueFromTXTSettings(doomed)) {
+        return;
+    }
+    std::vector<TXTSettings> presets = *content();
+    presets.erase(presets.begin() + static_cast<std::ptrdiff_t>(contentIndex(row)));
+    store(presets, {std::min(row, presets.size() - 1)});
 }
 
 void TXTSettingsArrayController::renameTXTSettings(std::size_t row, const QString& name) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "export/TXTSettings.h"
+#include "platform/Alert.h"
 #include "platform/ListController.h"
 #include "platform/Observation.h"
 #include "platform/SettingsStore.h"
@@ -15,8 +16,9 @@ class TXTSettingsArrayController : public ListController<TXTSettings> {
     Q_OBJECT
 
 public:
-    explicit TXTSettingsArrayController(SettingsStore& settings)
-        : settings_(settings) {}
+    TXTSettingsArrayController(SettingsStore& settings, AlertPresenter& alerts)
+        : settings_(settings)
+        , alerts_(alerts) {}
 
     void awakeFromNib();
     void createDefaultTXTSettings();
@@ -31,6 +33,9 @@ public:
     /// Copies the first selected preset into the report's settings; nothing without a selection.
     /// `isApplyTXTSettingsOn` is on meanwhile.
     void applyTXTSettings();
+    /// Deletes the first selected preset, once the user agrees; the first of the list is refused.
+    /// Nothing without a selection.
+    void removeTXTSettings();
     /// The user's new name for a preset.
     void renameTXTSettings(std::size_t row, const QString& name);
 
@@ -44,6 +49,7 @@ private:
     void store(const std::vector<TXTSettings>& presets, std::vector<std::size_t> selectedRows);
 
     SettingsStore& settings_;
+    AlertPresenter& alerts_;
     Observation storedPresets_;
 };
 

@@ -2,6 +2,7 @@
 
 #include "export/TextReportRefresh.h"
 #include "platform/Event.h"
+#include "support/Fakes.h"
 #include "support/MemorySettings.h"
 
 #include <QRegularExpression>
@@ -22,7 +23,8 @@ protected:
     [[nodiscard]] qsizetype storedCount() const { return arrayForKey(settings, presetsKey).size(); }
 
     test::MemorySettings settings;
-    TXTSettingsArrayController controller{settings};
+    test::FakeAlerts alerts;
+    TXTSettingsArrayController controller{settings, alerts};
 };
 
 } // namespace
@@ -47,7 +49,7 @@ TEST_F(TXTSettingsArrayControllerTest, AFreshInstallationHasTheDefaultPresetAlon
                                       {"txtSettingsTxtHeader", ""},
                                       {"txtSettingsTxtFooter", ""}}));
     EXPECT_FALSE(stored(0).value("txtSettingsTxtHeader").toString().isNull());
-    TXTSettingsArrayController next(settings);
+    TXTSettingsArrayController next(settings, alerts);
     next.awakeFromNib();
     EXPECT_EQ(storedCount(), 1);
 }
@@ -79,7 +81,7 @@ TEST_F(TXTSettingsArrayControllerTest, SettingsKeptForMailsBecomeAPresetOnce) {
                                       {"txtSettingsTxtFooter", ""}}));
     EXPECT_TRUE(settings.keys().filter(QRegularExpression("[mM]ail")).isEmpty());
     EXPECT_EQ(settings.object("isTXTWrapping"), QVariant(true));
-    TXTSettingsArrayController next(settings);
+    TXTSettingsArrayController next(settings, alerts);
     next.awakeFromNib();
     EXPECT_EQ(storedCount(), 2);
 }
@@ -91,7 +93,7 @@ TEST_F(TXTSettingsArrayControllerTest, EachOldKeyAloneStartsTheMigration) {
           "isMailSummaryRow", "mailHeader", "mailFooter"}) {
         test::MemorySettings old;
         old.setObject(key, false);
-        TXTSettingsArrayController migrating(old);
+        TXTSettingsArrayController migrating(old, alerts);
         migrating.awakeFromNib();
         EXPECT_EQ(arrayForKey(old, presetsKey).size(), 2) << key;
         EXPECT_FALSE(hasKey(old, key)) << key;
@@ -149,6 +151,55 @@ TEST_F(TXTSettingsArrayControllerTest, WithoutASelectionNothingIsApplied) {
     settings.writes.clear();
     controller.setTXTSettings();
     EXPECT_TRUE(settings.writes.isEmpty());
+}
+
+TEST_F(TXTSettingsArrayControllerTest, TheFirstPresetCannotBeDeleted) {
+    controller.awakeFromNib();
+    controller.setSelectedRows({0});
+    controller.removeTXTSettings();
+    ASSERT_EQ(alerts.shown.size(), 1U);
+    EXPECT_EQ(alerts.shown[0].messageText, "Cannot delete Default settings");
+    EXPECT_EQ(alerts.shown[0].informativeText, "Default settings cannot be deleted.");
+    EXPECT_EQ(alerts.shown[0].buttonTitles, QStringList{"OK"});
+    EXPECT_EQ(storedCount(), 1);
+}
+
+TEST_F(TXTSettingsArrayControllerTest, OtherPresetsAreDeletedOnceTheUserAgrees) {
+    controller.awakeFromNib();
+    controller.createTXTSettings();
+    controller.createTXTSettings();
+    controller.setSelectedRows({1});
+    alerts.answer = 1;
+    controller.removeTXTSettings();
+    EXPECT_EQ(storedCount(), 3);
+    alerts.answer = 0;
+    controller.removeTXTSettings();
+    EXPECT_EQ(storedCount(), 2);
+    EXPECT_EQ(stored(1).value("txtSettingsName"), QVariant("New Settings 3"));
+    EXPECT_EQ(controller.selectedRows(), std::vector<std::size_t>{1});
+    ASSERT_EQ(alerts.shown.size(), 2U);
+    EXPECT_EQ(alerts.shown[1].messageText, "Delete the record?");
+    EXPECT_EQ(alerts.shown[1].informativeText, "Deleted records cannot be restored.");
+    EXPECT_EQ(alerts.shown[1].buttonTitles, (QStringList{"OK", "Cancel"}));
+    controller.setSelectedRows({});
+    controller.removeTXTSettings();
+    EXPECT_EQ(alerts.shown.size(), 2U);
+}
+
+TEST_F(TXTSettingsArrayControllerTest, APresetEditedByHandIsAppliedAsItCanBeRead) {
+    controller.awakeFromNib();
+    settings.setObject("isTXTWrapping", true);
+    settings.setObject(presetsKey,
+                       QVariantList{stored(0), 7, QVariantMap{{"txtSettingsIsTXTMax", "YES"}}});
+    ASSERT_EQ(controller.arrangedCount(), 2U);
+    controller.setSelectedRows({1});
+    controller.setTXTSettings();
+    EXPECT_EQ(settings.object("isTXTMax"), QVariant(true));
+    EXPECT_EQ(settings.object("isTXTWrapping"), QVariant(false));
+    EXPECT_EQ(settings.object("txtHeader"), QVariant(""));
+    controller.renameTXTSettings(1, "Short");
+    EXPECT_EQ(stored(0).value("txtSettingsName"), QVariant("Default"));
+    EXPECT_EQ(stored(1).value("txtSettingsName"), QVariant("Short"));
 }
 
 TEST_F(TXTSettingsArrayControllerTest, MembersOfANewerVersionAreCarriedAlong) {

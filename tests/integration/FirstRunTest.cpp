@@ -125,7 +125,7 @@ protected:
     PreferencesColumnsViewController preferencesColumns{settings};
     EventNotesViewController notes{{settings, list, formats}};
     TextReportRefresh report{settings, list};
-    TXTSettingsArrayController presets{settings};
+    TXTSettingsArrayController presets{settings, alerts};
     AppViewsController panesController{{settings, panes, button, button, button, button}};
     PreferencesWindowController preferencesController{settings, preferences};
     AppDelegate delegate{{settings, workspace, launcher, updater, {&button}, "/notes.rtf"}};
