@@ -100,7 +100,7 @@ void Program::start() {
     wake();
     window_ = std::make_unique<MainWindow>(MainWindow::Collaborators{
         settings_, formats_, currentCalendar_, events_, calendars_, dateInspector_, eventItemView_,
-        exports(), appDelegate_, *eventTable_, *resultsPane_, exportItems_, menuTimeColumns_,
+        exports(), {columnLayouts_, txtSettings_}, appDelegate_, *eventTable_, *resultsPane_, exportItems_, menuTimeColumns_,
         calendarActions()});
     dialogs_.setWindow(window_.get());
     connectNotices();

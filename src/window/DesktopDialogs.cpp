@@ -3,7 +3,7 @@
 #include "platform/Localized.h"
 #include "window/ShownRun.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileDialog>
@@ -15,7 +15,9 @@
 namespace quillet {
 
 int DesktopDialogs::runModal(const Alert& alert) {
-    QMessageBox box(window_);
+    // Over a sheet that is open, which would hide it otherwise.
+    QWidget* sheet = QApplication::activeModalWidget();
+    QMessageBox box(sheet != nullptr ? sheet : window_.data());
     box.setIcon(alert.style == AlertStyle::Warning ? QMessageBox::Warning
                                                    : QMessageBox::Information);
     box.setTextFormat(Qt::PlainText);

@@ -9,6 +9,7 @@
 #include "window/ResultsPane.h"
 #include "window/SearchBox.h"
 #include "window/SettingsBinding.h"
+#include "window/SymbolIcon.h"
 
 #include <QDragEnterEvent>
 #include <QLabel>
@@ -18,6 +19,7 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
 
@@ -40,8 +42,11 @@ QFrame* line() {
 MainWindow::MainWindow(Collaborators collaborators, QWidget* parent)
     : QMainWindow(parent)
     , with_(std::move(collaborators))
+    , columnLayoutsPopover_(with_.settings, with_.arrangements.columnLayouts)
+    , txtSettingsSheet_(with_.arrangements.txtSettings, *this)
     , preferences_({with_.settings, with_.formats,
-                    [this] { with_.eventItemViewController.resetAllColumnTitles(); }},
+                    [this] { with_.eventItemViewController.resetAllColumnTitles(); },
+                    [this] { txtSettingsSheet_.controller().openTXTSettingsSheet(); }},
                    *this) {
     setWindowTitle(QStringLiteral("Quillet"));
     setAcceptDrops(true);
@@ -107,9 +112,27 @@ QWidget* MainWindow::makeEventItemView() {
     auto* layout = new QVBoxLayout(view);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(periodTitle_);
+    makeColumnLayoutsButton();
+    auto* titleRow = new QHBoxLayout;
+    titleRow->setSpacing(0);
+    titleRow->addWidget(periodTitle_, 1);
+    titleRow->addWidget(columnLayoutsButton_);
+    layout->addLayout(titleRow);
     layout->addWidget(centreStack_, 1);
     return view;
+}
+
+void MainWindow::makeColumnLayoutsButton() {
+    columnLayoutsButton_ = new QToolButton(this);
+    columnLayoutsButton_->setText(localized("Layouts"));
+    columnLayoutsButton_->setIcon(symbolIcon(Symbol::Columns));
+    columnLayoutsButton_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    columnLayoutsButton_->setAutoRaise(true);
+    columnLayoutsButton_->setFocusPolicy(Qt::TabFocus);
+    columnLayoutsButton_->setObjectName(QStringLiteral("columnLayouts"));
+    columnLayoutsButton_->setToolTip(localized("Keeps arrangements of the columns under names"));
+    connect(columnLayoutsButton_, &QToolButton::clicked, this,
+            [this] { columnLayoutsPopover_.showColumnLayoutsPopover(*columnLayoutsButton_); });
 }
 
 QWidget* MainWindow::makeCentre() {

@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "app/AppViewsController.h"
 #include "calendars/CalendarsArrayController.h"
+#include "eventtable/ColumnLayoutsArrayController.h"
 #include "eventtable/EventItemViewController.h"
 #include "export/ExportCSV.h"
 #include "export/ExportNotes.h"
@@ -12,9 +13,11 @@
 #include "results/EventNotesViewController.h"
 #include "results/SearchFieldController.h"
 #include "window/CalendarListModel.h"
+#include "window/ColumnLayoutsPopoverController.h"
 #include "window/InterfaceActions.h"
 #include "window/PreferencesPanes.h"
 #include "window/ReportPane.h"
+#include "window/TXTSettingsSheet.h"
 #include "window/WindowPanes.h"
 
 #include <QMainWindow>
@@ -27,6 +30,7 @@ class QLabel;
 class QSplitter;
 class QStackedWidget;
 class QToolBar;
+class QToolButton;
 
 namespace quillet {
 
@@ -59,6 +63,12 @@ struct WindowExports {
     EventNotesViewController& eventNotes;
 };
 
+/// What the user keeps under names.
+struct NamedArrangements {
+    ColumnLayoutsArrayController& columnLayouts;
+    TXTSettingsArrayController& txtSettings;
+};
+
 /// The main window: the calendars to the left, the events in the middle, the period to the right.
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -73,6 +83,7 @@ public:
         DateInspectorController& dateInspectorController;
         EventItemViewController& eventItemViewController;
         WindowExports exports;
+        NamedArrangements arrangements;
         AppDelegate& appDelegate;
         /// Become the window's.
         EventTableView& eventTable;
@@ -101,6 +112,7 @@ protected:
 private:
     void makePanes();
     [[nodiscard]] QWidget* makeEventItemView();
+    void makeColumnLayoutsButton();
     [[nodiscard]] QWidget* makeCentre();
     void makeToolBar();
     void makeExportActions();
@@ -145,6 +157,9 @@ private:
     QAction* currentAction_ = nullptr;
     QAction* nextAction_ = nullptr;
     QAction* mailAction_ = nullptr;
+    QToolButton* columnLayoutsButton_ = nullptr;
+    ColumnLayoutsPopoverController columnLayoutsPopover_;
+    TXTSettingsSheet txtSettingsSheet_;
     PreferencesPanes preferences_;
 };
 

@@ -179,10 +179,15 @@ void MainWindow::makeViewMenu() {
         fillColumnsMenu(columns, with_.settings, with_.timeColumnActions);
     });
     fillColumnsMenu(columns, with_.settings, with_.timeColumnActions);
+    addAction(menu, localized("Column &Layouts…"), "showColumnLayoutsPopover",
+              QKeySequence(Qt::CTRL | Qt::Key_L),
+              [this] { columnLayoutsPopover_.showColumnLayoutsPopover(*columnLayoutsButton_); });
     addAction(menu, localized("Column &Preferences…"), "showWindowWithColumnsPreferencesView", {},
               [this] { preferences_.controller().showWindowWithColumnsPreferencesView(); });
     addAction(menu, localized("Te&xt Report Preferences…"), "showWindowWithTextPreferencesView", {},
               [this] { preferences_.controller().showWindowWithTextPreferencesView(); });
+    addAction(menu, localized("Text Report P&resets…"), "openTXTSettingsSheet", {},
+              [this] { txtSettingsSheet_.controller().openTXTSettingsSheet(); });
 }
 
 void MainWindow::makePeriodMenu() {

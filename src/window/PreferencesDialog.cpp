@@ -23,7 +23,8 @@ PreferencesDialog::PreferencesDialog(const PreferencesCollaborators& collaborato
             new PreferencesGeneralPage(settings, collaborators.formats, this));
     addPane(PreferencesPane::Columns, "Columns",
             new PreferencesColumnsPage(settings, collaborators.resetAllColumnTitles, this));
-    addPane(PreferencesPane::Text, "Text", new PreferencesTextPage(settings, this));
+    addPane(PreferencesPane::Text, "Text",
+            new PreferencesTextPage(settings, collaborators.openTXTSettingsSheet, this));
     addPane(PreferencesPane::Csv, "CSV/TSV", new PreferencesCsvPage(settings, this));
     addPane(PreferencesPane::Reminders, "Reminders", new PreferencesRemindersPage(settings, this));
     pages_->setAccessibleName(localized("Preferences"));

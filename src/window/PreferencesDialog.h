@@ -17,6 +17,8 @@ struct PreferencesCollaborators {
     SettingsStore& settings;
     const LocaleFormats& formats;
     std::function<void()> resetAllColumnTitles;
+    /// Shows the presets of the text report.
+    std::function<void()> openTXTSettingsSheet;
 };
 
 /// The settings that have no place in the main window. Every control takes effect at once.

@@ -6,6 +6,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <array>
@@ -36,7 +37,9 @@ constexpr std::array<PreferencesSwitch, 2> tableSwitches{{
 
 } // namespace
 
-PreferencesTextPage::PreferencesTextPage(SettingsStore& settings, QWidget* parent)
+PreferencesTextPage::PreferencesTextPage(SettingsStore& settings,
+                                         std::function<void()> openTXTSettingsSheet,
+                                         QWidget* parent)
     : PreferencesPage(settings, parent) {
     auto* layout = new QVBoxLayout(&body());
     layout->addWidget(makeFreeText(localized("Te&xt above the report:"),
@@ -44,9 +47,15 @@ PreferencesTextPage::PreferencesTextPage(SettingsStore& settings, QWidget* paren
                                    QStringLiteral("txtHeader")));
     layout->addWidget(makeGroup(localized("Above the Table"), headerSwitches, 2));
     layout->addWidget(makeGroup(localized("Table"), tableSwitches, 2));
-    layout->addWidget(makeFreeText(localized("Text below the re&port:"),
+    layout->addWidget(makeFreeText(localized("Text below the repo&rt:"),
                                    localized("Stands behind everything else in the report"),
                                    QStringLiteral("txtFooter")));
+    auto* presets = new QPushButton(localized("&Presets…"), &body());
+    presets->setObjectName(QStringLiteral("openTXTSettingsSheet"));
+    presets->setToolTip(localized("Keeps all this under a name, and brings it back"));
+    presets->setAutoDefault(false);
+    connect(presets, &QPushButton::clicked, this, std::move(openTXTSettingsSheet));
+    layout->addWidget(presets, 0, Qt::AlignRight);
     layout->addStretch();
 }
 

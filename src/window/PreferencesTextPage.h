@@ -2,6 +2,8 @@
 
 #include "window/PreferencesPage.h"
 
+#include <functional>
+
 namespace quillet {
 
 /// What the text report holds.
@@ -9,7 +11,8 @@ class PreferencesTextPage : public PreferencesPage {
     Q_OBJECT
 
 public:
-    PreferencesTextPage(SettingsStore& settings, QWidget* parent);
+    PreferencesTextPage(SettingsStore& settings, std::function<void()> openTXTSettingsSheet,
+                        QWidget* parent);
 
 private:
     /// A label and a field of a few lines for one of the report's free texts.

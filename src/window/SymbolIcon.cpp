@@ -111,6 +111,11 @@ QPainterPath drawing(Symbol symbol) {
         return path;
     case Symbol::Remove:
         return polyline({{3.5, 8}, {12.5, 8}});
+    case Symbol::Columns:
+        path.addRoundedRect(QRectF(2.5, 2.5, 11, 11), 1.5, 1.5);
+        path.addPath(polyline({{6.5, 2.5}, {6.5, 13.5}}));
+        path.addPath(polyline({{10.5, 2.5}, {10.5, 13.5}}));
+        return path;
     case Symbol::Locked:
     case Symbol::Unlocked:
         return padlock(symbol == Symbol::Locked);

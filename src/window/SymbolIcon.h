@@ -19,6 +19,7 @@ enum class Symbol {
     Edit,
     Add,
     Remove,
+    Columns,
 };
 
 /// A line drawing in a colour of the palette, sharp at every size; it follows light and dark.

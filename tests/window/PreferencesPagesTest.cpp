@@ -40,7 +40,8 @@ protected:
         for (const QString& key : columnKeys) {
             settings.setObject(key, true);
         }
-        dialog.emplace(PreferencesCollaborators{settings, formats, [this] { ++titleResets; }});
+        dialog.emplace(PreferencesCollaborators{settings, formats, [this] { ++titleResets; },
+                                                [this] { ++sheetOpenings; }});
         dialog->show();
     }
 
@@ -69,6 +70,7 @@ protected:
     test::MemorySettings settings;
     const IcuLocaleFormats formats{{"de_DE", "de_DE", "de_DE"}, "UTC"};
     int titleResets = 0;
+    int sheetOpenings = 0;
     std::optional<PreferencesDialog> dialog;
 };
 
@@ -244,6 +246,11 @@ TEST_F(PreferencesPagesTest, TheReportsFreeTextsKeepTheirLines) {
 TEST_F(PreferencesPagesTest, TitlesAreResetByTheButton) {
     QTest::mouseClick(&control<QPushButton>("resetAllColumnTitles"), Qt::LeftButton);
     EXPECT_EQ(titleResets, 1);
+}
+
+TEST_F(PreferencesPagesTest, PresetsAreAButtonAwayFromTheSwitchesThatTheyHold) {
+    QTest::mouseClick(&control<QPushButton>("openTXTSettingsSheet"), Qt::LeftButton);
+    EXPECT_EQ(sheetOpenings, 1);
 }
 
 TEST_F(PreferencesPagesTest, ValuesOfWrongTypesAreShownAsTheyAreRead) {

@@ -38,7 +38,7 @@ protected:
     test::MemorySettings settings;
     QWidget parent;
     const IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "UTC"};
-    PreferencesPanes panes{{settings, formats, [] {}}, parent};
+    PreferencesPanes panes{{settings, formats, [] {}, [] {}}, parent};
 };
 
 } // namespace

@@ -62,12 +62,20 @@ protected:
         table->follow(copying);
         results.awakeFromNib();
         resultsPane->follow(results);
+        columnLayouts.awakeFromNib();
         notes.awakeFromNib();
+        txtSettings.awakeFromNib();
         report.awakeFromNib();
         itemView.awakeFromNib();
         eventsController.awakeFromNib();
         window = std::make_unique<MainWindow>(MainWindow::Collaborators{
-            settings, formats, gregorian, events, calendars, inspector, itemView,
+            settings,
+            formats,
+            gregorian,
+            events,
+            calendars,
+            inspector,
+            itemView,
             WindowExports{exportCSV,
                           exportTSV,
                           exportTXT,
@@ -76,7 +84,12 @@ protected:
                           report,
                           {reportQueue, main, formats, gregorian},
                           notes},
-            delegate, *table, *resultsPane, exportItems, menuTimeColumns,
+            {columnLayouts, txtSettings},
+            delegate,
+            *table,
+            *resultsPane,
+            exportItems,
+            menuTimeColumns,
             CalendarActions{
                 .addCalendar = [](const QString&) { return std::expected<void, QString>(); },
                 .allowAccess = [] {},
@@ -149,6 +162,9 @@ protected:
          calendars,
          gregorian,
          formats}};
+    ColumnLayoutsArrayController columnLayouts{
+        {.settings = settings, .eventsTableView = *table, .alerts = alerts}};
+    TXTSettingsArrayController txtSettings{settings, alerts};
     ResultsPane* resultsPane = new ResultsPane(settings);
     EventResultsViewController results{
         {settings, *resultsPane, eventsController, events, billing, formats}};
