@@ -1,6 +1,7 @@
 #include "window/InspectorPane.h"
 
 #include "platform/Localized.h"
+#include "window/FocusOrder.h"
 #include "window/SettingsBinding.h"
 #include "window/SymbolIcon.h"
 
@@ -47,7 +48,8 @@ InspectorPane::InspectorPane(DateInspectorController& inspector, SettingsStore& 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(space, space, space, space);
     layout->setSpacing(space);
-    layout->addWidget(makeKindChooser());
+    QWidget* kindChooser = makeKindChooser();
+    layout->addWidget(kindChooser);
     layout->addSpacing(space);
     layout->addWidget(heading(localized("Start Date"), startPicker_));
     layout->addWidget(startPicker_);
@@ -55,6 +57,7 @@ InspectorPane::InspectorPane(DateInspectorController& inspector, SettingsStore& 
     layout->addLayout(endHeading);
     layout->addWidget(endPicker_);
     layout->addStretch();
+    orderFocus({kindChooser, startPicker_, lock_, endPicker_});
 
     connect(startPicker_, &QCalendarWidget::clicked, this,
             [this](QDate date) { inspector_.pickStartDate(noonOf(date)); });

@@ -4,6 +4,7 @@
 #include "window/CalendarPane.h"
 #include "window/EmptyState.h"
 #include "window/EventTableView.h"
+#include "window/FocusOrder.h"
 #include "window/InspectorPane.h"
 #include "window/RatePane.h"
 #include "window/ResultsPane.h"
@@ -19,6 +20,7 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QToolBar>
 #include <QToolButton>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -62,6 +64,7 @@ MainWindow::MainWindow(Collaborators collaborators, QWidget* parent)
         with_.settings, *panes_, items.text, items.csv, items.tsv, items.notes});
     views_->awakeFromNib();
     followExportPanes();
+    orderTabs();
 }
 
 MainWindow::~MainWindow() = default;
@@ -144,6 +147,17 @@ QWidget* MainWindow::makeCentre() {
     layout->addWidget(line());
     layout->addWidget(&with_.resultsPane);
     return centre;
+}
+
+void MainWindow::orderTabs() {
+    QList<QWidget*> areas{findChild<QToolBar*>(), panes_->container(Pane::List),
+                          panes_->container(Pane::Item)};
+    for (ExportPane* pane : findChildren<ExportPane*>()) {
+        areas.append(pane);
+    }
+    areas << panes_->container(Pane::Rate) << &with_.resultsPane
+          << panes_->container(Pane::Inspector);
+    orderFocus(areas);
 }
 
 void MainWindow::followState() {

@@ -133,6 +133,8 @@ private:
     void addExportPaneAction(QMenu& menu, const QString& text, const QString& paneKey,
                              const QKeySequence& shortcut);
     void makeStepActions();
+    /// Tab goes as the eye does: the toolbar, then the panes from the start to the end.
+    void orderTabs();
     void followState();
     void followExportPanes();
     void showPeriodTitle();
