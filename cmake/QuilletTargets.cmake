@@ -42,6 +42,24 @@ function(quillet_library folder)
   target_link_libraries(${target} PUBLIC ${arg_LINKS} PRIVATE quillet_options)
 endfunction()
 
+# quillet_string_tables(<target> <language>...)
+#
+# Compiles translations/quillet_<language>.ts and makes it a resource of the target.
+function(quillet_string_tables target)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS LinguistTools)
+  set(folder ${CMAKE_BINARY_DIR}/translations)
+  file(MAKE_DIRECTORY ${folder})
+  foreach(language IN LISTS ARGN)
+    set(source ${CMAKE_SOURCE_DIR}/translations/quillet_${language}.ts)
+    set(table ${folder}/quillet_${language}.qm)
+    add_custom_command(OUTPUT ${table} VERBATIM
+      COMMAND Qt6::lrelease -silent -nounfinished ${source} -qm ${table}
+      DEPENDS ${source})
+    list(APPEND tables ${table})
+  endforeach()
+  qt_add_resources(${target} string_tables PREFIX /translations BASE ${folder} FILES ${tables})
+endfunction()
+
 # quillet_tests(<folder below tests> [LINKS <target>...])
 #
 # One test program for one folder: every *Test.cpp in it, registered test by test.

@@ -1,4 +1,5 @@
 #include "Program.h"
+#include "backends/translations/Translations.h"
 #include "window/ReportViewAccessible.h"
 
 #include <QApplication>
@@ -35,6 +36,8 @@ int main(int argc, char** argv) {
     QApplication::setDesktopFileName(QStringLiteral("quillet"));
     QApplication::setQuitOnLastWindowClosed(
         quillet::AppDelegate::applicationShouldTerminateAfterLastWindowClosed());
+    const quillet::Translations translations(
+        quillet::messageLanguages(quillet::processEnvironment()));
     quillet::installReportViewAccessibility();
     quillet::Program program(programPaths());
     program.start();

@@ -57,7 +57,7 @@ LocaleNames localeNames(const EnvironmentReader& environment) {
 }
 
 LocaleNames localeNamesOfProcess() {
-    return localeNames([](const char* name) { return qEnvironmentVariable(name); });
+    return localeNames(processEnvironment());
 }
 
 QString systemTimeZoneName() {

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QString>
-
-#include <functional>
+#include "platform/Environment.h"
 
 namespace quillet {
 
@@ -18,9 +16,6 @@ struct LocaleNames {
 
     friend bool operator==(const LocaleNames&, const LocaleNames&) = default;
 };
-
-/// Reads an environment variable; empty when it is not set.
-using EnvironmentReader = std::function<QString(const char* name)>;
 
 /// LC_ALL, else the category's own variable, else LANG. Encodings are dropped ("de_DE.UTF-8"), and
 /// C, POSIX and what ICU does not know count as en_US.
