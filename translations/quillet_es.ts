@@ -16,7 +16,15 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>A last row with the sums of the columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>a link that leads nowhere</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A preset holds the switches and texts of the text report. Applying one sets them all; a new one takes them as they are now.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -76,6 +84,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>All-day events are neither listed nor counted in totals and exports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>All-day events:</source>
         <translation type="unfinished"></translation>
     </message>
@@ -96,11 +108,39 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Apply</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arranges the columns as the selected layout has them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Average</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Average time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Avg</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Beginning date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Beginning Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bring column titles back, too</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -109,6 +149,10 @@
     </message>
     <message>
         <source>&amp;Calendars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;alendars</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -140,6 +184,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Cannot delete Default settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Check for &amp;Updates…</source>
         <translation type="unfinished"></translation>
     </message>
@@ -164,11 +212,31 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Column Layouts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Column &amp;Layouts…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Column &amp;Preferences…</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>&amp;Columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Completed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Completion date</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -184,7 +252,19 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>CSV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>CSV/TSV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;ustom</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -192,7 +272,19 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Days</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -205,6 +297,18 @@
     </message>
     <message>
         <source>Default layout cannot be deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default settings cannot be deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -224,6 +328,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Due date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Duration</source>
         <translation type="unfinished"></translation>
     </message>
@@ -237,6 +345,18 @@
     </message>
     <message>
         <source>End Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End Weekday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E&amp;nding date</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -268,6 +388,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>F2 or a double click renames</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Fetching Events</source>
         <translation type="unfinished"></translation>
     </message>
@@ -289,6 +413,10 @@
     </message>
     <message>
         <source>&amp;Folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>General</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -316,6 +444,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Identifier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Ignore</source>
         <translation type="unfinished"></translation>
     </message>
@@ -324,11 +456,35 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>In titles, notes, locations and calendars, for programs that take every line for an event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Keeps all this under a name, and brings it back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keeps arrangements of the columns under names</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keeps the columns as they are now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>larger than 128 MB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layouts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Leave all-day events out</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -340,11 +496,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Lock End Date</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Locked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Longest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Longest event</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -384,11 +552,23 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Month</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>more than 300,000 events; the others are left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -401,6 +581,10 @@
     </message>
     <message>
         <source>New Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -428,6 +612,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Notes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Notes</source>
         <translation type="unfinished"></translation>
     </message>
@@ -436,7 +624,19 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>N&amp;umber of events</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of reminders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On how many days there are events</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -473,6 +673,22 @@
     </message>
     <message>
         <source>Preparing the text…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Presets…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put the report into a new message</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -513,7 +729,19 @@ If you would like to use the standard text format that Quillet uses, format the 
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rate and cost, while money is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Rates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rates and costs are shown in the window and in exports</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -525,11 +753,19 @@ If you would like to use the standard text format that Quillet uses, format the 
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Reminders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>repetitions too many to count</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>repetitions too many to show them all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace line &amp;breaks by blanks</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -562,6 +798,14 @@ If you would like to use the standard text format that Quillet uses, format the 
     </message>
     <message>
         <source>Save Text &amp;Report…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the listed events as a CSV file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save the listed events as a TSV file</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -605,7 +849,27 @@ If you would like to use the standard text format that Quillet uses, format the 
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Shortest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;hortest event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show &amp;money</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Show the Current Period</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the listed events as a text report</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the notes of the listed events</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -625,7 +889,35 @@ If you would like to use the standard text format that Quillet uses, format the 
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Start Time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start Weekday</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Summary row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell the calendar in each heading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell the date in each heading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell the location in each heading</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell the title in each heading</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -637,7 +929,7 @@ If you would like to use the standard text format that Quillet uses, format the 
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Text below the re&amp;port:</source>
+        <source>Text below the repo&amp;rt:</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -653,7 +945,35 @@ If you would like to use the standard text format that Quillet uses, format the 
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Text Report Presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text Report P&amp;resets…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Texts that are longer than their column go on in the next line; when off, they are cut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The calendar could not be added</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The calendar's own identifier of the reminder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first column is the calendar's own identifier of the event</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first day of the period</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The first line of the file names the columns</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -662,6 +982,14 @@ If you would like to use the standard text format that Quillet uses, format the 
     </message>
     <message>
         <source>The hours for which one day of an all-day event counts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The last day of the period</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The mean of an event</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -677,7 +1005,19 @@ If you would like to use the standard text format that Quillet uses, format the 
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The sum in hours, minutes or as a duration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table has this column only while money is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The ticked calendars have no events on these days.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The titles of the ticked calendars</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -709,6 +1049,18 @@ If you would like to use the standard text format that Quillet uses, format the 
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Time as &amp;Duration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time as &amp;Hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time as M&amp;inutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Title</source>
         <translation type="unfinished"></translation>
     </message>
@@ -717,7 +1069,23 @@ If you would like to use the standard text format that Quillet uses, format the 
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Titles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Toolbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Total time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TSV</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -733,6 +1101,10 @@ If you would like to use the standard text format that Quillet uses, format the 
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>URL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>UTF-8 suits nearly every program; some spreadsheets want UTF-16</source>
         <translation type="unfinished"></translation>
     </message>
@@ -745,6 +1117,10 @@ If you would like to use the standard text format that Quillet uses, format the 
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>&amp;Week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Week</source>
         <translation type="unfinished"></translation>
     </message>
@@ -753,11 +1129,39 @@ If you would like to use the standard text format that Quillet uses, format the 
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>When off, applying a layout leaves the titles as they are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When off, each calendar has a rate of its own: select the calendar in the main window to set it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether the reminder is done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Which time column the table, the results and reports show</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>While locked, the end moves with the start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Wrap long texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write a &amp;header record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write the event's &amp;identifier</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Year</source>
         <translation type="unfinished"></translation>
     </message>
     <message>

@@ -17,11 +17,11 @@ struct PaneName {
 
 /// In the order of the panes.
 constexpr std::array<PaneName, 5> paneNames{{
-    {"general", "General"},
-    {"columns", "Columns"},
-    {"text", "Text"},
-    {"csv", "CSV/TSV"},
-    {"reminders", "Reminders"},
+    {"general", localizable("General")},
+    {"columns", localizable("Columns")},
+    {"text", localizable("Text")},
+    {"csv", localizable("CSV/TSV")},
+    {"reminders", localizable("Reminders")},
 }};
 
 const PaneName& nameOf(PreferencesPane pane) {

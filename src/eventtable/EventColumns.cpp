@@ -1,5 +1,7 @@
 #include "eventtable/EventColumns.h"
 
+#include "platform/Localized.h"
+
 #include <algorithm>
 
 namespace quillet {
@@ -8,23 +10,27 @@ namespace {
 
 // The title key of the start weekday does not follow its stem; stored settings depend on that.
 constexpr std::array<EventColumn, 16> columns{{
-    {"date", "date", "dateColumnTitle", "Start Date", "isDateColumn", true},
-    {"hours", "hours", "hoursColumnTitle", "Hours", "isHoursColumn", true},
-    {"title", "title", "titleColumnTitle", "Title", "isTitleColumn", true},
-    {"notes", "notes", "notesColumnTitle", "Notes", "isNotesColumn", false},
-    {"url", "url", "urlColumnTitle", "URL", "isUrlColumn", false},
-    {"location", "location", "locationColumnTitle", "Location", "isLocationColumn", false},
-    {"weekday", "weekday", "startWeekdayColumnTitle", "Start Weekday", "isWeekdayColumn", false},
-    {"endWeekday", "endWeekday", "endWeekdayColumnTitle", "End Weekday", "isEndWeekdayColumn",
+    {"date", "date", "dateColumnTitle", localizable("Start Date"), "isDateColumn", true},
+    {"hours", "hours", "hoursColumnTitle", localizable("Hours"), "isHoursColumn", true},
+    {"title", "title", "titleColumnTitle", localizable("Title"), "isTitleColumn", true},
+    {"notes", "notes", "notesColumnTitle", localizable("Notes"), "isNotesColumn", false},
+    {"url", "url", "urlColumnTitle", localizable("URL"), "isUrlColumn", false},
+    {"location", "location", "locationColumnTitle", localizable("Location"), "isLocationColumn",
      false},
-    {"cost", "cost", "costColumnTitle", "Cost", "isCostColumn", true},
-    {"start", "startTime", "startTimeColumnTitle", "Start Time", "isStartTimeColumn", false},
-    {"end", "endTime", "endTimeColumnTitle", "End Time", "isEndTimeColumn", false},
-    {"endDate", "endDate", "endDateColumnTitle", "End Date", "isEndDateColumn", false},
-    {"calendar", "calendar", "calendarColumnTitle", "Calendar", "isCalendarColumn", true},
-    {"rate", "rate", "rateColumnTitle", "Rate", "isRateColumn", false},
-    {"duration", "duration", "durationColumnTitle", "Duration", "isHoursColumn", true},
-    {"minutes", "minutes", "minutesColumnTitle", "Minutes", "isHoursColumn", true},
+    {"weekday", "weekday", "startWeekdayColumnTitle", localizable("Start Weekday"),
+     "isWeekdayColumn", false},
+    {"endWeekday", "endWeekday", "endWeekdayColumnTitle", localizable("End Weekday"),
+     "isEndWeekdayColumn", false},
+    {"cost", "cost", "costColumnTitle", localizable("Cost"), "isCostColumn", true},
+    {"start", "startTime", "startTimeColumnTitle", localizable("Start Time"), "isStartTimeColumn",
+     false},
+    {"end", "endTime", "endTimeColumnTitle", localizable("End Time"), "isEndTimeColumn", false},
+    {"endDate", "endDate", "endDateColumnTitle", localizable("End Date"), "isEndDateColumn", false},
+    {"calendar", "calendar", "calendarColumnTitle", localizable("Calendar"), "isCalendarColumn",
+     true},
+    {"rate", "rate", "rateColumnTitle", localizable("Rate"), "isRateColumn", false},
+    {"duration", "duration", "durationColumnTitle", localizable("Duration"), "isHoursColumn", true},
+    {"minutes", "minutes", "minutesColumnTitle", localizable("Minutes"), "isHoursColumn", true},
 }};
 
 } // namespace

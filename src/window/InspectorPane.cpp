@@ -85,7 +85,8 @@ QWidget* InspectorPane::makeKindChooser() {
     auto* layout = new QHBoxLayout(chooser);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    constexpr std::array names{"Day", "Week", "Month", "Year", "Custom"};
+    constexpr std::array names{localizable("Day"), localizable("Week"), localizable("Month"),
+                               localizable("Year"), localizable("Custom")};
     for (int kind = 0; kind < static_cast<int>(names.size()); ++kind) {
         auto* button = new QToolButton(chooser);
         button->setText(localized(names[static_cast<std::size_t>(kind)]));

@@ -29,18 +29,21 @@ void MainWindow::makeExportActions() {
         std::function<void()> trigger;
     };
     for (const Item& item : {
-             Item{items.text.action(), "exportTxtToolbarItemClicked", "Text",
-                  "Show the listed events as a text report", Symbol::Text,
+             Item{items.text.action(), "exportTxtToolbarItemClicked", localizable("Text"),
+                  localizable("Show the listed events as a text report"), Symbol::Text,
                   [this] { views_->exportTxtToolbarItemClicked(); }},
-             Item{items.notes.action(), "exportNotesToolbarItemClicked", "Notes",
-                  "Show the notes of the listed events", Symbol::Notes,
+             Item{items.notes.action(), "exportNotesToolbarItemClicked", localizable("Notes"),
+                  localizable("Show the notes of the listed events"), Symbol::Notes,
                   [this] { views_->exportNotesToolbarItemClicked(); }},
-             Item{items.csv.action(), "saveAsCSV", "CSV", "Save the listed events as a CSV file",
-                  Symbol::Save, [this] { with_.exports.csv.saveAsCSV(); }},
-             Item{items.tsv.action(), "saveAsTSV", "TSV", "Save the listed events as a TSV file",
-                  Symbol::Save, [this] { with_.exports.tsv.saveAsTSV(); }},
-             Item{*mailAction_, "sendToMail", "Mail", "Put the report into a new message",
-                  Symbol::Mail, [this] { mail(); }},
+             Item{items.csv.action(), "saveAsCSV", localizable("CSV"),
+                  localizable("Save the listed events as a CSV file"), Symbol::Save,
+                  [this] { with_.exports.csv.saveAsCSV(); }},
+             Item{items.tsv.action(), "saveAsTSV", localizable("TSV"),
+                  localizable("Save the listed events as a TSV file"), Symbol::Save,
+                  [this] { with_.exports.tsv.saveAsTSV(); }},
+             Item{*mailAction_, "sendToMail", localizable("Mail"),
+                  localizable("Put the report into a new message"), Symbol::Mail,
+                  [this] { mail(); }},
          }) {
         item.action.setObjectName(QString::fromLatin1(item.name));
         item.action.setText(localized(item.text));

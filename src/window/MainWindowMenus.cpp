@@ -39,11 +39,11 @@ void MainWindow::makeStepActions() {
         PeriodStep step;
     };
     const std::array steps{
-        Step{previousAction_, "Previous", Symbol::Previous, QKeySequence(Qt::ALT | Qt::Key_Left),
-             PeriodStep::Previous},
-        Step{currentAction_, "Current", Symbol::Current, QKeySequence(Qt::CTRL | Qt::Key_T),
-             PeriodStep::Current},
-        Step{nextAction_, "Next", Symbol::Next, QKeySequence(Qt::ALT | Qt::Key_Right),
+        Step{previousAction_, localizable("Previous"), Symbol::Previous,
+             QKeySequence(Qt::ALT | Qt::Key_Left), PeriodStep::Previous},
+        Step{currentAction_, localizable("Current"), Symbol::Current,
+             QKeySequence(Qt::CTRL | Qt::Key_T), PeriodStep::Current},
+        Step{nextAction_, localizable("Next"), Symbol::Next, QKeySequence(Qt::ALT | Qt::Key_Right),
              PeriodStep::Next},
     };
     for (const Step& step : steps) {
@@ -158,7 +158,8 @@ void MainWindow::makeViewMenu() {
     menu.addSeparator();
     auto* group = new QActionGroup(this);
     const QString timeTypeKey = QStringLiteral("timeTypeSelection");
-    constexpr std::array texts{"Time as &Hours", "Time as M&inutes", "Time as &Duration"};
+    constexpr std::array texts{localizable("Time as &Hours"), localizable("Time as M&inutes"),
+                               localizable("Time as &Duration")};
     for (qint64 number = 1; number <= static_cast<qint64>(texts.size()); ++number) {
         QAction* action = menu.addAction(localized(texts[static_cast<std::size_t>(number - 1)]));
         action->setCheckable(true);
@@ -194,7 +195,8 @@ void MainWindow::makePeriodMenu() {
     QMenu& menu = *menuBar()->addMenu(localized("&Period"));
     menu.addActions({previousAction_, currentAction_, nextAction_});
     menu.addSeparator();
-    constexpr std::array texts{"&Day", "&Week", "&Month", "&Year", "C&ustom"};
+    constexpr std::array texts{localizable("&Day"), localizable("&Week"), localizable("&Month"),
+                               localizable("&Year"), localizable("C&ustom")};
     for (int kind = 0; kind < static_cast<int>(texts.size()); ++kind) {
         addAction(menu, localized(texts[static_cast<std::size_t>(kind)]), "setQuickDatePeriod",
                   QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + kind)), [this, kind] {

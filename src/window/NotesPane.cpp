@@ -22,11 +22,14 @@ NotesPane::NotesPane(StyledTextView* view, EventNotesViewController& notes, Sett
         const char* text;
         const char* toolTip;
     };
-    for (const Switch& item :
-         {Switch{"isEventNotesCalendar", "Calendar", "Tell the calendar in each heading"},
-          Switch{"isEventNotesDate", "Date", "Tell the date in each heading"},
-          Switch{"isEventNotesTitle", "Title", "Tell the title in each heading"},
-          Switch{"isEventNotesLocation", "Location", "Tell the location in each heading"}}) {
+    for (const Switch& item : {Switch{"isEventNotesCalendar", localizable("Calendar"),
+                                      localizable("Tell the calendar in each heading")},
+                               Switch{"isEventNotesDate", localizable("Date"),
+                                      localizable("Tell the date in each heading")},
+                               Switch{"isEventNotesTitle", localizable("Title"),
+                                      localizable("Tell the title in each heading")},
+                               Switch{"isEventNotesLocation", localizable("Location"),
+                                      localizable("Tell the location in each heading")}}) {
         auto* box = new QCheckBox(localized(item.text), this);
         box->setToolTip(localized(item.toolTip));
         bindCheckBox(*box, settings, QString::fromLatin1(item.key));

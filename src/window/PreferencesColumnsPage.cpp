@@ -101,7 +101,8 @@ void PreferencesColumnsPage::addColumn(QGridLayout& grid, const EventColumn& col
     const int rows = (static_cast<int>(eventColumns().size()) - 2) / 2;
     auto* box = makeCheckBox(
         {column.visibilityKey, column.defaultTitle,
-         isMoneyColumn(column) ? "The table has this column only while money is shown" : nullptr});
+         isMoneyColumn(column) ? localizable("The table has this column only while money is shown")
+                               : nullptr});
     auto* title = new QLineEdit(&body());
     title->setAccessibleName(localized("Title of “%1”").arg(localized(column.defaultTitle)));
     bindLineEdit(*title, settings(), QString::fromLatin1(column.titleKey));

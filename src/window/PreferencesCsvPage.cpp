@@ -12,21 +12,23 @@ namespace quillet {
 namespace {
 
 constexpr std::array<PreferencesSwitch, 2> recordSwitches{{
-    {"isCSVHeader", "Write a &header record", "The first line of the file names the columns"},
-    {"isCSVIncludeUID", "Write the event's &identifier",
-     "The first column is the calendar's own identifier of the event"},
+    {"isCSVHeader", localizable("Write a &header record"),
+     localizable("The first line of the file names the columns")},
+    {"isCSVIncludeUID", localizable("Write the event's &identifier"),
+     localizable("The first column is the calendar's own identifier of the event")},
 }};
 
 constexpr std::array<PreferencesSwitch, 4> quoteSwitches{{
-    {"isCSVQuotesForTitle", "&Titles", nullptr},
-    {"isCSVQuotesForNote", "&Notes", nullptr},
-    {"isCSVQuotesForLocation", "&Locations", nullptr},
-    {"isCSVQuotesForCalendar", "C&alendars", nullptr},
+    {"isCSVQuotesForTitle", localizable("&Titles"), nullptr},
+    {"isCSVQuotesForNote", localizable("&Notes"), nullptr},
+    {"isCSVQuotesForLocation", localizable("&Locations"), nullptr},
+    {"isCSVQuotesForCalendar", localizable("C&alendars"), nullptr},
 }};
 
 constexpr std::array<PreferencesSwitch, 1> lineSwitches{{
-    {"isCSVRemoveReturns", "Replace line &breaks by blanks",
-     "In titles, notes, locations and calendars, for programs that take every line for an event"},
+    {"isCSVRemoveReturns", localizable("Replace line &breaks by blanks"),
+     localizable("In titles, notes, locations and calendars, for programs that take every line for "
+                 "an event")},
 }};
 
 } // namespace

@@ -19,14 +19,15 @@ PreferencesDialog::PreferencesDialog(const PreferencesCollaborators& collaborato
     : QDialog(parent)
     , pages_(new QTabWidget(this)) {
     SettingsStore& settings = collaborators.settings;
-    addPane(PreferencesPane::General, "General",
+    addPane(PreferencesPane::General, localizable("General"),
             new PreferencesGeneralPage(settings, collaborators.formats, this));
-    addPane(PreferencesPane::Columns, "Columns",
+    addPane(PreferencesPane::Columns, localizable("Columns"),
             new PreferencesColumnsPage(settings, collaborators.resetAllColumnTitles, this));
-    addPane(PreferencesPane::Text, "Text",
+    addPane(PreferencesPane::Text, localizable("Text"),
             new PreferencesTextPage(settings, collaborators.openTXTSettingsSheet, this));
-    addPane(PreferencesPane::Csv, "CSV/TSV", new PreferencesCsvPage(settings, this));
-    addPane(PreferencesPane::Reminders, "Reminders", new PreferencesRemindersPage(settings, this));
+    addPane(PreferencesPane::Csv, localizable("CSV/TSV"), new PreferencesCsvPage(settings, this));
+    addPane(PreferencesPane::Reminders, localizable("Reminders"),
+            new PreferencesRemindersPage(settings, this));
     pages_->setAccessibleName(localized("Preferences"));
     connect(pages_, &QTabWidget::currentChanged, this,
             [this](int tab) { Q_EMIT paneChosen(static_cast<PreferencesPane>(tab)); });

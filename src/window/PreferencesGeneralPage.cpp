@@ -44,8 +44,9 @@ PreferencesGeneralPage::PreferencesGeneralPage(SettingsStore& settings,
 void PreferencesGeneralPage::addAllDayRows(QFormLayout& form) {
     form.addRow(
         localized("All-day events:"),
-        makeCheckBox({"allDayEventsNotIncluded", "&Leave all-day events out",
-                      "All-day events are neither listed nor counted in totals and exports"}));
+        makeCheckBox(
+            {"allDayEventsNotIncluded", localizable("&Leave all-day events out"),
+             localizable("All-day events are neither listed nor counted in totals and exports")}));
     auto* hours = new QSpinBox(&body());
     constexpr int hoursOfADay = 24;
     hours->setRange(0, hoursOfADay);
@@ -59,13 +60,15 @@ void PreferencesGeneralPage::addAllDayRows(QFormLayout& form) {
 }
 
 void PreferencesGeneralPage::addMoneyRows(QFormLayout& form, const LocaleFormats& formats) {
-    form.addRow(localized("Money:"),
-                makeCheckBox({"isDollarsOn", "Show &money",
-                              "Rates and costs are shown in the window and in exports"}));
-    form.addRow({},
-                makeCheckBox({"isSingleRate", "&One rate for all calendars",
-                              "When off, each calendar has a rate of its own: select the calendar "
-                              "in the main window to set it"}));
+    form.addRow(
+        localized("Money:"),
+        makeCheckBox({"isDollarsOn", localizable("Show &money"),
+                      localizable("Rates and costs are shown in the window and in exports")}));
+    form.addRow(
+        {}, makeCheckBox(
+                {"isSingleRate", localizable("&One rate for all calendars"),
+                 localizable("When off, each calendar has a rate of its own: select the calendar "
+                             "in the main window to set it")}));
     auto* rate = new HourlyRateField(settings(), formats, &body());
     rate->edit().setAccessibleName(localized("Hourly Rate"));
     rate->edit().setToolTip(localized("The rate of an hour, while all calendars have the same"));

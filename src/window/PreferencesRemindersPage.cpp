@@ -13,27 +13,28 @@ namespace quillet {
 namespace {
 
 constexpr std::array<PreferencesSwitch, 9> csvSwitches{{
-    {"isTodoCSVIncludeUID", "Identifier", "The calendar's own identifier of the reminder"},
-    {"isTodoCSVCalendar", "Calendar", nullptr},
-    {"isTodoCSVTitle", "Title", nullptr},
-    {"isTodoCSVCompleted", "Completed", "Whether the reminder is done"},
-    {"isTodoCSVCompletedDate", "Completion date", nullptr},
-    {"isTodoCSVPriority", "Priority", nullptr},
-    {"isTodoCSVDueDate", "Due date", nullptr},
-    {"isTodoCSVURL", "URL", nullptr},
-    {"isTodoCSVNotes", "Notes", nullptr},
+    {"isTodoCSVIncludeUID", localizable("Identifier"),
+     localizable("The calendar's own identifier of the reminder")},
+    {"isTodoCSVCalendar", localizable("Calendar"), nullptr},
+    {"isTodoCSVTitle", localizable("Title"), nullptr},
+    {"isTodoCSVCompleted", localizable("Completed"), localizable("Whether the reminder is done")},
+    {"isTodoCSVCompletedDate", localizable("Completion date"), nullptr},
+    {"isTodoCSVPriority", localizable("Priority"), nullptr},
+    {"isTodoCSVDueDate", localizable("Due date"), nullptr},
+    {"isTodoCSVURL", localizable("URL"), nullptr},
+    {"isTodoCSVNotes", localizable("Notes"), nullptr},
 }};
 
 constexpr std::array<PreferencesSwitch, 9> textSwitches{{
-    {"isTodoTXTIncludeCount", "Number of reminders", nullptr},
-    {"isTodoTXTCalendar", "Calendar", nullptr},
-    {"isTodoTXTTitle", "Title", nullptr},
-    {"isTodoTXTCompleted", "Completed", "Whether the reminder is done"},
-    {"isTodoTXTCompletedDate", "Completion date", nullptr},
-    {"isTodoTXTPriority", "Priority", nullptr},
-    {"isTodoTXTDueDate", "Due date", nullptr},
-    {"isTodoTXTURL", "URL", nullptr},
-    {"isTodoTXTNotes", "Notes", nullptr},
+    {"isTodoTXTIncludeCount", localizable("Number of reminders"), nullptr},
+    {"isTodoTXTCalendar", localizable("Calendar"), nullptr},
+    {"isTodoTXTTitle", localizable("Title"), nullptr},
+    {"isTodoTXTCompleted", localizable("Completed"), localizable("Whether the reminder is done")},
+    {"isTodoTXTCompletedDate", localizable("Completion date"), nullptr},
+    {"isTodoTXTPriority", localizable("Priority"), nullptr},
+    {"isTodoTXTDueDate", localizable("Due date"), nullptr},
+    {"isTodoTXTURL", localizable("URL"), nullptr},
+    {"isTodoTXTNotes", localizable("Notes"), nullptr},
 }};
 
 } // namespace

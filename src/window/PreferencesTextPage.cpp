@@ -17,22 +17,25 @@ namespace {
 
 /// In the order of the report's lines, so that the boxes look like the report.
 constexpr std::array<PreferencesSwitch, 10> headerSwitches{{
-    {"isTXTCalTitle", "&Calendars", "The titles of the ticked calendars"},
-    {"isTXTBeginDate", "&Beginning date", "The first day of the period"},
-    {"isTXTEndDate", "E&nding date", "The last day of the period"},
-    {"isTXTTotalHours", "&Total time", "The sum in hours, minutes or as a duration"},
-    {"isTXTMin", "S&hortest event", nullptr},
-    {"isTXTMax", "&Longest event", nullptr},
-    {"isTXTAverage", "&Average time", "The mean of an event"},
-    {"isTXTTotalDays", "&Days", "On how many days there are events"},
-    {"isTXTTotalEvents", "N&umber of events", nullptr},
-    {"isTXTDollars", "&Money", "Rate and cost, while money is shown"},
+    {"isTXTCalTitle", localizable("&Calendars"), localizable("The titles of the ticked calendars")},
+    {"isTXTBeginDate", localizable("&Beginning date"), localizable("The first day of the period")},
+    {"isTXTEndDate", localizable("E&nding date"), localizable("The last day of the period")},
+    {"isTXTTotalHours", localizable("&Total time"),
+     localizable("The sum in hours, minutes or as a duration")},
+    {"isTXTMin", localizable("S&hortest event"), nullptr},
+    {"isTXTMax", localizable("&Longest event"), nullptr},
+    {"isTXTAverage", localizable("&Average time"), localizable("The mean of an event")},
+    {"isTXTTotalDays", localizable("&Days"), localizable("On how many days there are events")},
+    {"isTXTTotalEvents", localizable("N&umber of events"), nullptr},
+    {"isTXTDollars", localizable("&Money"), localizable("Rate and cost, while money is shown")},
 }};
 
 constexpr std::array<PreferencesSwitch, 2> tableSwitches{{
-    {"isTXTWrapping", "&Wrap long texts",
-     "Texts that are longer than their column go on in the next line; when off, they are cut"},
-    {"isTXTSummaryRow", "&Summary row", "A last row with the sums of the columns"},
+    {"isTXTWrapping", localizable("&Wrap long texts"),
+     localizable(
+         "Texts that are longer than their column go on in the next line; when off, they are cut")},
+    {"isTXTSummaryRow", localizable("&Summary row"),
+     localizable("A last row with the sums of the columns")},
 }};
 
 } // namespace

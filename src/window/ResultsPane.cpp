@@ -65,7 +65,10 @@ void ResultsPane::makeTabs() {
 }
 
 void ResultsPane::makeFigures() {
-    constexpr std::array texts{"Events", "Total", "Shortest", "Longest", "Average", "Days", "Cost"};
+    constexpr std::array texts{localizable("Events"),   localizable("Total"),
+                               localizable("Shortest"), localizable("Longest"),
+                               localizable("Average"),  localizable("Days"),
+                               localizable("Cost")};
     for (std::size_t position = 0; position < texts.size(); ++position) {
         auto* name = new QLabel(localized(texts.at(position)), this);
         auto* value = new QLabel(this);
