@@ -37,8 +37,12 @@ Decimal EventTotals::sumHours() const {
     return quotient(minutes_.sum(), minutesOfAnHour);
 }
 
-std::optional<Decimal> EventTotals::avgMinutes() const {
-    return count_ == 0 ? std::nullopt : std::optional(quotient(minutes_.sum(), count_));
+Decimal EventTotals::avgMinutes() const {
+    return count_ == 0 ? Decimal() : quotient(minutes_.sum(), count_);
+}
+
+Decimal EventTotals::avgHours() const {
+    return count_ == 0 ? Decimal() : quotient(minutes_.sum(), count_ * minutesOfAnHour);
 }
 
 std::optional<Decimal> EventTotals::minMinutes() const {
@@ -47,11 +51,6 @@ std::optional<Decimal> EventTotals::minMinutes() const {
 
 std::optional<Decimal> EventTotals::maxMinutes() const {
     return count_ == 0 ? std::nullopt : std::optional(Decimal::fromInteger(minutes_.largest()));
-}
-
-std::optional<Decimal> EventTotals::avgHours() const {
-    return count_ == 0 ? std::nullopt
-                       : std::optional(quotient(minutes_.sum(), count_ * minutesOfAnHour));
 }
 
 std::optional<Decimal> EventTotals::minHours() const {

@@ -24,11 +24,12 @@ public:
     [[nodiscard]] std::int64_t count() const { return count_; }
     [[nodiscard]] Decimal sumMinutes() const;
     [[nodiscard]] Decimal sumHours() const;
-    /// Nothing where there is no event, as in all that follow.
-    [[nodiscard]] std::optional<Decimal> avgMinutes() const;
+    /// Means are 0 where there is no event, as sums are.
+    [[nodiscard]] Decimal avgMinutes() const;
+    [[nodiscard]] Decimal avgHours() const;
+    /// Nothing where there is no event, as in the three that follow.
     [[nodiscard]] std::optional<Decimal> minMinutes() const;
     [[nodiscard]] std::optional<Decimal> maxMinutes() const;
-    [[nodiscard]] std::optional<Decimal> avgHours() const;
     [[nodiscard]] std::optional<Decimal> minHours() const;
     [[nodiscard]] std::optional<Decimal> maxHours() const;
     /// Nothing while money is off; not a number when one event's cost is none.

@@ -57,7 +57,7 @@ public:
     [[nodiscard]] bool isDurationHidden() const { return isDurationHidden_; }
 
     /// What a field shows: amounts in the locale's currency style, numbers with at most two
-    /// decimals; empty where there is nothing to tell (no event, money off).
+    /// decimals; empty where there is nothing to tell (extremes of no event, money off).
     [[nodiscard]] QString text(ResultsTab tab, ResultField field);
 
 Q_SIGNALS:

@@ -29,13 +29,16 @@ QString textOf(const std::optional<Decimal>& value) {
 
 } // namespace
 
-TEST(EventTotals, WithoutEventsHasSumsAloneAndTheyAreZero) {
+TEST(EventTotals, WithoutEventsHasSumsAndMeansOfZeroAndNoExtremes) {
     const EventTotals totals(withMoney());
     EXPECT_EQ(totals.count(), 0);
     EXPECT_EQ(totals.sumMinutes().toString(), "0");
     EXPECT_EQ(totals.sumHours().toString(), "0");
     EXPECT_EQ(textOf(totals.sumCost()), "0");
-    EXPECT_EQ(textOf(totals.avgMinutes()), "none");
+    EXPECT_EQ(totals.avgMinutes().toString(), "0");
+    EXPECT_EQ(totals.avgHours().toString(), "0");
+    EXPECT_EQ(textOf(totals.minMinutes()), "none");
+    EXPECT_EQ(textOf(totals.maxMinutes()), "none");
     EXPECT_EQ(textOf(totals.minHours()), "none");
     EXPECT_EQ(textOf(totals.maxHours()), "none");
 }
@@ -48,11 +51,11 @@ TEST(EventTotals, AddsUpInMinutesAndInHours) {
     EXPECT_EQ(totals.sumMinutes().toString(), "135");
     EXPECT_EQ(textOf(totals.minMinutes()), "45");
     EXPECT_EQ(textOf(totals.maxMinutes()), "90");
-    EXPECT_EQ(textOf(totals.avgMinutes()), "67.5");
+    EXPECT_EQ(totals.avgMinutes().toString(), "67.5");
     EXPECT_EQ(totals.sumHours().toString(), "2.25");
     EXPECT_EQ(textOf(totals.minHours()), "0.75");
     EXPECT_EQ(textOf(totals.maxHours()), "1.5");
-    EXPECT_EQ(textOf(totals.avgHours()), "1.125");
+    EXPECT_EQ(totals.avgHours().toString(), "1.125");
     EXPECT_EQ(textOf(totals.sumCost()), "none") << "money is off";
 }
 

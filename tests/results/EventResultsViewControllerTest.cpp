@@ -174,7 +174,16 @@ TEST_F(EventResultsViewControllerTest, FieldsOfTheOtherTabFollowTheSelection) {
     wake();
     EXPECT_EQ(selected(ResultField::CountEvents), "0");
     EXPECT_EQ(selected(ResultField::SumHours), "0");
-    EXPECT_EQ(selected(ResultField::AvgHours), "");
+    EXPECT_EQ(selected(ResultField::SumMinutes), "0");
+    EXPECT_EQ(selected(ResultField::SumCost), "$0.00");
+    EXPECT_EQ(selected(ResultField::AvgHours), "0") << "a mean, like a sum, is 0";
+    EXPECT_EQ(selected(ResultField::AvgMinutes), "0");
+    EXPECT_EQ(selected(ResultField::MinHours), "") << "of nothing there is no shortest";
+    EXPECT_EQ(selected(ResultField::MaxHours), "");
+    EXPECT_EQ(selected(ResultField::MaxMinutes), "");
+    EXPECT_EQ(selected(ResultField::AvgDuration), "0h");
+    EXPECT_EQ(selected(ResultField::MinDuration), "0h");
+    EXPECT_EQ(selected(ResultField::MaxDuration), "0h");
     EXPECT_EQ(selected(ResultField::MinMinutes), "");
     EXPECT_EQ(selected(ResultField::SumDuration), "0h");
     EXPECT_EQ(selected(ResultField::TotalDays), "0");
