@@ -5,6 +5,7 @@
 #include <QVariantMap>
 
 #include <array>
+#include <optional>
 
 namespace quillet {
 
@@ -28,15 +29,17 @@ inline constexpr std::size_t txtSwitchCount = 12;
 /// `txtSettings`.
 struct TXTSettings {
     QString txtSettingsName;
-    /// In the order of txtSwitches().
-    std::array<bool, txtSwitchCount> switches{};
-    QString txtHeader = QString::fromLatin1("");
-    QString txtFooter = QString::fromLatin1("");
-    /// Members that this version does not know, written back as they came.
+    /// In the order of txtSwitches(). Nothing, here and below, for a member that a preset edited by
+    /// hand lacks or that cannot be read: the report then keeps what it has.
+    std::array<std::optional<bool>, txtSwitchCount> switches{};
+    std::optional<QString> txtHeader;
+    std::optional<QString> txtFooter;
+    /// Members that this version does not know or cannot read, written back as they came.
     QVariantMap otherMembers;
 };
 
-/// Members of a wrong type are read as the platform's typed getters do.
+/// Numbers and texts are read as the platform's typed getters do; lists, maps and dates cannot be
+/// read.
 [[nodiscard]] TXTSettings txtSettingsFromValue(const QVariant& value);
 [[nodiscard]] QVariant valueFromTXTSettings(const TXTSettings& preset);
 

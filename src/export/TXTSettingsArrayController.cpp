@@ -25,6 +25,11 @@ QVariant taken(SettingsStore& settings, const QString& key) {
     return value;
 }
 
+/// An empty text where there is none: a preset that the program makes lacks nothing.
+QString presentText(const QString& text) {
+    return text.isNull() ? QString::fromLatin1("") : text;
+}
+
 bool hasLegacySettings(const SettingsStore& settings) {
     return hasKey(settings, legacyHeaderKey) || hasKey(settings, legacyFooterKey) ||
            std::ranges::any_of(txtSwitches(), [&](const TXTSwitch& each) {
@@ -52,12 +57,15 @@ void TXTSettingsArrayController::createDefaultTXTSettings() {
     TXTSettings preset;
     preset.txtSettingsName = localized("Default");
     std::ranges::transform(txtSwitches(), preset.switches.begin(), &TXTSwitch::isOnByDefault);
+    preset.txtHeader = presentText({});
+    preset.txtFooter = presentText({});
     append(preset);
 }
 
 void TXTSettingsArrayController::migrateMailSettings() {
     TXTSettings preset;
     preset.txtSettingsName = localized("Mail");
+    preset.switches.fill(false);
     for (std::size_t index = 0; index < txtSwitchCount; ++index) {
         const TXTSwitch& each = txtSwitches().at(index);
         if (each.legacyKey != nullptr) {
@@ -67,8 +75,8 @@ void TXTSettingsArrayController::migrateMailSettings() {
     }
     // Wrapping had no switch of its own; the days had none at all and stay off.
     preset.switches.front() = boolForKey(settings_, QStringLiteral("isTXTWrapping"));
-    preset.txtHeader += stringFromValue(taken(settings_, legacyHeaderKey));
-    preset.txtFooter += stringFromValue(taken(settings_, legacyFooterKey));
+    preset.txtHeader = presentText(stringFromValue(taken(settings_, legacyHeaderKey)));
+    preset.txtFooter = presentText(stringFromValue(taken(settings_, legacyFooterKey)));
     append(preset);
 }
 
@@ -79,8 +87,8 @@ void TXTSettingsArrayController::createTXTSettings() {
     std::ranges::transform(txtSwitches(), preset.switches.begin(), [this](const TXTSwitch& each) {
         return boolForKey(settings_, QString::fromLatin1(each.reportKey));
     });
-    preset.txtHeader += stringForKey(settings_, headerKey);
-    preset.txtFooter += stringForKey(settings_, footerKey);
+    preset.txtHeader = presentText(stringForKey(settings_, headerKey));
+    preset.txtFooter = presentText(stringForKey(settings_, footerKey));
     append(preset);
 }
 
@@ -99,12 +107,16 @@ void TXTSettingsArrayController::applyTXTSettings() {
     }
     const TXTSettings preset = arranged(selectedRows().front());
     settings_.setObject(isApplyingKey, true);
+    const auto write = [this](const QString& key, const auto& value) {
+        if (value) {
+            settings_.setObject(key, *value);
+        }
+    };
     for (std::size_t index = 0; index < txtSwitchCount; ++index) {
-        settings_.setObject(QString::fromLatin1(txtSwitches().at(index).reportKey),
-                            preset.switches.at(index));
+        write(QString::fromLatin1(txtSwitches().at(index).reportKey), preset.switches.at(index));
     }
-    settings_.setObject(headerKey, preset.txtHeader);
-    settings_.setObject(footerKey, preset.txtFooter);
+    write(headerKey, preset.txtHeader);
+    write(footerKey, preset.txtFooter);
     settings_.setObject(isApplyingKey, false);
 }
 

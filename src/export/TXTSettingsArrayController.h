@@ -30,7 +30,8 @@ public:
     /// createTXTSettings(), then asks for the new name to be edited.
     void saveTXTSettings();
     void setTXTSettings();
-    /// Copies the first selected preset into the report's settings; nothing without a selection.
+    /// Copies the first selected preset into the report's settings, as far as it has their values;
+    /// nothing without a selection.
     /// `isApplyTXTSettingsOn` is on meanwhile.
     void applyTXTSettings();
     /// Deletes the first selected preset, once the user agrees; the first of the list is refused.

@@ -186,20 +186,43 @@ TEST_F(TXTSettingsArrayControllerTest, OtherPresetsAreDeletedOnceTheUserAgrees) 
     EXPECT_EQ(alerts.shown.size(), 2U);
 }
 
-TEST_F(TXTSettingsArrayControllerTest, APresetEditedByHandIsAppliedAsItCanBeRead) {
+TEST_F(TXTSettingsArrayControllerTest, APresetEditedByHandIsAppliedAsFarAsItGoes) {
     controller.awakeFromNib();
-    settings.setObject("isTXTWrapping", true);
-    settings.setObject(presetsKey,
-                       QVariantList{stored(0), 7, QVariantMap{{"txtSettingsIsTXTMax", "YES"}}});
+    for (const char* key : {"isTXTWrapping", "isTXTMin", "isTXTAverage"}) {
+        settings.setObject(key, true);
+    }
+    settings.setObject("txtHeader", "Dear all");
+    settings.setObject("txtFooter", "Thanks");
+    const QVariantMap edited{{"txtSettingsIsTXTMax", "YES"},
+                             {"txtSettingsIsTXTMin", QVariantList{false}},
+                             {"txtSettingsIsTXTAverage", 0},
+                             {"txtSettingsTxtHeader", 7},
+                             {"txtSettingsTxtFooter", QVariantMap{{"text", "Bye"}}}};
+    settings.setObject(presetsKey, QVariantList{stored(0), 7, edited});
     ASSERT_EQ(controller.arrangedCount(), 2U);
     controller.setSelectedRows({1});
     controller.setTXTSettings();
     EXPECT_EQ(settings.object("isTXTMax"), QVariant(true));
-    EXPECT_EQ(settings.object("isTXTWrapping"), QVariant(false));
-    EXPECT_EQ(settings.object("txtHeader"), QVariant(""));
+    EXPECT_EQ(settings.object("isTXTAverage"), QVariant(false));
+    EXPECT_EQ(settings.object("txtHeader"), QVariant("7"));
+    EXPECT_EQ(settings.object("isTXTWrapping"), QVariant(true)) << "missing in the preset";
+    EXPECT_EQ(settings.object("isTXTMin"), QVariant(true)) << "not to be read";
+    EXPECT_EQ(settings.object("txtFooter"), QVariant("Thanks")) << "not to be read";
+}
+
+TEST_F(TXTSettingsArrayControllerTest, WhatCannotBeReadInAPresetIsNotLost) {
+    controller.awakeFromNib();
+    const QVariantMap edited{{"txtSettingsName", "Odd"},
+                             {"txtSettingsIsTXTMin", QVariantList{false}},
+                             {"txtSettingsTxtFooter", QVariant::fromValue(test::utc(2024, 3, 1))}};
+    settings.setObject(presetsKey, QVariantList{stored(0), edited});
+    controller.renameTXTSettings(0, "Mine");
+    EXPECT_EQ(stored(0).value("txtSettingsName"), QVariant("Mine"));
+    EXPECT_EQ(stored(0).size(), 15);
+    EXPECT_EQ(stored(1), edited);
     controller.renameTXTSettings(1, "Short");
-    EXPECT_EQ(stored(0).value("txtSettingsName"), QVariant("Default"));
     EXPECT_EQ(stored(1).value("txtSettingsName"), QVariant("Short"));
+    EXPECT_EQ(stored(1).value("txtSettingsIsTXTMin"), QVariant(QVariantList{false}));
 }
 
 TEST_F(TXTSettingsArrayControllerTest, MembersOfANewerVersionAreCarriedAlong) {
