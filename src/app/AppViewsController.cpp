@@ -132,11 +132,21 @@ void AppViewsController::disableProgressIndicator() {
 }
 
 void AppViewsController::exportTxtToolbarItemClicked() {
-    openExport(txtPaneKey);
+    setExportItemsEnabled(false);
+    displayTxtExportView();
 }
 
 void AppViewsController::exportNotesToolbarItemClicked() {
-    openExport(notesPaneKey);
+    setExportItemsEnabled(false);
+    displayNotesExportView();
+}
+
+void AppViewsController::displayTxtExportView() {
+    showExport(txtPaneKey);
+}
+
+void AppViewsController::displayNotesExportView() {
+    showExport(notesPaneKey);
 }
 
 void AppViewsController::turnTxtExportViewOff() {
@@ -147,8 +157,7 @@ void AppViewsController::turnNotesExportViewOff() {
     closeExport(notesPaneKey);
 }
 
-void AppViewsController::openExport(const QString& key) {
-    setExportItemsEnabled(false);
+void AppViewsController::showExport(const QString& key) {
     with_.settings.setObject(key, true);
     changeExportViewController();
 }

@@ -76,6 +76,8 @@ public:
 
     void exportTxtToolbarItemClicked();
     void exportNotesToolbarItemClicked();
+    void displayTxtExportView();
+    void displayNotesExportView();
     void turnTxtExportViewOff();
     void turnNotesExportViewOff();
 
@@ -87,7 +89,7 @@ public:
 private:
     void arrangePanes(qint64 mode);
     void swapPane(Pane pane, PaneContent content, bool isContentTaken);
-    void openExport(const QString& key);
+    void showExport(const QString& key);
     void closeExport(const QString& key);
     void setExportItemsEnabled(bool isEnabled);
 

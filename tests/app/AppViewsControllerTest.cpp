@@ -18,13 +18,17 @@ public:
             contents.erase(content);
         }
     }
-    void install(PaneContent content, Pane pane) override { contentsOf[pane].insert(content); }
+    void install(PaneContent content, Pane pane) override {
+        contentsOf[pane].insert(content);
+        topmost[pane] = content;
+    }
     void setPaneHidden(Pane pane, bool isHidden) override { hidden[pane] = isHidden; }
     void removeProgressIndicator() override { indicators = 0; }
     void addProgressIndicator() override { ++indicators; }
     void setProgressAnimated(bool animated) override { isAnimated = animated; }
 
     std::map<Pane, std::multiset<PaneContent>> contentsOf;
+    std::map<Pane, PaneContent> topmost;
     std::map<Pane, bool> hidden;
     int indicators = 0;
     bool isAnimated = true;
@@ -105,6 +109,18 @@ TEST_F(AppViewsControllerTest, OpeningAnExportPaneDisablesTheExportsUntilItIsClo
     EXPECT_TRUE(panes.hidden[Pane::Export]);
 }
 
+TEST_F(AppViewsControllerTest, ShowingAnExportPaneLeavesTheExportsEnabled) {
+    controller.awakeFromNib();
+    controller.displayTxtExportView();
+    EXPECT_EQ(panes.contentsOf[Pane::Export], Contents{PaneContent::ExportTxtView});
+    EXPECT_EQ(settings.object("isExportTXTViewOn"), QVariant(true));
+    EXPECT_EQ(enabledItems(), "txt csv tsv notes") << "only the toolbar's way in disables them";
+    controller.turnTxtExportViewOff();
+    controller.displayNotesExportView();
+    EXPECT_EQ(panes.contentsOf[Pane::Export], Contents{PaneContent::ExportNotesView});
+    EXPECT_EQ(settings.object("isNotesViewOn"), QVariant(true));
+}
+
 TEST_F(AppViewsControllerTest, WithBothExportsOnTheNotesLieOverTheReport) {
     controller.awakeFromNib();
     settings.setObject("isExportTXTViewOn", true);
@@ -112,6 +128,11 @@ TEST_F(AppViewsControllerTest, WithBothExportsOnTheNotesLieOverTheReport) {
     controller.changeExportViewController();
     EXPECT_EQ(panes.contentsOf[Pane::Export],
               (Contents{PaneContent::ExportTxtView, PaneContent::ExportNotesView}));
+    EXPECT_EQ(panes.topmost[Pane::Export], PaneContent::ExportNotesView);
+    EXPECT_FALSE(panes.hidden[Pane::Export]);
+    controller.turnNotesExportViewOff();
+    EXPECT_EQ(panes.topmost[Pane::Export], PaneContent::ExportTxtView);
+    EXPECT_FALSE(panes.hidden[Pane::Export]);
 }
 
 TEST_F(AppViewsControllerTest, TheDividerCanBeDraggedOnlyWithAnExportPaneOpen) {
