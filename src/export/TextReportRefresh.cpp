@@ -66,6 +66,7 @@ void TextReportRefresh::updateEventsAttributedString() {
 }
 
 void TextReportRefresh::tableViewChanged() {
+    setIfAbsent(settings_, QString::fromLatin1(isPaneOpen), false);
     if (isOn(isPaneOpen) && !isOn(isApplyingLayout)) {
         Q_EMIT eventsAttributedStringChanged();
     }

@@ -62,12 +62,31 @@ TEST_F(TextReportRefreshTest, AClosedPaneIsNotRebuiltAndItsKeyIsCreated) {
     EXPECT_EQ(rebuildsOfWriting("isExportTXTViewOn"), 1);
 }
 
+TEST_F(TextReportRefreshTest, AMovedColumnCreatesTheKeyOfThePaneToo) {
+    report.tableViewChanged();
+    EXPECT_EQ(rebuilds, 0);
+    EXPECT_EQ(settings.object("isExportTXTViewOn"), QVariant(false));
+}
+
 TEST_F(TextReportRefreshTest, EveryKeyThatShowsInTheReportRebuildsItOnce) {
     open();
     for (const char* key : {"hiddenColumnsChangedTrigger",
+                            "calendarColumnTitle",
+                            "titleColumnTitle",
                             "dateColumnTitle",
-                            "startWeekdayColumnTitle",
+                            "endDateColumnTitle",
+                            "hoursColumnTitle",
                             "minutesColumnTitle",
+                            "durationColumnTitle",
+                            "notesColumnTitle",
+                            "urlColumnTitle",
+                            "locationColumnTitle",
+                            "startTimeColumnTitle",
+                            "endTimeColumnTitle",
+                            "costColumnTitle",
+                            "rateColumnTitle",
+                            "startWeekdayColumnTitle",
+                            "endWeekdayColumnTitle",
                             "isDollarsOn",
                             "isSingleRate",
                             "isTXTWrapping",
