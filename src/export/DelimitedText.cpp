@@ -2,6 +2,14 @@
 
 namespace quillet {
 
+namespace {
+
+QString presentText(const QString& value) {
+    return value.isNull() ? QStringLiteral("(null)") : value;
+}
+
+} // namespace
+
 DelimitedText::DelimitedText(std::vector<ExportColumn> columns, const DelimitedSettings& settings,
                              const EventFields& fields, QChar separator)
     : columns_(std::move(columns))
@@ -29,7 +37,7 @@ void DelimitedText::appendHeader() {
 void DelimitedText::appendEvent(const Event& event) {
     texts_.setEvent(event);
     if (settings_.includesIdentifier) {
-        appendQuoted(event.details->eventIdentifier);
+        appendQuoted(presentText(event.details->eventIdentifier));
     }
     for (const Append& append : appenders_) {
         append(*event.details);
@@ -60,7 +68,7 @@ DelimitedText::Append DelimitedText::appenderFor(const QString& identifier) {
     }
     if (identifier == u"calendar") {
         return [this](const EventDetails& details) {
-            appendFree(details.calendar->title, settings_.quotesCalendar);
+            appendFree(presentText(details.calendar->title), settings_.quotesCalendar);
         };
     }
     if (identifier == u"url") {
@@ -74,8 +82,7 @@ DelimitedText::Append DelimitedText::appenderFor(const QString& identifier) {
     }
     if (const EventTexts::Field derived = EventTexts::fieldNamed(identifier)) {
         return [this, derived](const EventDetails&) {
-            const QString value = (texts_.*derived)();
-            appendQuoted(value.isNull() ? QStringLiteral("(null)") : value);
+            appendQuoted(presentText((texts_.*derived)()));
         };
     }
     return {};

@@ -31,8 +31,8 @@ struct ExportFileTexts {
 };
 
 /// Asks where to save a text, starting on the desktop, and writes it there whole or not at all, in
-/// the encoding that was chosen when the panel opened (`fileEncodingPopUpIndex` 1 is UTF-16). A
-/// write that fails is only logged.
+/// the encoding that is chosen when the user confirms (`fileEncodingPopUpIndex` 1 is UTF-16). A
+/// write that fails is only logged. The panel and the settings must outlive the answer.
 void saveThroughPanel(SavePanel& panel, const SettingsStore& settings, const ExportFileKind& kind,
                       const ExportFileTexts& texts, QString text);
 

@@ -102,6 +102,21 @@ TEST_F(ExportCSVTest, WithMoneyOffTheCostIsAMissingValue) {
     EXPECT_EQ(text(), "\"(null)\"\n");
 }
 
+TEST_F(ExportCSVTest, AMissingIdentifierOrCalendarTitleIsNullInParentheses) {
+    EventDetails details;
+    details.title = "T";
+    details.calendar = test::calendarNamed(QString());
+    events.push_back({test::utc(2024, 3, 4, 9), test::utc(2024, 3, 4, 10), Instant(),
+                      std::make_shared<const EventDetails>(std::move(details))});
+    list.setContent(events);
+    show({"calendar"});
+    settings.setObject("isCSVHeader", false);
+    settings.setObject("isCSVIncludeUID", true);
+    EXPECT_EQ(text(), "\"(null)\",\"(null)\"\n");
+    settings.setObject("isCSVQuotesForCalendar", false);
+    EXPECT_EQ(text(), "\"(null)\",(null)\n");
+}
+
 TEST_F(ExportCSVTest, TheSelectedEventsAloneCanBeExported) {
     addEvent("a");
     addEvent("b");
@@ -163,7 +178,7 @@ TEST_F(ExportCSVTest, ThePanelSuggestsTheLongDatesWithoutSlashesAndCommas) {
     EXPECT_EQ(panel.requests[1].suggestedName, QString::fromUtf8("2024年3月1日 - "));
 }
 
-TEST_F(ExportCSVTest, TheEncodingIsTheOneOfTheMomentWhenThePanelOpened) {
+TEST_F(ExportCSVTest, TheEncodingIsTheOneOfTheMomentWhenTheUserConfirms) {
     const QTemporaryDir folder;
     settings.setObject("isCSVHeader", false);
     addEvent("a");
@@ -171,7 +186,7 @@ TEST_F(ExportCSVTest, TheEncodingIsTheOneOfTheMomentWhenThePanelOpened) {
     exporter().saveAsCSV();
     settings.setObject("fileEncodingPopUpIndex", 1);
     panel.pending(folder.filePath("a.csv"));
-    EXPECT_EQ(bytesOf(folder.filePath("a.csv")), QByteArray("\"a\"\n"));
+    EXPECT_EQ(bytesOf(folder.filePath("a.csv")), QByteArray("\xFF\xFE\"\0a\0\"\0\n\0", 10));
 }
 
 TEST_F(ExportCSVTest, ATextBeyondTheBasicPlaneKeepsItsPairsInUtf16) {
