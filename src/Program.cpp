@@ -69,15 +69,13 @@ Program::Program(const ProgramPaths& paths)
     , exportTxtView_({settings_, *eventTable_, events_, calendars_, fields_})
     , exportCSV_({settings_, *eventTable_, events_, fields_, dialogs_, dialogs_})
     , exportTSV_({settings_, *eventTable_, events_, fields_, dialogs_, dialogs_})
-    , exportTXT_({settings_, formats_, dialogs_, dialogs_, scriptRunner_, installedPrograms_,
-                  textColor_, dialogs_,
-                  [this](const ExportProgress& progress) {
-                      return exportTxtView_.eventsAttributedString(progress).transform(
-                          &StyledText::text);
-                  }})
+    , exportTXT_(
+          {settings_, formats_, dialogs_, dialogs_, scriptRunner_, installedPrograms_, textColor_,
+           dialogs_,
+           [this](const ExportProgress& progress) { return exportTxtView_.shownText(progress); }})
     , exportNotes_({settings_, formats_, dialogs_, dialogs_, scriptRunner_, installedPrograms_,
                     textColor_, dialogs_,
-                    [this](const ExportProgress&) { return eventNotes_.notes().text(); }})
+                    [this](const ExportProgress&) { return eventNotes_.shownText(); }})
     , reportFormats_(locales_, timeZone_)
     , reportCalendar_(locales_.time, timeZone_, CalendarSystem::Gregorian)
     , reportQueue_(makeBackgroundQueue(QStringLiteral("org.quillet.Quillet.textReport")))
@@ -98,10 +96,21 @@ Program::~Program() {
 
 void Program::start() {
     wake();
-    window_ = std::make_unique<MainWindow>(MainWindow::Collaborators{
-        settings_, formats_, currentCalendar_, events_, calendars_, dateInspector_, eventItemView_,
-        exports(), {columnLayouts_, txtSettings_}, appDelegate_, *eventTable_, *resultsPane_, exportItems_, menuTimeColumns_,
-        calendarActions()});
+    window_ = std::make_unique<MainWindow>(MainWindow::Collaborators{settings_,
+                                                                     formats_,
+                                                                     currentCalendar_,
+                                                                     events_,
+                                                                     calendars_,
+                                                                     dateInspector_,
+                                                                     eventItemView_,
+                                                                     exports(),
+                                                                     {columnLayouts_, txtSettings_},
+                                                                     appDelegate_,
+                                                                     *eventTable_,
+                                                                     *resultsPane_,
+                                                                     exportItems_,
+                                                                     menuTimeColumns_,
+                                                                     calendarActions()});
     dialogs_.setWindow(window_.get());
     connectNotices();
     appDelegate_.awakeFromNib();

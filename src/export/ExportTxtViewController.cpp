@@ -114,6 +114,15 @@ ExportTxtViewController::eventsAttributedString(const ExportProgress& progress) 
     return textReport(content(), progress);
 }
 
+std::optional<QString> ExportTxtViewController::shownText(const ExportProgress& progress) const {
+    if (eventTextView_ && isOn("isExportTXTViewOn")) {
+        if (auto shown = eventTextView_()) {
+            return shown;
+        }
+    }
+    return eventsAttributedString(progress).transform(&StyledText::text);
+}
+
 QString ExportTxtViewController::headerString() const {
     const TextReportContent report = content();
     return reportHeader(report, reportTotals(report));

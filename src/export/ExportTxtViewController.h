@@ -13,6 +13,7 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -50,6 +51,13 @@ public:
     /// The same for a long one; nothing when it was cancelled.
     [[nodiscard]] std::optional<StyledText>
     eventsAttributedString(const ExportProgress& progress) const;
+    /// The pane that shows the report: what it shows, or nothing while it waits for a newer report.
+    void setEventTextView(std::function<std::optional<QString>()> shownText) {
+        eventTextView_ = std::move(shownText);
+    }
+    /// What is saved and mailed: the report exactly as its pane shows it, which does not follow
+    /// every change; without a pane, the report of now. Nothing when it was cancelled.
+    [[nodiscard]] std::optional<QString> shownText(const ExportProgress& progress) const;
     /// Lines that each end with a line feed; empty without events.
     [[nodiscard]] QString headerString() const;
     /// Titles, separator and events, each line ended by a line feed.
@@ -87,6 +95,7 @@ private:
 
     Collaborators with_;
     TextReportRefresh refresh_;
+    std::function<std::optional<QString>()> eventTextView_;
 };
 
 } // namespace quillet

@@ -95,6 +95,15 @@ StyledText EventNotesViewController::notes() const {
     return digest;
 }
 
+QString EventNotesViewController::shownText() const {
+    if (notesTextView_ && isOn("isNotesViewOn")) {
+        if (auto shown = notesTextView_()) {
+            return *std::move(shown);
+        }
+    }
+    return notes().text();
+}
+
 qint64 EventNotesViewController::notesCount() const {
     const auto& list = with_.eventsArrayController;
     qint64 count = 0;

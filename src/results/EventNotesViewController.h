@@ -10,6 +10,7 @@
 #include <QObject>
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -30,6 +31,13 @@ public:
 
     void awakeFromNib();
     [[nodiscard]] StyledText notes() const;
+    /// The pane that shows the notes: what it shows, or nothing while it waits for newer ones.
+    void setNotesTextView(std::function<std::optional<QString>()> shownText) {
+        notesTextView_ = std::move(shownText);
+    }
+    /// What is saved and mailed: the notes exactly as their pane shows them, which does not follow
+    /// the order of the list; without a pane, those of now.
+    [[nodiscard]] QString shownText() const;
     /// Of the shown events with notes; an empty text counts as notes.
     [[nodiscard]] qint64 notesCount() const;
 
@@ -49,6 +57,7 @@ private:
     Collaborators with_;
     ListController<Event>::Content content_;
     QString filterName_;
+    std::function<std::optional<QString>()> notesTextView_;
     std::vector<Observation> observations_;
 };
 

@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QHeaderView>
+#include <QPointer>
 
 namespace quillet {
 
@@ -111,6 +112,10 @@ WindowPanes::Contents MainWindow::exportPanes() {
     for (ExportPane* pane : {static_cast<ExportPane*>(report), static_cast<ExportPane*>(notes)}) {
         pane->setMailProblem(mailProblem());
     }
+    exports.report.setEventTextView(
+        [view = QPointer(report)] { return view ? view->shownText() : std::nullopt; });
+    exports.eventNotes.setNotesTextView(
+        [view = QPointer(notes)] { return view ? view->shownText() : std::nullopt; });
     const QHeaderView* header = with_.eventTable.horizontalHeader();
     connect(header, &QHeaderView::sectionMoved, &exports.report,
             &ExportTxtViewController::tableViewChanged);

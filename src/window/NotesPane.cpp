@@ -48,7 +48,13 @@ NotesPane::~NotesPane() = default;
 
 void NotesPane::refresh() {
     setRemark(localized("Events with notes: %1").arg(notes_.notesCount()));
-    view_->show(notes_.notes());
+    StyledText notes = notes_.notes();
+    text_ = notes.text();
+    view_->show(std::move(notes));
+}
+
+std::optional<QString> NotesPane::shownText() const {
+    return refreshing_.isActive() ? std::nullopt : std::optional(text_);
 }
 
 } // namespace quillet

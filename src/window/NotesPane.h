@@ -6,6 +6,8 @@
 
 #include <QTimer>
 
+#include <optional>
+
 namespace quillet {
 
 class StyledTextView;
@@ -20,6 +22,10 @@ public:
     ~NotesPane() override;
     Q_DISABLE_COPY_MOVE(NotesPane)
 
+    /// The notes that stand here, or are about to: a long text is filled in bit by bit. Nothing
+    /// while newer ones are awaited.
+    [[nodiscard]] std::optional<QString> shownText() const;
+
 private:
     NotesPane(StyledTextView* view, EventNotesViewController& notes, SettingsStore& settings,
               Actions actions, QWidget* parent);
@@ -27,6 +33,7 @@ private:
 
     EventNotesViewController& notes_;
     StyledTextView* view_;
+    QString text_;
     /// Several changes at once are shown once.
     QTimer refreshing_;
 };

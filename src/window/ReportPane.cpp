@@ -56,7 +56,12 @@ void ReportPane::refresh() {
     }
 }
 
+std::optional<QString> ReportPane::shownText() const {
+    return refreshing_.isActive() || isBuilding_ ? std::nullopt : std::optional(view_->text());
+}
+
 void ReportPane::buildInBackground(TextReportContent content) {
+    isBuilding_ = true;
     isGivenUp_ = std::make_shared<std::atomic<bool>>(false);
     content.formats = &building_.formats;
     content.calendar = &building_.calendar;
@@ -79,6 +84,7 @@ void ReportPane::buildInBackground(TextReportContent content) {
 }
 
 void ReportPane::show(TextLines lines) {
+    isBuilding_ = false;
     setRemark({});
     view_->setLines(std::move(lines));
 }

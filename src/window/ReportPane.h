@@ -34,6 +34,9 @@ public:
     ~ReportPane() override;
     Q_DISABLE_COPY_MOVE(ReportPane)
 
+    /// The report that stands here; nothing while another is awaited.
+    [[nodiscard]] std::optional<QString> shownText() const;
+
 private:
     ReportPane(ReportView* view, ExportTxtViewController& report, Building building,
                std::function<void()> showOptions, Actions actions, QWidget* parent);
@@ -44,6 +47,7 @@ private:
     ReportView* view_;
     ExportTxtViewController& report_;
     Building building_;
+    bool isBuilding_ = false;
     /// Several changes at once are shown once.
     QTimer refreshing_;
     /// Set for a report that nobody waits for any more.

@@ -206,6 +206,21 @@ TEST_F(ExportTxtViewControllerTest, ALongReportCanBeCancelled) {
     EXPECT_TRUE(controller.eventsAttributedString(ExportProgress()).has_value());
 }
 
+TEST_F(ExportTxtViewControllerTest, WhatLeavesTheProgramIsWhatThePaneShows) {
+    const QString fresh = controller.eventsAttributedString().text();
+    EXPECT_EQ(controller.shownText({}), fresh) << "no pane";
+    std::optional<QString> shown = "as it stands in the pane";
+    controller.setEventTextView([&] { return shown; });
+    EXPECT_EQ(controller.shownText({}), fresh) << "a closed pane";
+    settings.setObject("isExportTXTViewOn", true);
+    EXPECT_EQ(controller.shownText({}), shown);
+    shown.reset();
+    EXPECT_EQ(controller.shownText({}), fresh) << "a pane that waits for a newer report";
+    list.setContent(EventList(1000, list.arranged(0)));
+    EXPECT_FALSE(
+        controller.shownText([](std::size_t, std::size_t) { return ExportAnswer::Cancel; }));
+}
+
 TEST_F(ExportTxtViewControllerTest, DurationsAreOfAllAndOfTheSelectedEvents) {
     EXPECT_EQ(controller.totalSelectedDuration(), "0h");
     EXPECT_EQ(controller.minSelectedDuration(), "0h");

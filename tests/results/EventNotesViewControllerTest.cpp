@@ -148,6 +148,20 @@ TEST_F(EventNotesViewControllerTest, ChangesAreAnnouncedOnlyWhileThePaneIsOpen) 
     EXPECT_EQ(counts, 4);
 }
 
+TEST_F(EventNotesViewControllerTest, WhatLeavesTheProgramIsWhatThePaneShows) {
+    controller.awakeFromNib();
+    add("Call");
+    const QString fresh = controller.notes().text();
+    std::optional<QString> shown = "as they stand in the pane";
+    EXPECT_EQ(controller.shownText(), fresh) << "no pane";
+    controller.setNotesTextView([&] { return shown; });
+    EXPECT_EQ(controller.shownText(), fresh) << "a closed pane";
+    settings.setObject("isNotesViewOn", true);
+    EXPECT_EQ(controller.shownText(), "as they stand in the pane");
+    shown.reset();
+    EXPECT_EQ(controller.shownText(), fresh) << "a pane that waits for newer ones";
+}
+
 TEST_F(EventNotesViewControllerTest, AnotherOrderAloneIsNotAnnounced) {
     controller.awakeFromNib();
     settings.setObject("isNotesViewOn", true);

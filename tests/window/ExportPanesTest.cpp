@@ -4,9 +4,11 @@
 
 #include <QAbstractButton>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QHeaderView>
 #include <QPlainTextEdit>
 #include <QSplitter>
+#include <QTemporaryDir>
 #include <QTest>
 
 namespace quillet {
@@ -34,6 +36,11 @@ protected:
     bool areItemsDisabled() {
         return std::ranges::none_of(
             items(), [](ActionToolbarItem* item) { return item->action().isEnabled(); });
+    }
+    static QString contentOf(const QString& path) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return QString::fromUtf8(file.readAll());
     }
     /// A button of the pane that is open.
     QAbstractButton* button(const char* text) {
@@ -166,6 +173,48 @@ TEST_F(ExportPanesTest, TheReportIsSavedAndMailedFromItsPane) {
     button("Mail")->click();
     ASSERT_EQ(scripts.sources.size(), 1);
     EXPECT_TRUE(scripts.sources.front().contains("Planning"));
+}
+
+TEST_F(ExportPanesTest, SavedAndMailedIsTheReportThatThePaneShows) {
+    open();
+    openReport();
+    const QString shown = reportView()->text();
+    settings.setObject("filterEndDate", QVariant::fromValue(test::utc(2024, 3, 30, 23, 59, 59)));
+    fetch();
+    ASSERT_EQ(reportView()->text(), shown) << "an end of the period is not followed by itself";
+    ASSERT_NE(report.eventsAttributedString().text(), shown);
+    button("Save…")->click();
+    const QTemporaryDir folder;
+    panel.pending(folder.filePath("report.txt"));
+    EXPECT_EQ(contentOf(folder.filePath("report.txt")), shown);
+    button("Mail")->click();
+    EXPECT_TRUE(scripts.sources.value(0).contains(shown));
+    settings.setObject("txtFooter", "Thanks");
+    button("Save…")->click();
+    panel.pending(folder.filePath("report.txt"));
+    EXPECT_EQ(contentOf(folder.filePath("report.txt")), report.eventsAttributedString().text())
+        << "a change that the pane is about to show";
+}
+
+TEST_F(ExportPanesTest, SavedAreTheNotesInTheOrderThatThePaneShows) {
+    for (Event& event : store.storedEvents) {
+        auto details = *event.details;
+        details.notes = details.title + " notes";
+        event.details = std::make_shared<const EventDetails>(details);
+    }
+    open();
+    exportItems.notes.action().trigger();
+    fetch();
+    const QString shown = notesView()->toPlainText();
+    events.setOrder(
+        [](const Event& left, const Event& right) { return left.startDate > right.startDate; });
+    QApplication::processEvents();
+    ASSERT_EQ(notesView()->toPlainText(), shown) << "the order is not followed by itself";
+    ASSERT_NE(notes.notes().text(), shown);
+    button("Save…")->click();
+    const QTemporaryDir folder;
+    panel.pending(folder.filePath("notes.txt"));
+    EXPECT_EQ(contentOf(folder.filePath("notes.txt")), shown);
 }
 
 TEST_F(ExportPanesTest, MailWithNoPaneOpenTakesTheReport) {

@@ -178,12 +178,11 @@ protected:
     ExportTxtViewController report{{settings, *table, events, calendars, fields}};
     ExportCSV exportCSV{{settings, *table, events, fields, panel, progress}};
     ExportTSV exportTSV{{settings, *table, events, fields, panel, progress}};
-    ExportTXT exportTXT{
-        {settings, formats, panel, alerts, scripts, installed, textColor, progress,
-         [this](const ExportProgress&) { return report.eventsAttributedString().text(); }}};
+    ExportTXT exportTXT{{settings, formats, panel, alerts, scripts, installed, textColor, progress,
+                         [this](const ExportProgress& asked) { return report.shownText(asked); }}};
     ExportNotes exportNotes{{settings, formats, panel, alerts, scripts, installed, textColor,
                              progress,
-                             [this](const ExportProgress&) { return notes.notes().text(); }}};
+                             [this](const ExportProgress&) { return notes.shownText(); }}};
     AppDelegate delegate{
         {settings,
          workspace,
