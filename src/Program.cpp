@@ -1,10 +1,13 @@
 #include "Program.h"
 
+#include "backends/activation/WindowFront.h"
 #include "eventtable/ColumnLayout.h"
 #include "platform/Localized.h"
 
 #include <QSettings>
 #include <QTimer>
+
+#include <map>
 
 namespace quillet {
 
@@ -22,15 +25,16 @@ std::vector<ToolbarItem*> toolbarItems(ExportItems& items) {
 
 } // namespace
 
-Program::Program(const ProgramPaths& paths)
+Program::Program(const ProgramPaths& paths, ApplicationService& service)
     : paths_(paths)
+    , service_(service)
     , settings_(paths.settingsFile)
     , timeZone_(systemTimeZoneName())
     , locales_(localeNamesOfProcess())
     , gregorian_(locales_.time, timeZone_, CalendarSystem::Gregorian)
     , currentCalendar_(locales_.time, timeZone_, CalendarSystem::OfLocale)
     , formats_(locales_, timeZone_)
-    , taskLauncher_([this] { settings_.flush(); })
+    , taskLauncher_([this] { settings_.flush(); }, [this] { service_.endSoon(); })
     , access_(
           paths.stateFolder,
           [this](const CalendarAccess::Answer& answer) { answer(dialogs_.askForCalendarAccess()); })
@@ -119,6 +123,7 @@ void Program::start() {
     window_->refreshProblems();
     window_->showMessage(settings_.startMessage().value_or(QString()));
     window_->show();
+    serveDesktop();
     QTimer::singleShot(0, window_.get(), [this] { becomeActiveFirst(); });
 }
 
@@ -161,6 +166,33 @@ void Program::connectNotices() {
     storeObservation_ = store_.observeChanges([this] { window_->refreshProblems(); });
     settingsProblemObservation_ = settings_.observeWriteProblem(
         [this](const QString& problem) { window_->showMessage(problem); });
+}
+
+void Program::serveDesktop() {
+    auto* offer = new CalendarOffer(calendarActions().addCalendar, *window_);
+    const auto comeToFront = [this](const QString& token) {
+        bringToFront(*window_->windowHandle(), token);
+    };
+    service_.serve({.activate = comeToFront,
+                    .open =
+                        [comeToFront, offer](const QStringList& addresses, const QString& token) {
+                            comeToFront(token);
+                            offer->offer(addresses);
+                        },
+                    .activateAction =
+                        [this, comeToFront](const QString& action, const QString& token) {
+                            comeToFront(token);
+                            perform(action);
+                        }});
+}
+
+void Program::perform(const QString& desktopAction) {
+    const std::map<QString, PeriodKind> kinds{{QStringLiteral("this-week"), PeriodKind::Week},
+                                              {QStringLiteral("this-month"), PeriodKind::Month}};
+    if (const auto kind = kinds.find(desktopAction); kind != kinds.end()) {
+        dateInspector_.choosePeriodKind(kind->second);
+        dateInspector_.setQuickDates(PeriodStep::Current);
+    }
 }
 
 WindowExports Program::exports() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "backends/activation/ApplicationService.h"
 #include "backends/combined/CalendarAccess.h"
 #include "backends/combined/CombinedEventStore.h"
 #include "backends/icsfolder/IcsFolderStore.h"
@@ -21,6 +22,7 @@
 #include "export/TXTSettingsArrayController.h"
 #include "results/EventNotesViewController.h"
 #include "window/ActivationWatcher.h"
+#include "window/CalendarOffer.h"
 #include "window/DesktopDialogs.h"
 #include "window/EventTableModel.h"
 #include "window/EventTableView.h"
@@ -42,7 +44,8 @@ struct ProgramPaths {
 /// each other.
 class Program {
 public:
-    explicit Program(const ProgramPaths& paths);
+    /// The service's requests are served from start() on; it must outlive the program.
+    Program(const ProgramPaths& paths, ApplicationService& service);
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
@@ -58,8 +61,11 @@ private:
     void arrangeColumns();
     void askForAccessAgain();
     void connectNotices();
+    void serveDesktop();
+    void perform(const QString& desktopAction);
 
     ProgramPaths paths_;
+    ApplicationService& service_;
     SettingsFile settings_;
     QString timeZone_;
     LocaleNames locales_;

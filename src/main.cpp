@@ -8,6 +8,9 @@
 
 namespace {
 
+/// How long a start waits for the running program to come to the front, or to end.
+constexpr std::chrono::seconds patienceWithAnother{10};
+
 /// The XDG state folder, which Qt does not know yet.
 QString stateHome() {
     const QString configured = qEnvironmentVariable("XDG_STATE_HOME");
@@ -29,17 +32,26 @@ quillet::ProgramPaths programPaths() {
 } // namespace
 
 int main(int argc, char** argv) {
+    const QString token = quillet::startToken(quillet::processEnvironment());
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quillet"));
     QApplication::setApplicationDisplayName(QStringLiteral("Quillet"));
     QApplication::setApplicationVersion(QStringLiteral(QUILLET_VERSION));
-    QApplication::setDesktopFileName(QStringLiteral("quillet"));
+    QApplication::setDesktopFileName(quillet::applicationIdentifier());
+    quillet::ApplicationService service(QDBusConnection::sessionBus());
+    if (service.claim(token, patienceWithAnother) ==
+        quillet::ApplicationService::Standing::HandedOver) {
+        return 0;
+    }
+    QApplication::setWindowIcon(QIcon::fromTheme(quillet::applicationIdentifier()));
     QApplication::setQuitOnLastWindowClosed(
         quillet::AppDelegate::applicationShouldTerminateAfterLastWindowClosed());
     const quillet::Translations translations(
         quillet::messageLanguages(quillet::processEnvironment()));
     quillet::installReportViewAccessibility();
-    quillet::Program program(programPaths());
+    quillet::Program program(programPaths(), service);
+    QObject::connect(&application, &QApplication::lastWindowClosed, &service,
+                     &quillet::ApplicationService::endSoon);
     program.start();
     return QApplication::exec();
 }

@@ -36,6 +36,16 @@ class Quillet:
     def __init__(self):
         self._process = None
         self._application = None
+        self._is_left = False
+
+    @classmethod
+    def running(cls, process_identifier):
+        """A program that something else has started."""
+        program = cls()
+        program._application = wait_for("the program on the accessibility bus", lambda: next(
+            (found for found in [application(process_identifier)] if found and children(found)),
+            None))
+        return program
 
     @property
     def log(self):
@@ -55,6 +65,8 @@ class Quillet:
         if kind is not None:
             self._give_up()
             return
+        if self._is_left:
+            return
         try:
             self.press_menu_item("Quit")
             code = self._process.wait(timeout=30)
@@ -63,6 +75,13 @@ class Quillet:
             raise
         if code != 0:
             raise AssertionError(f"the program ended with {code}:\n{self.log}")
+
+    def leave_to_itself(self):
+        """The program is about to end by itself, for what the test does next."""
+        self._is_left = True
+
+    def wait_for_end(self):
+        return self._process.wait(timeout=30)
 
     def _started(self):
         if self._process.poll() is not None:

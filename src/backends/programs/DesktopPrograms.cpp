@@ -53,6 +53,7 @@ std::expected<void, QString> ProcessTaskLauncher::launch(const QString& path,
 }
 
 void ProcessTaskLauncher::terminate() {
+    beforeEnd_();
     QTimer::singleShot(0, QCoreApplication::instance(), &QCoreApplication::quit);
 }
 

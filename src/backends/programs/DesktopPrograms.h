@@ -16,9 +16,12 @@ public:
 
 class ProcessTaskLauncher final : public TaskLauncher {
 public:
-    /// `prepare` is called before a program starts, so that it finds on disk what this one knows.
-    explicit ProcessTaskLauncher(std::function<void()> prepare)
-        : prepare_(std::move(prepare)) {}
+    /// `prepare` is called before a program starts, so that it finds on disk what this one knows;
+    /// `beforeEnd` when this program is to end, while it still answers.
+    explicit ProcessTaskLauncher(
+        std::function<void()> prepare, std::function<void()> beforeEnd = [] {})
+        : prepare_(std::move(prepare))
+        , beforeEnd_(std::move(beforeEnd)) {}
 
     [[nodiscard]] qint64 processIdentifier() const override;
     [[nodiscard]] QString executablePath() const override;
@@ -27,6 +30,7 @@ public:
 
 private:
     std::function<void()> prepare_;
+    std::function<void()> beforeEnd_;
 };
 
 } // namespace quillet
