@@ -89,10 +89,14 @@ void noteProblems(const IcsBlocks& blocks, const ReadEvents& read, QStringList& 
         problems.append(localized("more than 300,000 events; the others are left out"));
     }
     if (read.unreadable > 0) {
-        problems.append(localized("%1 events cannot be read").arg(read.unreadable));
+        problems.append(read.unreadable == 1
+                            ? localized("one event cannot be read")
+                            : localized("%1 events cannot be read").arg(read.unreadable));
     }
     if (read.withoutStart > 0) {
-        problems.append(localized("%1 events without a start").arg(read.withoutStart));
+        problems.append(read.withoutStart == 1
+                            ? localized("one event without a start")
+                            : localized("%1 events without a start").arg(read.withoutStart));
     }
     QStringList zones;
     for (const std::string& zone : read.unknownZones) {

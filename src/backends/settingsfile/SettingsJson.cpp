@@ -2,6 +2,7 @@
 
 #include "platform/Decimal.h"
 #include "platform/Instant.h"
+#include "platform/Localized.h"
 
 #include <QDateTime>
 #include <QJsonArray>
@@ -93,10 +94,10 @@ std::expected<QVariantMap, QString> settingsFromText(const QByteArray& text) {
     const QJsonDocument document = QJsonDocument::fromJson(text, &error);
     if (error.error != QJsonParseError::NoError) {
         return std::unexpected(
-            QStringLiteral("%1 at byte %2").arg(error.errorString()).arg(error.offset));
+            localized("%1 at byte %2").arg(error.errorString()).arg(error.offset));
     }
     if (!document.isObject()) {
-        return std::unexpected(QStringLiteral("the text is not a JSON object"));
+        return std::unexpected(localized("the text is not a JSON object"));
     }
     QVariantMap values;
     const QJsonObject object = document.object();

@@ -227,7 +227,7 @@ TEST_F(IcsReadingTest, countsAndNamesEventsWithoutAStart) {
     EXPECT_EQ(titles(), QStringList({"Then"}));
     ASSERT_EQ(store->problems().size(), 1U);
     EXPECT_EQ(store->problems()[0],
-              (StoreProblem{QStringLiteral("a.ics"), QStringLiteral("1 events without a start")}));
+              (StoreProblem{QStringLiteral("a.ics"), QStringLiteral("one event without a start")}));
 }
 
 TEST_F(IcsReadingTest, skipsAnEventOnADateThatTheCalendarLacks) {
