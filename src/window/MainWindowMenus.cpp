@@ -118,7 +118,7 @@ void MainWindow::makeFileMenu() {
     menu.addSeparator();
     menu.addAction(mailAction_);
     menu.addSeparator();
-    addAction(menu, localized("&Restart Quillet"), "relaunch", {},
+    addAction(menu, localized("R&estart Quillet"), "relaunch", {},
               [this] { with_.appDelegate.relaunch(); });
     addAction(menu, localized("&Quit"), "terminate", QKeySequence::Quit, [this] { close(); });
 }

@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QRegularExpression>
 
 namespace quillet {
 
@@ -57,8 +58,10 @@ QLabel* PreferencesPage::makeNote(const QString& text) {
 }
 
 QString spokenLabel(QString label) {
-    label.remove(u'&');
-    return label.endsWith(u':') ? label.chopped(1) : label;
+    // Languages without Latin letters have the key behind the text: "時間(&H):".
+    static const QRegularExpression key(QStringLiteral("\\(&.\\)|&"));
+    static const QRegularExpression colon(QStringLiteral("\\s*:$"));
+    return label.remove(key).remove(colon);
 }
 
 } // namespace quillet

@@ -26,7 +26,7 @@ ReportPane::ReportPane(ReportView* view, ExportTxtViewController& report, Buildi
     , view_(view)
     , report_(report)
     , building_(building) {
-    auto* options = new QPushButton(localized("&Options…"), this);
+    auto* options = new QPushButton(localized("Op&tions…"), this);
     options->setAutoDefault(false);
     options->setToolTip(localized("Choose what the report tells"));
     connect(options, &QPushButton::clicked, this, std::move(showOptions));
