@@ -4,1201 +4,1222 @@
 <context>
     <name>Quillet</name>
     <message>
+        <source>%1 at byte %2</source>
+        <translation>%1 bei Byte %2</translation>
+    </message>
+    <message>
         <source>%1 events cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Termine sind nicht lesbar</translation>
     </message>
     <message>
         <source>%1 events without a start</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Termine ohne Anfang</translation>
     </message>
     <message>
         <source>A folder holds a calendar with one file an event; a file holds a whole calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ordner enthält einen Kalender mit einer Datei je Termin, eine Datei einen ganzen Kalender.</translation>
     </message>
     <message>
         <source>A last row with the sums of the columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine letzte Zeile mit den Summen der Spalten</translation>
     </message>
     <message>
         <source>a link that leads nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>eine Verknüpfung, die ins Leere führt</translation>
     </message>
     <message>
         <source>A preset holds the switches and texts of the text report. Applying one sets them all; a new one takes them as they are now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Vorlage enthält die Schalter und Texte des Textberichts. Beim Anwenden werden alle gesetzt; eine neue übernimmt sie, wie sie jetzt sind.</translation>
     </message>
     <message>
         <source>a repetition that cannot be followed; only its first event is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>eine unverständliche Wiederholung; nur ihr erster Termin wird gezeigt</translation>
     </message>
     <message>
         <source>a text or event that is too long was cut</source>
-        <translation type="unfinished"></translation>
+        <translation>ein zu langer Text oder Termin wurde gekürzt</translation>
     </message>
     <message>
         <source>&amp;About Quillet</source>
-        <translation type="unfinished"></translation>
+        <translation>Ü&amp;ber Quillet</translation>
     </message>
     <message>
         <source>About Quillet</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Quillet</translation>
     </message>
     <message>
         <source>Above the Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Über der Tabelle</translation>
     </message>
     <message>
         <source>Access Denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff verweigert</translation>
     </message>
     <message>
         <source>Add a folder or a file of calendars, or drop one here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fügen Sie einen Kalenderordner oder eine Kalenderdatei hinzu, oder ziehen Sie sie hierher.</translation>
     </message>
     <message>
         <source>Add Calendar File</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalenderdatei hinzufügen</translation>
     </message>
     <message>
         <source>Add Calendar Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalenderordner hinzufügen</translation>
     </message>
     <message>
         <source>&amp;Add Calendar Folder or File…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalenderordner oder -datei &amp;hinzufügen…</translation>
     </message>
     <message>
         <source>Add Calendar Folder or File…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalenderordner oder -datei hinzufügen…</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles</translation>
     </message>
     <message>
         <source>All Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Kalender</translation>
     </message>
     <message>
         <source>All Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Termine</translation>
     </message>
     <message>
         <source>All-day events are neither listed nor counted in totals and exports</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganztägige Termine werden weder aufgelistet noch in Summen und Exporten gezählt</translation>
     </message>
     <message>
         <source>All-day events:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganztägige Termine:</translation>
     </message>
     <message>
         <source>Allow</source>
-        <translation type="unfinished"></translation>
+        <translation>Erlauben</translation>
     </message>
     <message>
         <source>Allow Calendar A&amp;ccess…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender&amp;zugriff erlauben…</translation>
     </message>
     <message>
         <source>Allow Calendar Access…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalenderzugriff erlauben…</translation>
     </message>
     <message>
         <source>an empty file</source>
-        <translation type="unfinished"></translation>
+        <translation>eine leere Datei</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anwenden</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
     <message>
         <source>Arranges the columns as the selected layout has them</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordnet die Spalten so an, wie das ausgewählte Layout sie enthält</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchschnitt</translation>
     </message>
     <message>
         <source>&amp;Average time</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Durchschnittliche Zeit</translation>
     </message>
     <message>
         <source>Avg</source>
-        <translation type="unfinished"></translation>
+        <translation>Durchschnitt</translation>
     </message>
     <message>
         <source>&amp;Beginning date</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anfangsdatum</translation>
     </message>
     <message>
         <source>Beginning Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfangsdatum</translation>
     </message>
     <message>
         <source>Bring column titles back, too</source>
-        <translation type="unfinished"></translation>
+        <translation>Auch Spaltentitel zurückholen</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender</translation>
     </message>
     <message>
         <source>&amp;Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kalender</translation>
     </message>
     <message>
         <source>C&amp;alendars</source>
-        <translation type="unfinished"></translation>
+        <translation>K&amp;alender</translation>
     </message>
     <message>
         <source>Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender</translation>
     </message>
     <message>
         <source>Calendars (*.ics)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender (*.ics)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>cannot be reached: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht erreichbar: %1</translation>
     </message>
     <message>
         <source>cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht lesbar: %1</translation>
     </message>
     <message>
         <source>Cannot delete All Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>„Alle Kalender“ kann nicht gelöscht werden</translation>
     </message>
     <message>
         <source>Cannot delete Default layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Standardlayout kann nicht gelöscht werden</translation>
     </message>
     <message>
         <source>Cannot delete Default settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Standardeinstellungen können nicht gelöscht werden</translation>
     </message>
     <message>
         <source>Check for &amp;Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach &amp;Aktualisierungen suchen…</translation>
     </message>
     <message>
         <source>Choose what the report tells</source>
-        <translation type="unfinished"></translation>
+        <translation>Festlegen, was im Bericht steht</translation>
     </message>
     <message>
         <source>Choose where to search</source>
-        <translation type="unfinished"></translation>
+        <translation>Festlegen, wo gesucht wird</translation>
     </message>
     <message>
         <source>Clear Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche leeren</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>Sch&amp;ließen</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Column Layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>Spaltenlayouts</translation>
     </message>
     <message>
         <source>Column &amp;Layouts…</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten&amp;layouts…</translation>
     </message>
     <message>
         <source>Column &amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten&amp;einstellungen…</translation>
     </message>
     <message>
         <source>&amp;Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;palten</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalten</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Erledigt</translation>
     </message>
     <message>
         <source>Completion date</source>
-        <translation type="unfinished"></translation>
+        <translation>Erledigungsdatum</translation>
     </message>
     <message>
         <source>Control-click ticks or clears all calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Klick mit Strg wählt alle Kalender aus oder ab</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopieren</translation>
     </message>
     <message>
         <source>Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Kosten</translation>
     </message>
     <message>
         <source>CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV</translation>
     </message>
     <message>
         <source>CSV/TSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV/TSV</translation>
     </message>
     <message>
         <source>Current</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuell</translation>
     </message>
     <message>
         <source>C&amp;ustom</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eigener</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigener</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum</translation>
     </message>
     <message>
         <source>&amp;Day</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tag</translation>
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>Tag</translation>
     </message>
     <message>
         <source>&amp;Days</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tage</translation>
     </message>
     <message>
         <source>Days</source>
-        <translation type="unfinished"></translation>
+        <translation>Tage</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>Default layout cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Standardlayout lässt sich nicht löschen.</translation>
     </message>
     <message>
         <source>Default settings cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Standardeinstellungen lassen sich nicht löschen.</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Löschen</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Delete the group?</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Gruppe löschen?</translation>
     </message>
     <message>
         <source>Delete the record?</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Eintrag löschen?</translation>
     </message>
     <message>
         <source>Deleted records cannot be restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelöschte Einträge können nicht wiederhergestellt werden.</translation>
     </message>
     <message>
         <source>Don’t Allow</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht erlauben</translation>
     </message>
     <message>
         <source>Due date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fälligkeitsdatum</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
         <source>&amp;Encoding of saved files:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kodierung gespeicherter Dateien:</translation>
     </message>
     <message>
         <source>End Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Enddatum</translation>
     </message>
     <message>
         <source>End Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Endzeit</translation>
     </message>
     <message>
         <source>End Weekday</source>
-        <translation type="unfinished"></translation>
+        <translation>Wochentag (Ende)</translation>
     </message>
     <message>
         <source>E&amp;nding date</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Enddatum</translation>
     </message>
     <message>
         <source>Ending Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Enddatum</translation>
     </message>
     <message>
         <source>ends in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>bricht mittendrin ab</translation>
     </message>
     <message>
         <source>Event &amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Termin&amp;notizen</translation>
     </message>
     <message>
         <source>Event Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminnotizen</translation>
     </message>
     <message>
         <source>Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Termine</translation>
     </message>
     <message>
         <source>Events with notes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Termine mit Notizen: %1</translation>
     </message>
     <message>
         <source>Export as:</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportieren als:</translation>
     </message>
     <message>
         <source>F2 or a double click renames</source>
-        <translation type="unfinished"></translation>
+        <translation>F2 oder ein Doppelklick benennt um</translation>
     </message>
     <message>
         <source>Fetching Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Termine werden geholt</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei</translation>
     </message>
     <message>
         <source>F&amp;ile…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Datei…</translation>
     </message>
     <message>
         <source>Find &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen &amp;in</translation>
     </message>
     <message>
         <source>&amp;Find…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Suchen…</translation>
     </message>
     <message>
         <source>&amp;Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordner…</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>Gives every column its first title back</source>
-        <translation type="unfinished"></translation>
+        <translation>Gibt jeder Spalte ihren ursprünglichen Titel zurück</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hilfe</translation>
     </message>
     <message>
         <source>Hourly Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Stundensatz</translation>
     </message>
     <message>
         <source>Hourly &amp;rate (%1):</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;tundensatz (%1):</translation>
     </message>
     <message>
         <source>Hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Stunden</translation>
     </message>
     <message>
         <source>&amp;Hours for each day:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Stunden für jeden Tag:</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Kennung</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorieren</translation>
     </message>
     <message>
         <source>In Quotation Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>In Anführungszeichen</translation>
     </message>
     <message>
         <source>In titles, notes, locations and calendars, for programs that take every line for an event</source>
-        <translation type="unfinished"></translation>
+        <translation>In Titeln, Notizen, Orten und Kalendern, für Programme, die jede Zeile für einen Termin halten</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>es ist keine Datei</translation>
     </message>
     <message>
         <source>Keeps all this under a name, and brings it back</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewahrt all dies unter einem Namen auf und holt es zurück</translation>
     </message>
     <message>
         <source>Keeps arrangements of the columns under names</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewahrt Anordnungen der Spalten unter Namen auf</translation>
     </message>
     <message>
         <source>Keeps the columns as they are now</source>
-        <translation type="unfinished"></translation>
+        <translation>Bewahrt die Spalten auf, wie sie jetzt sind</translation>
     </message>
     <message>
         <source>larger than 128 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>größer als 128 MB</translation>
     </message>
     <message>
         <source>Layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>Layouts</translation>
     </message>
     <message>
         <source>&amp;Leave all-day events out</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganztägige Termine &amp;weglassen</translation>
     </message>
     <message>
         <source>Line Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilenumbrüche</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ort</translation>
     </message>
     <message>
         <source>&amp;Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Orte</translation>
     </message>
     <message>
         <source>Lock End Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Enddatum sperren</translation>
     </message>
     <message>
         <source>Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesperrt</translation>
     </message>
     <message>
         <source>Longest</source>
-        <translation type="unfinished"></translation>
+        <translation>Längster</translation>
     </message>
     <message>
         <source>&amp;Longest event</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Längster Termin</translation>
     </message>
     <message>
         <source>&amp;Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>E-&amp;Mail</translation>
     </message>
     <message>
         <source>Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>E-Mail</translation>
     </message>
     <message>
         <source>Mail (no mail program can be reached yet)</source>
-        <translation type="unfinished"></translation>
+        <translation>E-Mail (noch ist kein E-Mail-Programm erreichbar)</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>May Quillet read your calendars?</source>
-        <translation type="unfinished"></translation>
+        <translation>Darf Quillet Ihre Kalender lesen?</translation>
     </message>
     <message>
         <source>Min</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuten</translation>
     </message>
     <message>
         <source>&amp;Money</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beträge</translation>
     </message>
     <message>
         <source>Money:</source>
-        <translation type="unfinished"></translation>
+        <translation>Beträge:</translation>
     </message>
     <message>
         <source>&amp;Month</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Monat</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Monat</translation>
     </message>
     <message>
         <source>more than 300,000 events; the others are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>mehr als 300.000 Termine; die übrigen werden weggelassen</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Neu</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neu</translation>
     </message>
     <message>
         <source>New Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Gruppe</translation>
     </message>
     <message>
         <source>New Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Neues Layout</translation>
     </message>
     <message>
         <source>New Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Einstellungen</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter</translation>
     </message>
     <message>
         <source>No calendar is ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Kalender ist ausgewählt</translation>
     </message>
     <message>
         <source>No calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Kalender</translation>
     </message>
     <message>
         <source>No event of this period matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Termin dieses Zeitraums passt zur Suche.</translation>
     </message>
     <message>
         <source>No events in this period</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Termine in diesem Zeitraum</translation>
     </message>
     <message>
         <source>not a calendar file</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Kalenderdatei</translation>
     </message>
     <message>
         <source>not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>keine Datei</translation>
     </message>
     <message>
         <source>&amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notizen</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notizen</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts gefunden</translation>
     </message>
     <message>
         <source>N&amp;umber of events</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Te&amp;rmine</translation>
     </message>
     <message>
         <source>Number of reminders</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Erinnerungen</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>On how many days there are events</source>
-        <translation type="unfinished"></translation>
+        <translation>An wie vielen Tagen es Termine gibt</translation>
+    </message>
+    <message>
+        <source>one event cannot be read</source>
+        <translation>ein Termin ist nicht lesbar</translation>
+    </message>
+    <message>
+        <source>one event without a start</source>
+        <translation>ein Termin ohne Anfang</translation>
     </message>
     <message>
         <source>&amp;One rate for all calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ein Stundensatz für alle Kalender</translation>
     </message>
     <message>
         <source>Open Software Centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Softwarezentrum öffnen</translation>
     </message>
     <message>
-        <source>&amp;Options…</source>
-        <translation type="unfinished"></translation>
+        <source>Op&amp;tions…</source>
+        <translation>&amp;Optionen…</translation>
     </message>
     <message>
         <source>&amp;Period</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zeitraum</translation>
     </message>
     <message>
         <source>Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitraum</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Einstellungen…</translation>
     </message>
     <message>
         <source>Preparing the events…</source>
-        <translation type="unfinished"></translation>
+        <translation>Termine werden vorbereitet…</translation>
     </message>
     <message>
         <source>Preparing the text…</source>
-        <translation type="unfinished"></translation>
+        <translation>Text wird vorbereitet…</translation>
     </message>
     <message>
         <source>&amp;Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorlagen…</translation>
     </message>
     <message>
         <source>Previous</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>Priority</source>
-        <translation type="unfinished"></translation>
+        <translation>Priorität</translation>
     </message>
     <message>
         <source>Put the report into a new message</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Bericht in eine neue Nachricht setzen</translation>
     </message>
     <message>
         <source>Quillet %1
 
 The hours in your calendars, ready to bill.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet %1
+
+Die Stunden in Ihren Kalendern, fertig zum Abrechnen.</translation>
     </message>
     <message>
         <source>Quillet doesn't have access to your Calendars.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet hat keinen Zugriff auf Ihre Kalender.</translation>
     </message>
     <message>
         <source>Quillet is updated with your system</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet wird mit Ihrem System aktualisiert</translation>
     </message>
     <message>
         <source>Quillet lists the events of your calendars and adds up their hours. It reads them on this computer only, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet listet die Termine Ihrer Kalender auf und summiert ihre Stunden. Es liest sie nur auf diesem Rechner und ändert nichts.</translation>
     </message>
     <message>
         <source>Quillet may not read your calendars yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet darf Ihre Kalender noch nicht lesen</translation>
     </message>
     <message>
         <source>Quillet will not be able to format the text for this email due to a known applescript issue caused by Safari 5.0.
 
 If you would like to use the standard text format that Quillet uses, format the font of the new email message to Monaco, size 10.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet kann den Text dieser E-Mail wegen eines bekannten AppleScript-Fehlers, den Safari 5.0 verursacht, nicht formatieren.
+
+Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schrift der neuen E-Mail auf Monaco, Größe 10.
+</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>Quoted fields may hold separators and quotation marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Felder in Anführungszeichen dürfen Trennzeichen und Anführungszeichen enthalten</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Satz</translation>
     </message>
     <message>
         <source>Rate and cost, while money is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Satz und Kosten, solange Beträge gezeigt werden</translation>
     </message>
     <message>
         <source>Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>Sätze</translation>
     </message>
     <message>
         <source>Rates and costs are shown in the window and in exports</source>
-        <translation type="unfinished"></translation>
+        <translation>Sätze und Kosten werden im Fenster und in Exporten gezeigt</translation>
     </message>
     <message>
         <source>Records</source>
-        <translation type="unfinished"></translation>
+        <translation>Datensätze</translation>
     </message>
     <message>
         <source>&amp;Release Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Versionshinweise</translation>
     </message>
     <message>
         <source>Reminders</source>
-        <translation type="unfinished"></translation>
+        <translation>Erinnerungen</translation>
     </message>
     <message>
         <source>repetitions too many to count</source>
-        <translation type="unfinished"></translation>
+        <translation>zu viele Wiederholungen, um sie zu zählen</translation>
     </message>
     <message>
         <source>repetitions too many to show them all</source>
-        <translation type="unfinished"></translation>
+        <translation>zu viele Wiederholungen, um alle zu zeigen</translation>
     </message>
     <message>
         <source>Replace line &amp;breaks by blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeilen&amp;umbrüche durch Leerzeichen ersetzen</translation>
     </message>
     <message>
         <source>&amp;Reset All Titles</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Titel &amp;zurücksetzen</translation>
     </message>
     <message>
-        <source>&amp;Restart Quillet</source>
-        <translation type="unfinished"></translation>
+        <source>R&amp;estart Quillet</source>
+        <translation>Quillet neu &amp;starten</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse</translation>
     </message>
     <message>
         <source>Safari 5.0 is installed on this Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem Mac ist Safari 5.0 installiert</translation>
     </message>
     <message>
         <source>&amp;Save as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Als &amp;CSV speichern…</translation>
     </message>
     <message>
         <source>Save as &amp;TSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Als &amp;TSV speichern…</translation>
     </message>
     <message>
         <source>Save Event &amp;Notes…</source>
-        <translation type="unfinished"></translation>
+        <translation>Termin&amp;notizen speichern…</translation>
     </message>
     <message>
         <source>Save Text &amp;Report…</source>
-        <translation type="unfinished"></translation>
+        <translation>Textbe&amp;richt speichern…</translation>
     </message>
     <message>
         <source>Save the listed events as a CSV file</source>
-        <translation type="unfinished"></translation>
+        <translation>Die aufgelisteten Termine als CSV-Datei speichern</translation>
     </message>
     <message>
         <source>Save the listed events as a TSV file</source>
-        <translation type="unfinished"></translation>
+        <translation>Die aufgelisteten Termine als TSV-Datei speichern</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Speichern…</translation>
     </message>
     <message>
         <source>Search Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Termine suchen</translation>
     </message>
     <message>
         <source>Search In</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen in</translation>
     </message>
     <message>
         <source>Search Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchmenü</translation>
     </message>
     <message>
         <source>Search Reminders</source>
-        <translation type="unfinished"></translation>
+        <translation>Erinnerungen suchen</translation>
     </message>
     <message>
         <source>Select a calendar to set its hourly rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen Kalender, um seinen Stundensatz festzulegen</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alles auswählen</translation>
     </message>
     <message>
         <source>Select &amp;All Events</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle Termine auswählen</translation>
     </message>
     <message>
         <source>Selected Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgewählte Termine</translation>
     </message>
     <message>
         <source>Settings cannot be saved to %1. They are kept until they can.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungen lassen sich nicht in %1 speichern. Sie bleiben erhalten, bis es wieder geht.</translation>
     </message>
     <message>
         <source>Shortest</source>
-        <translation type="unfinished"></translation>
+        <translation>Kürzester</translation>
     </message>
     <message>
         <source>S&amp;hortest event</source>
-        <translation type="unfinished"></translation>
+        <translation>Kür&amp;zester Termin</translation>
     </message>
     <message>
         <source>Show &amp;money</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beträge anzeigen</translation>
     </message>
     <message>
         <source>Show the Current Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuellen Zeitraum anzeigen</translation>
     </message>
     <message>
         <source>Show the listed events as a text report</source>
-        <translation type="unfinished"></translation>
+        <translation>Die aufgelisteten Termine als Textbericht zeigen</translation>
     </message>
     <message>
         <source>Show the notes of the listed events</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Notizen der aufgelisteten Termine zeigen</translation>
     </message>
     <message>
         <source>Show &amp;time as:</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit &amp;anzeigen als:</translation>
     </message>
     <message>
         <source>Stands before everything else in the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Steht vor allem anderen im Bericht</translation>
     </message>
     <message>
         <source>Stands behind everything else in the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Steht hinter allem anderen im Bericht</translation>
     </message>
     <message>
         <source>Start Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Startdatum</translation>
     </message>
     <message>
         <source>Start Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Startzeit</translation>
     </message>
     <message>
         <source>Start Weekday</source>
-        <translation type="unfinished"></translation>
+        <translation>Wochentag (Start)</translation>
     </message>
     <message>
         <source>&amp;Summary row</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Summenzeile</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabelle</translation>
     </message>
     <message>
         <source>Tell the calendar in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>In jeder Überschrift den Kalender nennen</translation>
     </message>
     <message>
         <source>Tell the date in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>In jeder Überschrift das Datum nennen</translation>
     </message>
     <message>
         <source>Tell the location in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>In jeder Überschrift den Ort nennen</translation>
     </message>
     <message>
         <source>Tell the title in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>In jeder Überschrift den Titel nennen</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>Te&amp;xt above the report:</source>
-        <translation type="unfinished"></translation>
+        <translation>Te&amp;xt über dem Bericht:</translation>
     </message>
     <message>
         <source>Text below the repo&amp;rt:</source>
-        <translation type="unfinished"></translation>
+        <translation>Text unter dem Ber&amp;icht:</translation>
     </message>
     <message>
         <source>&amp;Text Report</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Textbericht</translation>
     </message>
     <message>
         <source>Text Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Textbericht</translation>
     </message>
     <message>
         <source>Te&amp;xt Report Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen des Te&amp;xtberichts…</translation>
     </message>
     <message>
         <source>Text Report Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorlagen des Textberichts</translation>
     </message>
     <message>
         <source>Text Report P&amp;resets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vorlagen des Textberichts…</translation>
     </message>
     <message>
         <source>Texts that are longer than their column go on in the next line; when off, they are cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte, die länger als ihre Spalte sind, gehen in der nächsten Zeile weiter; sonst werden sie abgeschnitten</translation>
     </message>
     <message>
         <source>The calendar could not be added</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Kalender konnte nicht hinzugefügt werden</translation>
     </message>
     <message>
         <source>The calendar's own identifier of the reminder</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kennung, die der Kalender der Erinnerung gibt</translation>
     </message>
     <message>
         <source>The first column is the calendar's own identifier of the event</source>
-        <translation type="unfinished"></translation>
+        <translation>Die erste Spalte ist die Kennung, die der Kalender dem Termin gibt</translation>
     </message>
     <message>
         <source>The first day of the period</source>
-        <translation type="unfinished"></translation>
+        <translation>Der erste Tag des Zeitraums</translation>
     </message>
     <message>
         <source>The first line of the file names the columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Die erste Zeile der Datei nennt die Spalten</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner „%1“ ist nicht erreichbar.</translation>
     </message>
     <message>
         <source>The hours for which one day of an all-day event counts</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Stunden, als die ein Tag eines ganztägigen Termins zählt</translation>
     </message>
     <message>
         <source>The last day of the period</source>
-        <translation type="unfinished"></translation>
+        <translation>Der letzte Tag des Zeitraums</translation>
     </message>
     <message>
         <source>The mean of an event</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Mittel je Termin</translation>
     </message>
     <message>
         <source>The rate of an hour, while all calendars have the same</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Satz einer Stunde, solange alle Kalender denselben haben</translation>
     </message>
     <message>
         <source>The settings file %2 could not be read (%1) nor moved aside. Quillet starts with its first-run settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungsdatei %2 konnte weder gelesen (%1) noch beiseitegelegt werden. Quillet startet mit den Einstellungen des ersten Starts.</translation>
     </message>
     <message>
         <source>The settings file could not be read (%1). It was kept as %2, and Quillet starts with its first-run settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Einstellungsdatei konnte nicht gelesen werden (%1). Sie wurde als %2 aufbewahrt, und Quillet startet mit den Einstellungen des ersten Starts.</translation>
     </message>
     <message>
         <source>The sum in hours, minutes or as a duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Summe in Stunden, Minuten oder als Dauer</translation>
     </message>
     <message>
         <source>The table has this column only while money is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Tabelle hat diese Spalte nur, solange Beträge gezeigt werden</translation>
+    </message>
+    <message>
+        <source>the text is not a JSON object</source>
+        <translation>der Text ist kein JSON-Objekt</translation>
     </message>
     <message>
         <source>The ticked calendars have no events on these days.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählten Kalender haben an diesen Tagen keine Termine.</translation>
     </message>
     <message>
         <source>The titles of the ticked calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Titel der ausgewählten Kalender</translation>
     </message>
     <message>
         <source>These hold for CSV and TSV files alike.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies gilt für CSV- und TSV-Dateien gleichermaßen.</translation>
     </message>
     <message>
         <source>This is version %1. Newer versions arrive with the updates of your system; its software centre shows them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist Version %1. Neuere Versionen kommen mit den Aktualisierungen Ihres Systems; dessen Softwarezentrum zeigt sie an.</translation>
     </message>
     <message>
         <source>This version lists events only. What you choose here is kept for exports of reminders.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Version listet nur Termine auf. Was Sie hier wählen, wird für Exporte von Erinnerungen aufbewahrt.</translation>
     </message>
     <message>
         <source>Tick All Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Kalender auswählen</translation>
     </message>
     <message>
         <source>&amp;Tick or Clear All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alle aus- oder abwählen</translation>
     </message>
     <message>
         <source>Tick the calendars whose time counts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie die Kalender aus, deren Zeit zählt.</translation>
     </message>
     <message>
         <source>Tick the columns that the table shows. Their titles also stand in reports and exports.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie die Spalten aus, die die Tabelle zeigt. Ihre Titel stehen auch in Berichten und Exporten.</translation>
     </message>
     <message>
         <source>Time as &amp;Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit als &amp;Dauer</translation>
     </message>
     <message>
         <source>Time as &amp;Hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit in &amp;Stunden</translation>
     </message>
     <message>
         <source>Time as M&amp;inutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit in &amp;Minuten</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Title of “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel von „%1“</translation>
     </message>
     <message>
         <source>&amp;Titles</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Titel</translation>
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeugleiste</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Summe</translation>
     </message>
     <message>
         <source>&amp;Total time</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gesamtzeit</translation>
     </message>
     <message>
         <source>TSV</source>
-        <translation type="unfinished"></translation>
+        <translation>TSV</translation>
     </message>
     <message>
         <source>unknown time zone “%1”, taken as local time</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannte Zeitzone „%1“, als Ortszeit genommen</translation>
     </message>
     <message>
         <source>Unlocked</source>
-        <translation type="unfinished"></translation>
+        <translation>Entsperrt</translation>
     </message>
     <message>
         <source>Updating…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird aktualisiert…</translation>
     </message>
     <message>
         <source>URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>UTF-8 suits nearly every program; some spreadsheets want UTF-16</source>
-        <translation type="unfinished"></translation>
+        <translation>UTF-8 passt für fast jedes Programm; manche Tabellenkalkulationen möchten UTF-16</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ansicht</translation>
     </message>
     <message>
         <source>&amp;Web Site</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Website</translation>
     </message>
     <message>
         <source>&amp;Week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Woche</translation>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Woche</translation>
     </message>
     <message>
         <source>What would you like to add?</source>
-        <translation type="unfinished"></translation>
+        <translation>Was möchten Sie hinzufügen?</translation>
     </message>
     <message>
         <source>When off, applying a layout leaves the titles as they are</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst lässt das Anwenden eines Layouts die Titel, wie sie sind</translation>
     </message>
     <message>
         <source>When off, each calendar has a rate of its own: select the calendar in the main window to set it</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst hat jeder Kalender seinen eigenen Satz: Wählen Sie den Kalender im Hauptfenster, um ihn festzulegen</translation>
     </message>
     <message>
         <source>Whether the reminder is done</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Erinnerung erledigt ist</translation>
     </message>
     <message>
         <source>Which time column the table, the results and reports show</source>
-        <translation type="unfinished"></translation>
+        <translation>Welche Zeitspalte die Tabelle, die Ergebnisse und Berichte zeigen</translation>
     </message>
     <message>
         <source>While locked, the end moves with the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Solange gesperrt, wandert das Ende mit dem Anfang</translation>
     </message>
     <message>
         <source>&amp;Wrap long texts</source>
-        <translation type="unfinished"></translation>
+        <translation>Lange Texte &amp;umbrechen</translation>
     </message>
     <message>
         <source>Write a &amp;header record</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopfzeile schreiben</translation>
     </message>
     <message>
         <source>Write the event's &amp;identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Kennung des Termins &amp;schreiben</translation>
     </message>
     <message>
         <source>&amp;Year</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jahr</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr</translation>
     </message>
     <message>
         <source>Your events appear here once you allow it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Termine erscheinen hier, sobald Sie es erlauben.</translation>
     </message>
     <message>
         <source>“%1” cannot be added: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ kann nicht hinzugefügt werden: %2</translation>
     </message>
     <message>
         <source>“%1” cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist nicht lesbar.</translation>
     </message>
     <message>
         <source>“%1” does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ gibt es nicht.</translation>
     </message>
     <message>
         <source>“%1” holds the calendars themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ enthält die Kalender selbst.</translation>
     </message>
     <message>
         <source>“%1” is among the calendars already.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist schon unter den Kalendern.</translation>
     </message>
     <message>
         <source>“%1” is neither a folder nor an .ics file.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist weder ein Ordner noch eine .ics-Datei.</translation>
     </message>
     <message>
         <source>“%1” is not a rate; the old one was kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Satz; der alte wurde behalten.</translation>
     </message>
 </context>
 </TS>

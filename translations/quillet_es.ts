@@ -4,1201 +4,1222 @@
 <context>
     <name>Quillet</name>
     <message>
+        <source>%1 at byte %2</source>
+        <translation>%1 en el byte %2</translation>
+    </message>
+    <message>
         <source>%1 events cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>no se pueden leer %1 eventos</translation>
     </message>
     <message>
         <source>%1 events without a start</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 eventos sin inicio</translation>
     </message>
     <message>
         <source>A folder holds a calendar with one file an event; a file holds a whole calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una carpeta contiene un calendario con un archivo por evento; un archivo contiene un calendario entero.</translation>
     </message>
     <message>
         <source>A last row with the sums of the columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Una última fila con las sumas de las columnas</translation>
     </message>
     <message>
         <source>a link that leads nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>un enlace que no lleva a ninguna parte</translation>
     </message>
     <message>
         <source>A preset holds the switches and texts of the text report. Applying one sets them all; a new one takes them as they are now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un preajuste contiene las opciones y los textos del informe de texto. Al aplicarlo se establecen todos; uno nuevo los toma tal como están ahora.</translation>
     </message>
     <message>
         <source>a repetition that cannot be followed; only its first event is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>una repetición incomprensible; solo se muestra su primer evento</translation>
     </message>
     <message>
         <source>a text or event that is too long was cut</source>
-        <translation type="unfinished"></translation>
+        <translation>se ha recortado un texto o evento demasiado largo</translation>
     </message>
     <message>
         <source>&amp;About Quillet</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca &amp;de Quillet</translation>
     </message>
     <message>
         <source>About Quillet</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de Quillet</translation>
     </message>
     <message>
         <source>Above the Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Encima de la tabla</translation>
     </message>
     <message>
         <source>Access Denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Acceso denegado</translation>
     </message>
     <message>
         <source>Add a folder or a file of calendars, or drop one here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añada una carpeta o un archivo de calendarios, o suéltelo aquí.</translation>
     </message>
     <message>
         <source>Add Calendar File</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir archivo de calendario</translation>
     </message>
     <message>
         <source>Add Calendar Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir carpeta de calendario</translation>
     </message>
     <message>
         <source>&amp;Add Calendar Folder or File…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Añadir carpeta o archivo de calendario…</translation>
     </message>
     <message>
         <source>Add Calendar Folder or File…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir carpeta o archivo de calendario…</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo</translation>
     </message>
     <message>
         <source>All Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los calendarios</translation>
     </message>
     <message>
         <source>All Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los eventos</translation>
     </message>
     <message>
         <source>All-day events are neither listed nor counted in totals and exports</source>
-        <translation type="unfinished"></translation>
+        <translation>Los eventos de todo el día no se muestran ni se cuentan en los totales y las exportaciones</translation>
     </message>
     <message>
         <source>All-day events:</source>
-        <translation type="unfinished"></translation>
+        <translation>Eventos de todo el día:</translation>
     </message>
     <message>
         <source>Allow</source>
-        <translation type="unfinished"></translation>
+        <translation>Permitir</translation>
     </message>
     <message>
         <source>Allow Calendar A&amp;ccess…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Permitir el acceso a los calendarios…</translation>
     </message>
     <message>
         <source>Allow Calendar Access…</source>
-        <translation type="unfinished"></translation>
+        <translation>Permitir el acceso a los calendarios…</translation>
     </message>
     <message>
         <source>an empty file</source>
-        <translation type="unfinished"></translation>
+        <translation>un archivo vacío</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aplicar</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar</translation>
     </message>
     <message>
         <source>Arranges the columns as the selected layout has them</source>
-        <translation type="unfinished"></translation>
+        <translation>Coloca las columnas como en la disposición seleccionada</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>Media</translation>
     </message>
     <message>
         <source>&amp;Average time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo &amp;medio</translation>
     </message>
     <message>
         <source>Avg</source>
-        <translation type="unfinished"></translation>
+        <translation>Media</translation>
     </message>
     <message>
         <source>&amp;Beginning date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha de &amp;inicio</translation>
     </message>
     <message>
         <source>Beginning Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha de inicio</translation>
     </message>
     <message>
         <source>Bring column titles back, too</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar también los títulos de las columnas</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendario</translation>
     </message>
     <message>
         <source>&amp;Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Calendarios</translation>
     </message>
     <message>
         <source>C&amp;alendars</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Calendarios</translation>
     </message>
     <message>
         <source>Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendarios</translation>
     </message>
     <message>
         <source>Calendars (*.ics)</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendarios (*.ics)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>cannot be reached: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>inaccesible: %1</translation>
     </message>
     <message>
         <source>cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ilegible: %1</translation>
     </message>
     <message>
         <source>Cannot delete All Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede eliminar «Todos los calendarios»</translation>
     </message>
     <message>
         <source>Cannot delete Default layout</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede eliminar la disposición predeterminada</translation>
     </message>
     <message>
         <source>Cannot delete Default settings</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden eliminar los ajustes predeterminados</translation>
     </message>
     <message>
         <source>Check for &amp;Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar actualizaciones…</translation>
     </message>
     <message>
         <source>Choose what the report tells</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir qué contiene el informe</translation>
     </message>
     <message>
         <source>Choose where to search</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir dónde buscar</translation>
     </message>
     <message>
         <source>Clear Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar la búsqueda</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce&amp;rrar</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Column Layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposiciones de columnas</translation>
     </message>
     <message>
         <source>Column &amp;Layouts…</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposiciones de co&amp;lumnas…</translation>
     </message>
     <message>
         <source>Column &amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Preferencias de columnas…</translation>
     </message>
     <message>
         <source>&amp;Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Columnas</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Columnas</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Completado</translation>
     </message>
     <message>
         <source>Completion date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha de finalización</translation>
     </message>
     <message>
         <source>Control-click ticks or clears all calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic con Ctrl marca o desmarca todos los calendarios</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copiar</translation>
     </message>
     <message>
         <source>Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Coste</translation>
     </message>
     <message>
         <source>CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV</translation>
     </message>
     <message>
         <source>CSV/TSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV/TSV</translation>
     </message>
     <message>
         <source>Current</source>
-        <translation type="unfinished"></translation>
+        <translation>Actual</translation>
     </message>
     <message>
         <source>C&amp;ustom</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Libre</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Libre</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>&amp;Day</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Día</translation>
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>Día</translation>
     </message>
     <message>
         <source>&amp;Days</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Días</translation>
     </message>
     <message>
         <source>Days</source>
-        <translation type="unfinished"></translation>
+        <translation>Días</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Predeterminado</translation>
     </message>
     <message>
         <source>Default layout cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>La disposición predeterminada no se puede eliminar.</translation>
     </message>
     <message>
         <source>Default settings cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los ajustes predeterminados no se pueden eliminar.</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eliminar</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Delete the group?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Eliminar el grupo?</translation>
     </message>
     <message>
         <source>Delete the record?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Eliminar el registro?</translation>
     </message>
     <message>
         <source>Deleted records cannot be restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los registros eliminados no se pueden recuperar.</translation>
     </message>
     <message>
         <source>Don’t Allow</source>
-        <translation type="unfinished"></translation>
+        <translation>No permitir</translation>
     </message>
     <message>
         <source>Due date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha de vencimiento</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Duración</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Editar</translation>
     </message>
     <message>
         <source>&amp;Encoding of saved files:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Codificación de los archivos guardados:</translation>
     </message>
     <message>
         <source>End Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha de fin</translation>
     </message>
     <message>
         <source>End Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora de fin</translation>
     </message>
     <message>
         <source>End Weekday</source>
-        <translation type="unfinished"></translation>
+        <translation>Día de fin</translation>
     </message>
     <message>
         <source>E&amp;nding date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha de &amp;fin</translation>
     </message>
     <message>
         <source>Ending Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha de fin</translation>
     </message>
     <message>
         <source>ends in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>está incompleto</translation>
     </message>
     <message>
         <source>Event &amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notas de los eventos</translation>
     </message>
     <message>
         <source>Event Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas de los eventos</translation>
     </message>
     <message>
         <source>Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Eventos</translation>
     </message>
     <message>
         <source>Events with notes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eventos con notas: %1</translation>
     </message>
     <message>
         <source>Export as:</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar como:</translation>
     </message>
     <message>
         <source>F2 or a double click renames</source>
-        <translation type="unfinished"></translation>
+        <translation>F2 o una doble pulsación cambia el nombre</translation>
     </message>
     <message>
         <source>Fetching Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Obteniendo los eventos</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Archivo</translation>
     </message>
     <message>
         <source>F&amp;ile…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Archivo…</translation>
     </message>
     <message>
         <source>Find &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar &amp;en</translation>
     </message>
     <message>
         <source>&amp;Find…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar…</translation>
     </message>
     <message>
         <source>&amp;Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Carpeta…</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>General</translation>
     </message>
     <message>
         <source>Gives every column its first title back</source>
-        <translation type="unfinished"></translation>
+        <translation>Devuelve a cada columna su título original</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ay&amp;uda</translation>
     </message>
     <message>
         <source>Hourly Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarifa por hora</translation>
     </message>
     <message>
         <source>Hourly &amp;rate (%1):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tarifa por hora (%1):</translation>
     </message>
     <message>
         <source>Hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Horas</translation>
     </message>
     <message>
         <source>&amp;Hours for each day:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Horas por cada día:</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificador</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorar</translation>
     </message>
     <message>
         <source>In Quotation Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Entre comillas</translation>
     </message>
     <message>
         <source>In titles, notes, locations and calendars, for programs that take every line for an event</source>
-        <translation type="unfinished"></translation>
+        <translation>En títulos, notas, lugares y calendarios, para programas que toman cada línea por un evento</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo</translation>
     </message>
     <message>
         <source>Keeps all this under a name, and brings it back</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda todo esto con un nombre y lo recupera</translation>
     </message>
     <message>
         <source>Keeps arrangements of the columns under names</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda disposiciones de las columnas con un nombre</translation>
     </message>
     <message>
         <source>Keeps the columns as they are now</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda las columnas tal como están ahora</translation>
     </message>
     <message>
         <source>larger than 128 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>mayor de 128 MB</translation>
     </message>
     <message>
         <source>Layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposiciones</translation>
     </message>
     <message>
         <source>&amp;Leave all-day events out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Omitir los eventos de todo el día</translation>
     </message>
     <message>
         <source>Line Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Saltos de línea</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar</translation>
     </message>
     <message>
         <source>&amp;Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lugares</translation>
     </message>
     <message>
         <source>Lock End Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquear la fecha de fin</translation>
     </message>
     <message>
         <source>Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueada</translation>
     </message>
     <message>
         <source>Longest</source>
-        <translation type="unfinished"></translation>
+        <translation>El más largo</translation>
     </message>
     <message>
         <source>&amp;Longest event</source>
-        <translation type="unfinished"></translation>
+        <translation>Evento más &amp;largo</translation>
     </message>
     <message>
         <source>&amp;Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;orreo</translation>
     </message>
     <message>
         <source>Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>Correo</translation>
     </message>
     <message>
         <source>Mail (no mail program can be reached yet)</source>
-        <translation type="unfinished"></translation>
+        <translation>Correo (aún no hay ningún programa de correo accesible)</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Máximo</translation>
     </message>
     <message>
         <source>May Quillet read your calendars?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Puede Quillet leer sus calendarios?</translation>
     </message>
     <message>
         <source>Min</source>
-        <translation type="unfinished"></translation>
+        <translation>Mínimo</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutos</translation>
     </message>
     <message>
         <source>&amp;Money</source>
-        <translation type="unfinished"></translation>
+        <translation>Impo&amp;rtes</translation>
     </message>
     <message>
         <source>Money:</source>
-        <translation type="unfinished"></translation>
+        <translation>Importes:</translation>
     </message>
     <message>
         <source>&amp;Month</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mes</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mes</translation>
     </message>
     <message>
         <source>more than 300,000 events; the others are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>más de 300 000 eventos; los demás se omiten</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nuevo</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>New Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo nuevo</translation>
     </message>
     <message>
         <source>New Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposición nueva</translation>
     </message>
     <message>
         <source>New Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes nuevos</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Siguiente</translation>
     </message>
     <message>
         <source>No calendar is ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún calendario marcado</translation>
     </message>
     <message>
         <source>No calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay calendarios</translation>
     </message>
     <message>
         <source>No event of this period matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún evento de este periodo coincide con la búsqueda.</translation>
     </message>
     <message>
         <source>No events in this period</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay eventos en este periodo</translation>
     </message>
     <message>
         <source>not a calendar file</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo de calendario</translation>
     </message>
     <message>
         <source>not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>no es un archivo</translation>
     </message>
     <message>
         <source>&amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notas</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notas</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha encontrado nada</translation>
     </message>
     <message>
         <source>N&amp;umber of events</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Número de eventos</translation>
     </message>
     <message>
         <source>Number of reminders</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de recordatorios</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>On how many days there are events</source>
-        <translation type="unfinished"></translation>
+        <translation>En cuántos días hay eventos</translation>
+    </message>
+    <message>
+        <source>one event cannot be read</source>
+        <translation>no se puede leer un evento</translation>
+    </message>
+    <message>
+        <source>one event without a start</source>
+        <translation>un evento sin inicio</translation>
     </message>
     <message>
         <source>&amp;One rate for all calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>U&amp;na tarifa para todos los calendarios</translation>
     </message>
     <message>
         <source>Open Software Centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir el centro de software</translation>
     </message>
     <message>
-        <source>&amp;Options…</source>
-        <translation type="unfinished"></translation>
+        <source>Op&amp;tions…</source>
+        <translation>Opc&amp;iones…</translation>
     </message>
     <message>
         <source>&amp;Period</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Periodo</translation>
     </message>
     <message>
         <source>Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Periodo</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencias</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Preferencias…</translation>
     </message>
     <message>
         <source>Preparing the events…</source>
-        <translation type="unfinished"></translation>
+        <translation>Preparando los eventos…</translation>
     </message>
     <message>
         <source>Preparing the text…</source>
-        <translation type="unfinished"></translation>
+        <translation>Preparando el texto…</translation>
     </message>
     <message>
         <source>&amp;Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Preajustes…</translation>
     </message>
     <message>
         <source>Previous</source>
-        <translation type="unfinished"></translation>
+        <translation>Anterior</translation>
     </message>
     <message>
         <source>Priority</source>
-        <translation type="unfinished"></translation>
+        <translation>Prioridad</translation>
     </message>
     <message>
         <source>Put the report into a new message</source>
-        <translation type="unfinished"></translation>
+        <translation>Poner el informe en un mensaje nuevo</translation>
     </message>
     <message>
         <source>Quillet %1
 
 The hours in your calendars, ready to bill.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet %1
+
+Las horas de sus calendarios, listas para facturar.</translation>
     </message>
     <message>
         <source>Quillet doesn't have access to your Calendars.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet no tiene acceso a sus calendarios.</translation>
     </message>
     <message>
         <source>Quillet is updated with your system</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet se actualiza con su sistema</translation>
     </message>
     <message>
         <source>Quillet lists the events of your calendars and adds up their hours. It reads them on this computer only, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet muestra los eventos de sus calendarios y suma sus horas. Los lee solo en este equipo y no cambia nada.</translation>
     </message>
     <message>
         <source>Quillet may not read your calendars yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet aún no puede leer sus calendarios</translation>
     </message>
     <message>
         <source>Quillet will not be able to format the text for this email due to a known applescript issue caused by Safari 5.0.
 
 If you would like to use the standard text format that Quillet uses, format the font of the new email message to Monaco, size 10.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet no podrá dar formato al texto de este correo debido a un problema conocido de AppleScript causado por Safari 5.0.
+
+Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del mensaje nuevo a Monaco, tamaño 10.
+</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>Quoted fields may hold separators and quotation marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Los campos entre comillas pueden contener separadores y comillas</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarifa</translation>
     </message>
     <message>
         <source>Rate and cost, while money is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarifa y coste, mientras se muestran los importes</translation>
     </message>
     <message>
         <source>Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarifas</translation>
     </message>
     <message>
         <source>Rates and costs are shown in the window and in exports</source>
-        <translation type="unfinished"></translation>
+        <translation>Las tarifas y los costes se muestran en la ventana y en las exportaciones</translation>
     </message>
     <message>
         <source>Records</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros</translation>
     </message>
     <message>
         <source>&amp;Release Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notas de la versión</translation>
     </message>
     <message>
         <source>Reminders</source>
-        <translation type="unfinished"></translation>
+        <translation>Recordatorios</translation>
     </message>
     <message>
         <source>repetitions too many to count</source>
-        <translation type="unfinished"></translation>
+        <translation>demasiadas repeticiones para contarlas</translation>
     </message>
     <message>
         <source>repetitions too many to show them all</source>
-        <translation type="unfinished"></translation>
+        <translation>demasiadas repeticiones para mostrarlas todas</translation>
     </message>
     <message>
         <source>Replace line &amp;breaks by blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sustituir los saltos de línea por espacios</translation>
     </message>
     <message>
         <source>&amp;Reset All Titles</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restablecer todos los títulos</translation>
     </message>
     <message>
-        <source>&amp;Restart Quillet</source>
-        <translation type="unfinished"></translation>
+        <source>R&amp;estart Quillet</source>
+        <translation>R&amp;einiciar Quillet</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados</translation>
     </message>
     <message>
         <source>Safari 5.0 is installed on this Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Safari 5.0 está instalado en este Mac</translation>
     </message>
     <message>
         <source>&amp;Save as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como &amp;CSV…</translation>
     </message>
     <message>
         <source>Save as &amp;TSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como &amp;TSV…</translation>
     </message>
     <message>
         <source>Save Event &amp;Notes…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar las &amp;notas de los eventos…</translation>
     </message>
     <message>
         <source>Save Text &amp;Report…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el &amp;informe de texto…</translation>
     </message>
     <message>
         <source>Save the listed events as a CSV file</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar los eventos mostrados en un archivo CSV</translation>
     </message>
     <message>
         <source>Save the listed events as a TSV file</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar los eventos mostrados en un archivo TSV</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar…</translation>
     </message>
     <message>
         <source>Search Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar eventos</translation>
     </message>
     <message>
         <source>Search In</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en</translation>
     </message>
     <message>
         <source>Search Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menú de búsqueda</translation>
     </message>
     <message>
         <source>Search Reminders</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar recordatorios</translation>
     </message>
     <message>
         <source>Select a calendar to set its hourly rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione un calendario para fijar su tarifa por hora</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar &amp;todo</translation>
     </message>
     <message>
         <source>Select &amp;All Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar &amp;todos los eventos</translation>
     </message>
     <message>
         <source>Selected Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Eventos seleccionados</translation>
     </message>
     <message>
         <source>Settings cannot be saved to %1. They are kept until they can.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los ajustes no se pueden guardar en %1. Se conservan hasta que sea posible.</translation>
     </message>
     <message>
         <source>Shortest</source>
-        <translation type="unfinished"></translation>
+        <translation>El más corto</translation>
     </message>
     <message>
         <source>S&amp;hortest event</source>
-        <translation type="unfinished"></translation>
+        <translation>Evento más c&amp;orto</translation>
     </message>
     <message>
         <source>Show &amp;money</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar los importes</translation>
     </message>
     <message>
         <source>Show the Current Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar el periodo actual</translation>
     </message>
     <message>
         <source>Show the listed events as a text report</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar los eventos como informe de texto</translation>
     </message>
     <message>
         <source>Show the notes of the listed events</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar las notas de los eventos</translation>
     </message>
     <message>
         <source>Show &amp;time as:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar el &amp;tiempo en:</translation>
     </message>
     <message>
         <source>Stands before everything else in the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Va antes de todo lo demás en el informe</translation>
     </message>
     <message>
         <source>Stands behind everything else in the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Va después de todo lo demás en el informe</translation>
     </message>
     <message>
         <source>Start Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha de inicio</translation>
     </message>
     <message>
         <source>Start Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora de inicio</translation>
     </message>
     <message>
         <source>Start Weekday</source>
-        <translation type="unfinished"></translation>
+        <translation>Día de inicio</translation>
     </message>
     <message>
         <source>&amp;Summary row</source>
-        <translation type="unfinished"></translation>
+        <translation>Fila de re&amp;sumen</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tabla</translation>
     </message>
     <message>
         <source>Tell the calendar in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicar el calendario en cada encabezado</translation>
     </message>
     <message>
         <source>Tell the date in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicar la fecha en cada encabezado</translation>
     </message>
     <message>
         <source>Tell the location in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicar el lugar en cada encabezado</translation>
     </message>
     <message>
         <source>Tell the title in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicar el título en cada encabezado</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>Te&amp;xt above the report:</source>
-        <translation type="unfinished"></translation>
+        <translation>Te&amp;xto encima del informe:</translation>
     </message>
     <message>
         <source>Text below the repo&amp;rt:</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto d&amp;ebajo del informe:</translation>
     </message>
     <message>
         <source>&amp;Text Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe de &amp;texto</translation>
     </message>
     <message>
         <source>Text Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe de texto</translation>
     </message>
     <message>
         <source>Te&amp;xt Report Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencias del informe de te&amp;xto…</translation>
     </message>
     <message>
         <source>Text Report Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Preajustes del informe de texto</translation>
     </message>
     <message>
         <source>Text Report P&amp;resets…</source>
-        <translation type="unfinished"></translation>
+        <translation>Preaju&amp;stes del informe de texto…</translation>
     </message>
     <message>
         <source>Texts that are longer than their column go on in the next line; when off, they are cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Los textos más largos que su columna siguen en la línea siguiente; si no, se recortan</translation>
     </message>
     <message>
         <source>The calendar could not be added</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido añadir el calendario</translation>
     </message>
     <message>
         <source>The calendar's own identifier of the reminder</source>
-        <translation type="unfinished"></translation>
+        <translation>El identificador que el calendario da al recordatorio</translation>
     </message>
     <message>
         <source>The first column is the calendar's own identifier of the event</source>
-        <translation type="unfinished"></translation>
+        <translation>La primera columna es el identificador que el calendario da al evento</translation>
     </message>
     <message>
         <source>The first day of the period</source>
-        <translation type="unfinished"></translation>
+        <translation>El primer día del periodo</translation>
     </message>
     <message>
         <source>The first line of the file names the columns</source>
-        <translation type="unfinished"></translation>
+        <translation>La primera línea del archivo nombra las columnas</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta «%1» es inaccesible.</translation>
     </message>
     <message>
         <source>The hours for which one day of an all-day event counts</source>
-        <translation type="unfinished"></translation>
+        <translation>Las horas por las que cuenta un día de un evento de todo el día</translation>
     </message>
     <message>
         <source>The last day of the period</source>
-        <translation type="unfinished"></translation>
+        <translation>El último día del periodo</translation>
     </message>
     <message>
         <source>The mean of an event</source>
-        <translation type="unfinished"></translation>
+        <translation>La media por evento</translation>
     </message>
     <message>
         <source>The rate of an hour, while all calendars have the same</source>
-        <translation type="unfinished"></translation>
+        <translation>La tarifa de una hora, mientras todos los calendarios tengan la misma</translation>
     </message>
     <message>
         <source>The settings file %2 could not be read (%1) nor moved aside. Quillet starts with its first-run settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de ajustes %2 no se ha podido leer (%1) ni apartar. Quillet se inicia con los ajustes del primer inicio.</translation>
     </message>
     <message>
         <source>The settings file could not be read (%1). It was kept as %2, and Quillet starts with its first-run settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de ajustes no se ha podido leer (%1). Se ha conservado como %2, y Quillet se inicia con los ajustes del primer inicio.</translation>
     </message>
     <message>
         <source>The sum in hours, minutes or as a duration</source>
-        <translation type="unfinished"></translation>
+        <translation>La suma en horas, en minutos o como duración</translation>
     </message>
     <message>
         <source>The table has this column only while money is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla tiene esta columna solo mientras se muestran los importes</translation>
+    </message>
+    <message>
+        <source>the text is not a JSON object</source>
+        <translation>el texto no es un objeto JSON</translation>
     </message>
     <message>
         <source>The ticked calendars have no events on these days.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los calendarios marcados no tienen eventos en estos días.</translation>
     </message>
     <message>
         <source>The titles of the ticked calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Los títulos de los calendarios marcados</translation>
     </message>
     <message>
         <source>These hold for CSV and TSV files alike.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esto vale tanto para los archivos CSV como para los TSV.</translation>
     </message>
     <message>
         <source>This is version %1. Newer versions arrive with the updates of your system; its software centre shows them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta es la versión %1. Las versiones nuevas llegan con las actualizaciones de su sistema; su centro de software las muestra.</translation>
     </message>
     <message>
         <source>This version lists events only. What you choose here is kept for exports of reminders.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta versión solo muestra eventos. Lo que elija aquí se guarda para exportaciones de recordatorios.</translation>
     </message>
     <message>
         <source>Tick All Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcar todos los calendarios</translation>
     </message>
     <message>
         <source>&amp;Tick or Clear All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Marcar o desmarcar todos</translation>
     </message>
     <message>
         <source>Tick the calendars whose time counts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque los calendarios cuyo tiempo cuenta.</translation>
     </message>
     <message>
         <source>Tick the columns that the table shows. Their titles also stand in reports and exports.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marque las columnas que muestra la tabla. Sus títulos aparecen también en los informes y las exportaciones.</translation>
     </message>
     <message>
         <source>Time as &amp;Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo como &amp;duración</translation>
     </message>
     <message>
         <source>Time as &amp;Hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo en &amp;horas</translation>
     </message>
     <message>
         <source>Time as M&amp;inutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo en &amp;minutos</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
     <message>
         <source>Title of “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Título de «%1»</translation>
     </message>
     <message>
         <source>&amp;Titles</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Títulos</translation>
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra de herramientas</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>&amp;Total time</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo &amp;total</translation>
     </message>
     <message>
         <source>TSV</source>
-        <translation type="unfinished"></translation>
+        <translation>TSV</translation>
     </message>
     <message>
         <source>unknown time zone “%1”, taken as local time</source>
-        <translation type="unfinished"></translation>
+        <translation>zona horaria «%1» desconocida, tomada como hora local</translation>
     </message>
     <message>
         <source>Unlocked</source>
-        <translation type="unfinished"></translation>
+        <translation>Desbloqueada</translation>
     </message>
     <message>
         <source>Updating…</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizando…</translation>
     </message>
     <message>
         <source>URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>UTF-8 suits nearly every program; some spreadsheets want UTF-16</source>
-        <translation type="unfinished"></translation>
+        <translation>UTF-8 vale para casi todos los programas; algunas hojas de cálculo piden UTF-16</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ver</translation>
     </message>
     <message>
         <source>&amp;Web Site</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sitio web</translation>
     </message>
     <message>
         <source>&amp;Week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Semana</translation>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semana</translation>
     </message>
     <message>
         <source>What would you like to add?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Qué desea añadir?</translation>
     </message>
     <message>
         <source>When off, applying a layout leaves the titles as they are</source>
-        <translation type="unfinished"></translation>
+        <translation>Si no, aplicar una disposición deja los títulos como están</translation>
     </message>
     <message>
         <source>When off, each calendar has a rate of its own: select the calendar in the main window to set it</source>
-        <translation type="unfinished"></translation>
+        <translation>Si no, cada calendario tiene su propia tarifa: seleccione el calendario en la ventana principal para fijarla</translation>
     </message>
     <message>
         <source>Whether the reminder is done</source>
-        <translation type="unfinished"></translation>
+        <translation>Si el recordatorio está completado</translation>
     </message>
     <message>
         <source>Which time column the table, the results and reports show</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué columna de tiempo muestran la tabla, los resultados y los informes</translation>
     </message>
     <message>
         <source>While locked, the end moves with the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueada, el fin se mueve con el inicio</translation>
     </message>
     <message>
         <source>&amp;Wrap long texts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajustar los textos largos</translation>
     </message>
     <message>
         <source>Write a &amp;header record</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir una línea de &amp;encabezado</translation>
     </message>
     <message>
         <source>Write the event's &amp;identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribir el &amp;identificador del evento</translation>
     </message>
     <message>
         <source>&amp;Year</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Año</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Año</translation>
     </message>
     <message>
         <source>Your events appear here once you allow it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sus eventos aparecerán aquí en cuanto lo permita.</translation>
     </message>
     <message>
         <source>“%1” cannot be added: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede añadir: %2</translation>
     </message>
     <message>
         <source>“%1” cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no se puede leer.</translation>
     </message>
     <message>
         <source>“%1” does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no existe.</translation>
     </message>
     <message>
         <source>“%1” holds the calendars themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» contiene los propios calendarios.</translation>
     </message>
     <message>
         <source>“%1” is among the calendars already.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» ya está entre los calendarios.</translation>
     </message>
     <message>
         <source>“%1” is neither a folder nor an .ics file.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es ni una carpeta ni un archivo .ics.</translation>
     </message>
     <message>
         <source>“%1” is not a rate; the old one was kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una tarifa; se ha conservado la anterior.</translation>
     </message>
 </context>
 </TS>

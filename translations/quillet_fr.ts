@@ -4,1201 +4,1222 @@
 <context>
     <name>Quillet</name>
     <message>
+        <source>%1 at byte %2</source>
+        <translation>%1 à l’octet %2</translation>
+    </message>
+    <message>
         <source>%1 events cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 événements sont illisibles</translation>
     </message>
     <message>
         <source>%1 events without a start</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 événements sans début</translation>
     </message>
     <message>
         <source>A folder holds a calendar with one file an event; a file holds a whole calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dossier contient un calendrier avec un fichier par événement ; un fichier contient un calendrier entier.</translation>
     </message>
     <message>
         <source>A last row with the sums of the columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Une dernière ligne avec les sommes des colonnes</translation>
     </message>
     <message>
         <source>a link that leads nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>un lien qui ne mène nulle part</translation>
     </message>
     <message>
         <source>A preset holds the switches and texts of the text report. Applying one sets them all; a new one takes them as they are now.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un préréglage contient les options et les textes du rapport. L’appliquer les définit tous ; un nouveau les reprend tels qu’ils sont.</translation>
     </message>
     <message>
         <source>a repetition that cannot be followed; only its first event is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>une répétition incompréhensible ; seul son premier événement est affiché</translation>
     </message>
     <message>
         <source>a text or event that is too long was cut</source>
-        <translation type="unfinished"></translation>
+        <translation>un texte ou un événement trop long a été coupé</translation>
     </message>
     <message>
         <source>&amp;About Quillet</source>
-        <translation type="unfinished"></translation>
+        <translation>À &amp;propos de Quillet</translation>
     </message>
     <message>
         <source>About Quillet</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos de Quillet</translation>
     </message>
     <message>
         <source>Above the Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Au-dessus du tableau</translation>
     </message>
     <message>
         <source>Access Denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Accès refusé</translation>
     </message>
     <message>
         <source>Add a folder or a file of calendars, or drop one here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez un dossier ou un fichier de calendriers, ou déposez-le ici.</translation>
     </message>
     <message>
         <source>Add Calendar File</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un fichier de calendrier</translation>
     </message>
     <message>
         <source>Add Calendar Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un dossier de calendrier</translation>
     </message>
     <message>
         <source>&amp;Add Calendar Folder or File…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ajouter un dossier ou un fichier de calendrier…</translation>
     </message>
     <message>
         <source>Add Calendar Folder or File…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un dossier ou un fichier de calendrier…</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout</translation>
     </message>
     <message>
         <source>All Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les calendriers</translation>
     </message>
     <message>
         <source>All Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les événements</translation>
     </message>
     <message>
         <source>All-day events are neither listed nor counted in totals and exports</source>
-        <translation type="unfinished"></translation>
+        <translation>Les événements sur la journée ne sont ni affichés ni comptés dans les totaux et les exportations</translation>
     </message>
     <message>
         <source>All-day events:</source>
-        <translation type="unfinished"></translation>
+        <translation>Événements sur la journée :</translation>
     </message>
     <message>
         <source>Allow</source>
-        <translation type="unfinished"></translation>
+        <translation>Autoriser</translation>
     </message>
     <message>
         <source>Allow Calendar A&amp;ccess…</source>
-        <translation type="unfinished"></translation>
+        <translation>Autoriser l’a&amp;ccès aux calendriers…</translation>
     </message>
     <message>
         <source>Allow Calendar Access…</source>
-        <translation type="unfinished"></translation>
+        <translation>Autoriser l’accès aux calendriers…</translation>
     </message>
     <message>
         <source>an empty file</source>
-        <translation type="unfinished"></translation>
+        <translation>un fichier vide</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Appliquer</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer</translation>
     </message>
     <message>
         <source>Arranges the columns as the selected layout has them</source>
-        <translation type="unfinished"></translation>
+        <translation>Place les colonnes comme dans la disposition sélectionnée</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne</translation>
     </message>
     <message>
         <source>&amp;Average time</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée &amp;moyenne</translation>
     </message>
     <message>
         <source>Avg</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne</translation>
     </message>
     <message>
         <source>&amp;Beginning date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date de dé&amp;but</translation>
     </message>
     <message>
         <source>Beginning Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date de début</translation>
     </message>
     <message>
         <source>Bring column titles back, too</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir aussi les titres des colonnes</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendrier</translation>
     </message>
     <message>
         <source>&amp;Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Calendriers</translation>
     </message>
     <message>
         <source>C&amp;alendars</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Calendriers</translation>
     </message>
     <message>
         <source>Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendriers</translation>
     </message>
     <message>
         <source>Calendars (*.ics)</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendriers (*.ics)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>cannot be reached: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>inaccessible : %1</translation>
     </message>
     <message>
         <source>cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>illisible : %1</translation>
     </message>
     <message>
         <source>Cannot delete All Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de supprimer « Tous les calendriers »</translation>
     </message>
     <message>
         <source>Cannot delete Default layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de supprimer la disposition par défaut</translation>
     </message>
     <message>
         <source>Cannot delete Default settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de supprimer les réglages par défaut</translation>
     </message>
     <message>
         <source>Check for &amp;Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des &amp;mises à jour…</translation>
     </message>
     <message>
         <source>Choose what the report tells</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir ce que contient le rapport</translation>
     </message>
     <message>
         <source>Choose where to search</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir où rechercher</translation>
     </message>
     <message>
         <source>Clear Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer la recherche</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>Fe&amp;rmer</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Column Layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositions des colonnes</translation>
     </message>
     <message>
         <source>Column &amp;Layouts…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dispositions des colonnes…</translation>
     </message>
     <message>
         <source>Column &amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences des c&amp;olonnes…</translation>
     </message>
     <message>
         <source>&amp;Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Colonnes</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>Colonnes</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminé</translation>
     </message>
     <message>
         <source>Completion date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date d’achèvement</translation>
     </message>
     <message>
         <source>Control-click ticks or clears all calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Un clic avec Ctrl coche ou décoche tous les calendriers</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Copier</translation>
     </message>
     <message>
         <source>Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Coût</translation>
     </message>
     <message>
         <source>CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV</translation>
     </message>
     <message>
         <source>CSV/TSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV/TSV</translation>
     </message>
     <message>
         <source>Current</source>
-        <translation type="unfinished"></translation>
+        <translation>En cours</translation>
     </message>
     <message>
         <source>C&amp;ustom</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Libre</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Libre</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>&amp;Day</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jour</translation>
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>Jour</translation>
     </message>
     <message>
         <source>&amp;Days</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Jours</translation>
     </message>
     <message>
         <source>Days</source>
-        <translation type="unfinished"></translation>
+        <translation>Jours</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Par défaut</translation>
     </message>
     <message>
         <source>Default layout cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>La disposition par défaut ne peut pas être supprimée.</translation>
     </message>
     <message>
         <source>Default settings cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les réglages par défaut ne peuvent pas être supprimés.</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Supprimer</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Delete the group?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer le groupe ?</translation>
     </message>
     <message>
         <source>Delete the record?</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer l’enregistrement ?</translation>
     </message>
     <message>
         <source>Deleted records cannot be restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les enregistrements supprimés ne peuvent pas être restaurés.</translation>
     </message>
     <message>
         <source>Don’t Allow</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne pas autoriser</translation>
     </message>
     <message>
         <source>Due date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date d’échéance</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>É&amp;dition</translation>
     </message>
     <message>
         <source>&amp;Encoding of saved files:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Encodage des fichiers enregistrés :</translation>
     </message>
     <message>
         <source>End Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date de fin</translation>
     </message>
     <message>
         <source>End Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure de fin</translation>
     </message>
     <message>
         <source>End Weekday</source>
-        <translation type="unfinished"></translation>
+        <translation>Jour de fin</translation>
     </message>
     <message>
         <source>E&amp;nding date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date de &amp;fin</translation>
     </message>
     <message>
         <source>Ending Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date de fin</translation>
     </message>
     <message>
         <source>ends in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>est incomplet</translation>
     </message>
     <message>
         <source>Event &amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notes des événements</translation>
     </message>
     <message>
         <source>Event Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes des événements</translation>
     </message>
     <message>
         <source>Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Événements</translation>
     </message>
     <message>
         <source>Events with notes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Événements avec notes : %1</translation>
     </message>
     <message>
         <source>Export as:</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter sous :</translation>
     </message>
     <message>
         <source>F2 or a double click renames</source>
-        <translation type="unfinished"></translation>
+        <translation>F2 ou un double-clic renomme</translation>
     </message>
     <message>
         <source>Fetching Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Récupération des événements</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichier</translation>
     </message>
     <message>
         <source>F&amp;ile…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fichier…</translation>
     </message>
     <message>
         <source>Find &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher &amp;dans</translation>
     </message>
     <message>
         <source>&amp;Find…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rechercher…</translation>
     </message>
     <message>
         <source>&amp;Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dossier…</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>Gives every column its first title back</source>
-        <translation type="unfinished"></translation>
+        <translation>Rend à chaque colonne son titre d’origine</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aid&amp;e</translation>
     </message>
     <message>
         <source>Hourly Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux horaire</translation>
     </message>
     <message>
         <source>Hourly &amp;rate (%1):</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Taux horaire (%1) :</translation>
     </message>
     <message>
         <source>Hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Heures</translation>
     </message>
     <message>
         <source>&amp;Hours for each day:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Heures par jour :</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifiant</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorer</translation>
     </message>
     <message>
         <source>In Quotation Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Entre guillemets</translation>
     </message>
     <message>
         <source>In titles, notes, locations and calendars, for programs that take every line for an event</source>
-        <translation type="unfinished"></translation>
+        <translation>Dans les titres, notes, lieux et calendriers, pour les programmes qui prennent chaque ligne pour un événement</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>ce n’est pas un fichier</translation>
     </message>
     <message>
         <source>Keeps all this under a name, and brings it back</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserve tout ceci sous un nom, et le rétablit</translation>
     </message>
     <message>
         <source>Keeps arrangements of the columns under names</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserve des dispositions de colonnes sous des noms</translation>
     </message>
     <message>
         <source>Keeps the columns as they are now</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserve les colonnes telles qu’elles sont</translation>
     </message>
     <message>
         <source>larger than 128 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>plus grand que 128 Mo</translation>
     </message>
     <message>
         <source>Layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositions</translation>
     </message>
     <message>
         <source>&amp;Leave all-day events out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Laisser de côté les événements sur la journée</translation>
     </message>
     <message>
         <source>Line Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>Retours à la ligne</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Lieu</translation>
     </message>
     <message>
         <source>&amp;Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Lieux</translation>
     </message>
     <message>
         <source>Lock End Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouiller la date de fin</translation>
     </message>
     <message>
         <source>Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouillée</translation>
     </message>
     <message>
         <source>Longest</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus long</translation>
     </message>
     <message>
         <source>&amp;Longest event</source>
-        <translation type="unfinished"></translation>
+        <translation>Événement le plus &amp;long</translation>
     </message>
     <message>
         <source>&amp;Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>Cou&amp;rriel</translation>
     </message>
     <message>
         <source>Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>Courriel</translation>
     </message>
     <message>
         <source>Mail (no mail program can be reached yet)</source>
-        <translation type="unfinished"></translation>
+        <translation>Courriel (aucun logiciel de messagerie n’est encore accessible)</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximum</translation>
     </message>
     <message>
         <source>May Quillet read your calendars?</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet peut-il lire vos calendriers ?</translation>
     </message>
     <message>
         <source>Min</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimum</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutes</translation>
     </message>
     <message>
         <source>&amp;Money</source>
-        <translation type="unfinished"></translation>
+        <translation>Mont&amp;ants</translation>
     </message>
     <message>
         <source>Money:</source>
-        <translation type="unfinished"></translation>
+        <translation>Montants :</translation>
     </message>
     <message>
         <source>&amp;Month</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mois</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mois</translation>
     </message>
     <message>
         <source>more than 300,000 events; the others are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>plus de 300 000 événements ; les autres sont laissés de côté</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nouveau</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau</translation>
     </message>
     <message>
         <source>New Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveau groupe</translation>
     </message>
     <message>
         <source>New Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouvelle disposition</translation>
     </message>
     <message>
         <source>New Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveaux réglages</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivant</translation>
     </message>
     <message>
         <source>No calendar is ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun calendrier n’est coché</translation>
     </message>
     <message>
         <source>No calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun calendrier</translation>
     </message>
     <message>
         <source>No event of this period matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun événement de cette période ne correspond à la recherche.</translation>
     </message>
     <message>
         <source>No events in this period</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun événement dans cette période</translation>
     </message>
     <message>
         <source>not a calendar file</source>
-        <translation type="unfinished"></translation>
+        <translation>n’est pas un fichier de calendrier</translation>
     </message>
     <message>
         <source>not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>n’est pas un fichier</translation>
     </message>
     <message>
         <source>&amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notes</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>Notes</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien trouvé</translation>
     </message>
     <message>
         <source>N&amp;umber of events</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre d’é&amp;vénements</translation>
     </message>
     <message>
         <source>Number of reminders</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de rappels</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>On how many days there are events</source>
-        <translation type="unfinished"></translation>
+        <translation>Le nombre de jours avec des événements</translation>
+    </message>
+    <message>
+        <source>one event cannot be read</source>
+        <translation>un événement est illisible</translation>
+    </message>
+    <message>
+        <source>one event without a start</source>
+        <translation>un événement sans début</translation>
     </message>
     <message>
         <source>&amp;One rate for all calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Un seul taux pour tous les calendriers</translation>
     </message>
     <message>
         <source>Open Software Centre</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir la logithèque</translation>
     </message>
     <message>
-        <source>&amp;Options…</source>
-        <translation type="unfinished"></translation>
+        <source>Op&amp;tions…</source>
+        <translation>&amp;Options…</translation>
     </message>
     <message>
         <source>&amp;Period</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Période</translation>
     </message>
     <message>
         <source>Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Période</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Préférences…</translation>
     </message>
     <message>
         <source>Preparing the events…</source>
-        <translation type="unfinished"></translation>
+        <translation>Préparation des événements…</translation>
     </message>
     <message>
         <source>Preparing the text…</source>
-        <translation type="unfinished"></translation>
+        <translation>Préparation du texte…</translation>
     </message>
     <message>
         <source>&amp;Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Préréglages…</translation>
     </message>
     <message>
         <source>Previous</source>
-        <translation type="unfinished"></translation>
+        <translation>Précédent</translation>
     </message>
     <message>
         <source>Priority</source>
-        <translation type="unfinished"></translation>
+        <translation>Priorité</translation>
     </message>
     <message>
         <source>Put the report into a new message</source>
-        <translation type="unfinished"></translation>
+        <translation>Placer le rapport dans un nouveau message</translation>
     </message>
     <message>
         <source>Quillet %1
 
 The hours in your calendars, ready to bill.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet %1
+
+Les heures de vos calendriers, prêtes à facturer.</translation>
     </message>
     <message>
         <source>Quillet doesn't have access to your Calendars.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet n’a pas accès à vos calendriers.</translation>
     </message>
     <message>
         <source>Quillet is updated with your system</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet est mis à jour avec votre système</translation>
     </message>
     <message>
         <source>Quillet lists the events of your calendars and adds up their hours. It reads them on this computer only, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet affiche les événements de vos calendriers et additionne leurs heures. Il les lit uniquement sur cet ordinateur et ne modifie rien.</translation>
     </message>
     <message>
         <source>Quillet may not read your calendars yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet ne peut pas encore lire vos calendriers</translation>
     </message>
     <message>
         <source>Quillet will not be able to format the text for this email due to a known applescript issue caused by Safari 5.0.
 
 If you would like to use the standard text format that Quillet uses, format the font of the new email message to Monaco, size 10.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet ne pourra pas mettre en forme le texte de ce courriel en raison d’un problème AppleScript connu causé par Safari 5.0.
+
+Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nouveau message la police Monaco, taille 10.
+</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitter</translation>
     </message>
     <message>
         <source>Quoted fields may hold separators and quotation marks</source>
-        <translation type="unfinished"></translation>
+        <translation>Les champs entre guillemets peuvent contenir des séparateurs et des guillemets</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux</translation>
     </message>
     <message>
         <source>Rate and cost, while money is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux et coût, tant que les montants sont affichés</translation>
     </message>
     <message>
         <source>Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux</translation>
     </message>
     <message>
         <source>Rates and costs are shown in the window and in exports</source>
-        <translation type="unfinished"></translation>
+        <translation>Les taux et les coûts sont affichés dans la fenêtre et dans les exportations</translation>
     </message>
     <message>
         <source>Records</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrements</translation>
     </message>
     <message>
         <source>&amp;Release Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Notes de version</translation>
     </message>
     <message>
         <source>Reminders</source>
-        <translation type="unfinished"></translation>
+        <translation>Rappels</translation>
     </message>
     <message>
         <source>repetitions too many to count</source>
-        <translation type="unfinished"></translation>
+        <translation>trop de répétitions pour les compter</translation>
     </message>
     <message>
         <source>repetitions too many to show them all</source>
-        <translation type="unfinished"></translation>
+        <translation>trop de répétitions pour les afficher toutes</translation>
     </message>
     <message>
         <source>Replace line &amp;breaks by blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Remplacer les retours à la ligne par des espaces</translation>
     </message>
     <message>
         <source>&amp;Reset All Titles</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Réinitialiser tous les titres</translation>
     </message>
     <message>
-        <source>&amp;Restart Quillet</source>
-        <translation type="unfinished"></translation>
+        <source>R&amp;estart Quillet</source>
+        <translation>R&amp;edémarrer Quillet</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats</translation>
     </message>
     <message>
         <source>Safari 5.0 is installed on this Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>Safari 5.0 est installé sur ce Mac</translation>
     </message>
     <message>
         <source>&amp;Save as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer en &amp;CSV…</translation>
     </message>
     <message>
         <source>Save as &amp;TSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer en &amp;TSV…</translation>
     </message>
     <message>
         <source>Save Event &amp;Notes…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les &amp;notes des événements…</translation>
     </message>
     <message>
         <source>Save Text &amp;Report…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le &amp;rapport texte…</translation>
     </message>
     <message>
         <source>Save the listed events as a CSV file</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les événements affichés dans un fichier CSV</translation>
     </message>
     <message>
         <source>Save the listed events as a TSV file</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les événements affichés dans un fichier TSV</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enre&amp;gistrer…</translation>
     </message>
     <message>
         <source>Search Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des événements</translation>
     </message>
     <message>
         <source>Search In</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher dans</translation>
     </message>
     <message>
         <source>Search Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Menu de recherche</translation>
     </message>
     <message>
         <source>Search Reminders</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des rappels</translation>
     </message>
     <message>
         <source>Select a calendar to set its hourly rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un calendrier pour définir son taux horaire</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout sélectionner</translation>
     </message>
     <message>
         <source>Select &amp;All Events</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sélectionner tous les événements</translation>
     </message>
     <message>
         <source>Selected Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Événements sélectionnés</translation>
     </message>
     <message>
         <source>Settings cannot be saved to %1. They are kept until they can.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les réglages ne peuvent pas être enregistrés dans %1. Ils sont conservés jusqu’à ce que ce soit possible.</translation>
     </message>
     <message>
         <source>Shortest</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus court</translation>
     </message>
     <message>
         <source>S&amp;hortest event</source>
-        <translation type="unfinished"></translation>
+        <translation>Événement le plus c&amp;ourt</translation>
     </message>
     <message>
         <source>Show &amp;money</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les &amp;montants</translation>
     </message>
     <message>
         <source>Show the Current Period</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la période en cours</translation>
     </message>
     <message>
         <source>Show the listed events as a text report</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les événements sous forme de rapport texte</translation>
     </message>
     <message>
         <source>Show the notes of the listed events</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les notes des événements</translation>
     </message>
     <message>
         <source>Show &amp;time as:</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la &amp;durée en :</translation>
     </message>
     <message>
         <source>Stands before everything else in the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Placé avant tout le reste du rapport</translation>
     </message>
     <message>
         <source>Stands behind everything else in the report</source>
-        <translation type="unfinished"></translation>
+        <translation>Placé après tout le reste du rapport</translation>
     </message>
     <message>
         <source>Start Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date de début</translation>
     </message>
     <message>
         <source>Start Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure de début</translation>
     </message>
     <message>
         <source>Start Weekday</source>
-        <translation type="unfinished"></translation>
+        <translation>Jour de début</translation>
     </message>
     <message>
         <source>&amp;Summary row</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne de &amp;synthèse</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableau</translation>
     </message>
     <message>
         <source>Tell the calendar in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>Indiquer le calendrier dans chaque en-tête</translation>
     </message>
     <message>
         <source>Tell the date in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>Indiquer la date dans chaque en-tête</translation>
     </message>
     <message>
         <source>Tell the location in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>Indiquer le lieu dans chaque en-tête</translation>
     </message>
     <message>
         <source>Tell the title in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>Indiquer le titre dans chaque en-tête</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>Te&amp;xt above the report:</source>
-        <translation type="unfinished"></translation>
+        <translation>Te&amp;xte au-dessus du rapport :</translation>
     </message>
     <message>
         <source>Text below the repo&amp;rt:</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte &amp;en dessous du rapport :</translation>
     </message>
     <message>
         <source>&amp;Text Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport &amp;texte</translation>
     </message>
     <message>
         <source>Text Report</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport texte</translation>
     </message>
     <message>
         <source>Te&amp;xt Report Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences du rapport te&amp;xte…</translation>
     </message>
     <message>
         <source>Text Report Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Préréglages du rapport texte</translation>
     </message>
     <message>
         <source>Text Report P&amp;resets…</source>
-        <translation type="unfinished"></translation>
+        <translation>Prérégla&amp;ges du rapport texte…</translation>
     </message>
     <message>
         <source>Texts that are longer than their column go on in the next line; when off, they are cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Les textes plus longs que leur colonne continuent à la ligne suivante ; sinon, ils sont coupés</translation>
     </message>
     <message>
         <source>The calendar could not be added</source>
-        <translation type="unfinished"></translation>
+        <translation>Le calendrier n’a pas pu être ajouté</translation>
     </message>
     <message>
         <source>The calendar's own identifier of the reminder</source>
-        <translation type="unfinished"></translation>
+        <translation>L’identifiant que le calendrier donne au rappel</translation>
     </message>
     <message>
         <source>The first column is the calendar's own identifier of the event</source>
-        <translation type="unfinished"></translation>
+        <translation>La première colonne est l’identifiant que le calendrier donne à l’événement</translation>
     </message>
     <message>
         <source>The first day of the period</source>
-        <translation type="unfinished"></translation>
+        <translation>Le premier jour de la période</translation>
     </message>
     <message>
         <source>The first line of the file names the columns</source>
-        <translation type="unfinished"></translation>
+        <translation>La première ligne du fichier nomme les colonnes</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier « %1 » est inaccessible.</translation>
     </message>
     <message>
         <source>The hours for which one day of an all-day event counts</source>
-        <translation type="unfinished"></translation>
+        <translation>Les heures que compte une journée d’un événement sur la journée</translation>
     </message>
     <message>
         <source>The last day of the period</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dernier jour de la période</translation>
     </message>
     <message>
         <source>The mean of an event</source>
-        <translation type="unfinished"></translation>
+        <translation>La moyenne d’un événement</translation>
     </message>
     <message>
         <source>The rate of an hour, while all calendars have the same</source>
-        <translation type="unfinished"></translation>
+        <translation>Le taux d’une heure, tant que tous les calendriers ont le même</translation>
     </message>
     <message>
         <source>The settings file %2 could not be read (%1) nor moved aside. Quillet starts with its first-run settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de réglages %2 n’a pu être ni lu (%1) ni mis de côté. Quillet démarre avec les réglages du premier lancement.</translation>
     </message>
     <message>
         <source>The settings file could not be read (%1). It was kept as %2, and Quillet starts with its first-run settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier de réglages n’a pas pu être lu (%1). Il a été conservé sous %2, et Quillet démarre avec les réglages du premier lancement.</translation>
     </message>
     <message>
         <source>The sum in hours, minutes or as a duration</source>
-        <translation type="unfinished"></translation>
+        <translation>La somme en heures, en minutes ou en durée</translation>
     </message>
     <message>
         <source>The table has this column only while money is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tableau n’a cette colonne que lorsque les montants sont affichés</translation>
+    </message>
+    <message>
+        <source>the text is not a JSON object</source>
+        <translation>le texte n’est pas un objet JSON</translation>
     </message>
     <message>
         <source>The ticked calendars have no events on these days.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les calendriers cochés n’ont aucun événement ces jours-là.</translation>
     </message>
     <message>
         <source>The titles of the ticked calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Les titres des calendriers cochés</translation>
     </message>
     <message>
         <source>These hold for CSV and TSV files alike.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ces réglages valent pour les fichiers CSV comme pour les fichiers TSV.</translation>
     </message>
     <message>
         <source>This is version %1. Newer versions arrive with the updates of your system; its software centre shows them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ceci est la version %1. Les nouvelles versions arrivent avec les mises à jour de votre système ; sa logithèque les affiche.</translation>
     </message>
     <message>
         <source>This version lists events only. What you choose here is kept for exports of reminders.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette version n’affiche que des événements. Vos choix sont conservés ici pour les exportations de rappels.</translation>
     </message>
     <message>
         <source>Tick All Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Cocher tous les calendriers</translation>
     </message>
     <message>
         <source>&amp;Tick or Clear All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tout cocher ou décocher</translation>
     </message>
     <message>
         <source>Tick the calendars whose time counts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cochez les calendriers dont le temps compte.</translation>
     </message>
     <message>
         <source>Tick the columns that the table shows. Their titles also stand in reports and exports.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cochez les colonnes que le tableau affiche. Leurs titres figurent aussi dans les rapports et les exportations.</translation>
     </message>
     <message>
         <source>Time as &amp;Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps en d&amp;urée</translation>
     </message>
     <message>
         <source>Time as &amp;Hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps en &amp;heures</translation>
     </message>
     <message>
         <source>Time as M&amp;inutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps en &amp;minutes</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>Title of “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre de « %1 »</translation>
     </message>
     <message>
         <source>&amp;Titles</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Titres</translation>
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Barre d’outils</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Total</translation>
     </message>
     <message>
         <source>&amp;Total time</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée &amp;totale</translation>
     </message>
     <message>
         <source>TSV</source>
-        <translation type="unfinished"></translation>
+        <translation>TSV</translation>
     </message>
     <message>
         <source>unknown time zone “%1”, taken as local time</source>
-        <translation type="unfinished"></translation>
+        <translation>fuseau horaire « %1 » inconnu, pris pour l’heure locale</translation>
     </message>
     <message>
         <source>Unlocked</source>
-        <translation type="unfinished"></translation>
+        <translation>Déverrouillée</translation>
     </message>
     <message>
         <source>Updating…</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise à jour…</translation>
     </message>
     <message>
         <source>URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>UTF-8 suits nearly every program; some spreadsheets want UTF-16</source>
-        <translation type="unfinished"></translation>
+        <translation>UTF-8 convient à presque tous les programmes ; certains tableurs demandent de l’UTF-16</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Affichage</translation>
     </message>
     <message>
         <source>&amp;Web Site</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Site web</translation>
     </message>
     <message>
         <source>&amp;Week</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Semaine</translation>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaine</translation>
     </message>
     <message>
         <source>What would you like to add?</source>
-        <translation type="unfinished"></translation>
+        <translation>Que souhaitez-vous ajouter ?</translation>
     </message>
     <message>
         <source>When off, applying a layout leaves the titles as they are</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinon, appliquer une disposition laisse les titres tels qu’ils sont</translation>
     </message>
     <message>
         <source>When off, each calendar has a rate of its own: select the calendar in the main window to set it</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinon, chaque calendrier a son propre taux : sélectionnez le calendrier dans la fenêtre principale pour le définir</translation>
     </message>
     <message>
         <source>Whether the reminder is done</source>
-        <translation type="unfinished"></translation>
+        <translation>Si le rappel est terminé</translation>
     </message>
     <message>
         <source>Which time column the table, the results and reports show</source>
-        <translation type="unfinished"></translation>
+        <translation>La colonne de temps que montrent le tableau, les résultats et les rapports</translation>
     </message>
     <message>
         <source>While locked, the end moves with the start</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouillée, la fin suit le début</translation>
     </message>
     <message>
         <source>&amp;Wrap long texts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Renvoyer les textes longs à la ligne</translation>
     </message>
     <message>
         <source>Write a &amp;header record</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire une ligne d’&amp;en-tête</translation>
     </message>
     <message>
         <source>Write the event's &amp;identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrire l’&amp;identifiant de l’événement</translation>
     </message>
     <message>
         <source>&amp;Year</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Année</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>Année</translation>
     </message>
     <message>
         <source>Your events appear here once you allow it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos événements s’affichent ici dès que vous l’autorisez.</translation>
     </message>
     <message>
         <source>“%1” cannot be added: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » ne peut pas être ajouté : %2</translation>
     </message>
     <message>
         <source>“%1” cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » est illisible.</translation>
     </message>
     <message>
         <source>“%1” does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’existe pas.</translation>
     </message>
     <message>
         <source>“%1” holds the calendars themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » contient les calendriers eux-mêmes.</translation>
     </message>
     <message>
         <source>“%1” is among the calendars already.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » figure déjà parmi les calendriers.</translation>
     </message>
     <message>
         <source>“%1” is neither a folder nor an .ics file.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est ni un dossier ni un fichier .ics.</translation>
     </message>
     <message>
         <source>“%1” is not a rate; the old one was kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>« %1 » n’est pas un taux ; l’ancien a été conservé.</translation>
     </message>
 </context>
 </TS>

@@ -4,1201 +4,1222 @@
 <context>
     <name>Quillet</name>
     <message>
+        <source>%1 at byte %2</source>
+        <translation>%1 (%2 バイト目)</translation>
+    </message>
+    <message>
         <source>%1 events cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 件の予定を読み取れません</translation>
     </message>
     <message>
         <source>%1 events without a start</source>
-        <translation type="unfinished"></translation>
+        <translation>開始のない予定が %1 件</translation>
     </message>
     <message>
         <source>A folder holds a calendar with one file an event; a file holds a whole calendar.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダーは 1 予定 1 ファイルのカレンダー、ファイルは 1 つのカレンダー全体です。</translation>
     </message>
     <message>
         <source>A last row with the sums of the columns</source>
-        <translation type="unfinished"></translation>
+        <translation>列の合計を示す最後の行</translation>
     </message>
     <message>
         <source>a link that leads nowhere</source>
-        <translation type="unfinished"></translation>
+        <translation>リンク先がありません</translation>
     </message>
     <message>
         <source>A preset holds the switches and texts of the text report. Applying one sets them all; a new one takes them as they are now.</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセットはテキストレポートの設定と文章を保持します。適用するとすべて設定され、新しいプリセットは現在の内容を保存します。</translation>
     </message>
     <message>
         <source>a repetition that cannot be followed; only its first event is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>解釈できない繰り返しがあり、最初の予定だけを表示します</translation>
     </message>
     <message>
         <source>a text or event that is too long was cut</source>
-        <translation type="unfinished"></translation>
+        <translation>長すぎる文章または予定を切り詰めました</translation>
     </message>
     <message>
         <source>&amp;About Quillet</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet について(&amp;A)</translation>
     </message>
     <message>
         <source>About Quillet</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet について</translation>
     </message>
     <message>
         <source>Above the Table</source>
-        <translation type="unfinished"></translation>
+        <translation>表の上</translation>
     </message>
     <message>
         <source>Access Denied</source>
-        <translation type="unfinished"></translation>
+        <translation>アクセスが拒否されました</translation>
     </message>
     <message>
         <source>Add a folder or a file of calendars, or drop one here.</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーのフォルダーまたはファイルを追加するか、ここにドロップしてください。</translation>
     </message>
     <message>
         <source>Add Calendar File</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーファイルの追加</translation>
     </message>
     <message>
         <source>Add Calendar Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーフォルダーの追加</translation>
     </message>
     <message>
         <source>&amp;Add Calendar Folder or File…</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーのフォルダーまたはファイルを追加(&amp;A)…</translation>
     </message>
     <message>
         <source>Add Calendar Folder or File…</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーのフォルダーまたはファイルを追加…</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて</translation>
     </message>
     <message>
         <source>All Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのカレンダー</translation>
     </message>
     <message>
         <source>All Events</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての予定</translation>
     </message>
     <message>
         <source>All-day events are neither listed nor counted in totals and exports</source>
-        <translation type="unfinished"></translation>
+        <translation>終日の予定は一覧に表示されず、集計やエクスポートにも含まれません</translation>
     </message>
     <message>
         <source>All-day events:</source>
-        <translation type="unfinished"></translation>
+        <translation>終日の予定:</translation>
     </message>
     <message>
         <source>Allow</source>
-        <translation type="unfinished"></translation>
+        <translation>許可</translation>
     </message>
     <message>
         <source>Allow Calendar A&amp;ccess…</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーへのアクセスを許可(&amp;C)…</translation>
     </message>
     <message>
         <source>Allow Calendar Access…</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーへのアクセスを許可…</translation>
     </message>
     <message>
         <source>an empty file</source>
-        <translation type="unfinished"></translation>
+        <translation>空のファイル</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>適用(&amp;A)</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>適用</translation>
     </message>
     <message>
         <source>Arranges the columns as the selected layout has them</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したレイアウトどおりに列を並べます</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>平均</translation>
     </message>
     <message>
         <source>&amp;Average time</source>
-        <translation type="unfinished"></translation>
+        <translation>平均時間(&amp;A)</translation>
     </message>
     <message>
         <source>Avg</source>
-        <translation type="unfinished"></translation>
+        <translation>平均</translation>
     </message>
     <message>
         <source>&amp;Beginning date</source>
-        <translation type="unfinished"></translation>
+        <translation>開始日(&amp;B)</translation>
     </message>
     <message>
         <source>Beginning Date</source>
-        <translation type="unfinished"></translation>
+        <translation>開始日</translation>
     </message>
     <message>
         <source>Bring column titles back, too</source>
-        <translation type="unfinished"></translation>
+        <translation>列のタイトルも元に戻す</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダー</translation>
     </message>
     <message>
         <source>&amp;Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダー(&amp;C)</translation>
     </message>
     <message>
         <source>C&amp;alendars</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダー(&amp;A)</translation>
     </message>
     <message>
         <source>Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダー</translation>
     </message>
     <message>
         <source>Calendars (*.ics)</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダー (*.ics)</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>cannot be reached: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>アクセスできません: %1</translation>
     </message>
     <message>
         <source>cannot be read: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>読み取れません: %1</translation>
     </message>
     <message>
         <source>Cannot delete All Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>「すべてのカレンダー」は削除できません</translation>
     </message>
     <message>
         <source>Cannot delete Default layout</source>
-        <translation type="unfinished"></translation>
+        <translation>標準のレイアウトは削除できません</translation>
     </message>
     <message>
         <source>Cannot delete Default settings</source>
-        <translation type="unfinished"></translation>
+        <translation>標準の設定は削除できません</translation>
     </message>
     <message>
         <source>Check for &amp;Updates…</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートを確認(&amp;U)…</translation>
     </message>
     <message>
         <source>Choose what the report tells</source>
-        <translation type="unfinished"></translation>
+        <translation>レポートの内容を選択します</translation>
     </message>
     <message>
         <source>Choose where to search</source>
-        <translation type="unfinished"></translation>
+        <translation>検索する場所を選択します</translation>
     </message>
     <message>
         <source>Clear Search</source>
-        <translation type="unfinished"></translation>
+        <translation>検索をクリア</translation>
     </message>
     <message>
         <source>C&amp;lose</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる(&amp;L)</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
     </message>
     <message>
         <source>Column Layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>列のレイアウト</translation>
     </message>
     <message>
         <source>Column &amp;Layouts…</source>
-        <translation type="unfinished"></translation>
+        <translation>列のレイアウト(&amp;L)…</translation>
     </message>
     <message>
         <source>Column &amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>列の設定(&amp;P)…</translation>
     </message>
     <message>
         <source>&amp;Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>列(&amp;C)</translation>
     </message>
     <message>
         <source>Columns</source>
-        <translation type="unfinished"></translation>
+        <translation>列</translation>
     </message>
     <message>
         <source>Completed</source>
-        <translation type="unfinished"></translation>
+        <translation>完了</translation>
     </message>
     <message>
         <source>Completion date</source>
-        <translation type="unfinished"></translation>
+        <translation>完了日</translation>
     </message>
     <message>
         <source>Control-click ticks or clears all calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl を押しながらクリックすると、すべてのカレンダーのチェックを切り替えます</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>コピー(&amp;C)</translation>
     </message>
     <message>
         <source>Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>料金</translation>
     </message>
     <message>
         <source>CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV</translation>
     </message>
     <message>
         <source>CSV/TSV</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV/TSV</translation>
     </message>
     <message>
         <source>Current</source>
-        <translation type="unfinished"></translation>
+        <translation>現在</translation>
     </message>
     <message>
         <source>C&amp;ustom</source>
-        <translation type="unfinished"></translation>
+        <translation>任意(&amp;U)</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>任意</translation>
     </message>
     <message>
         <source>Date</source>
-        <translation type="unfinished"></translation>
+        <translation>日付</translation>
     </message>
     <message>
         <source>&amp;Day</source>
-        <translation type="unfinished"></translation>
+        <translation>日(&amp;D)</translation>
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>日</translation>
     </message>
     <message>
         <source>&amp;Days</source>
-        <translation type="unfinished"></translation>
+        <translation>日数(&amp;D)</translation>
     </message>
     <message>
         <source>Days</source>
-        <translation type="unfinished"></translation>
+        <translation>日</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>標準</translation>
     </message>
     <message>
         <source>Default layout cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>標準のレイアウトを削除することはできません。</translation>
     </message>
     <message>
         <source>Default settings cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>標準の設定を削除することはできません。</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>削除(&amp;D)</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Delete the group?</source>
-        <translation type="unfinished"></translation>
+        <translation>グループを削除しますか？</translation>
     </message>
     <message>
         <source>Delete the record?</source>
-        <translation type="unfinished"></translation>
+        <translation>項目を削除しますか？</translation>
     </message>
     <message>
         <source>Deleted records cannot be restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>削除した項目は元に戻せません。</translation>
     </message>
     <message>
         <source>Don’t Allow</source>
-        <translation type="unfinished"></translation>
+        <translation>許可しない</translation>
     </message>
     <message>
         <source>Due date</source>
-        <translation type="unfinished"></translation>
+        <translation>期限日</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>所要時間</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>編集(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;Encoding of saved files:</source>
-        <translation type="unfinished"></translation>
+        <translation>保存するファイルのエンコーディング(&amp;E):</translation>
     </message>
     <message>
         <source>End Date</source>
-        <translation type="unfinished"></translation>
+        <translation>終了日</translation>
     </message>
     <message>
         <source>End Time</source>
-        <translation type="unfinished"></translation>
+        <translation>終了時刻</translation>
     </message>
     <message>
         <source>End Weekday</source>
-        <translation type="unfinished"></translation>
+        <translation>終了曜日</translation>
     </message>
     <message>
         <source>E&amp;nding date</source>
-        <translation type="unfinished"></translation>
+        <translation>終了日(&amp;N)</translation>
     </message>
     <message>
         <source>Ending Date</source>
-        <translation type="unfinished"></translation>
+        <translation>終了日</translation>
     </message>
     <message>
         <source>ends in the middle</source>
-        <translation type="unfinished"></translation>
+        <translation>途中で終わっています</translation>
     </message>
     <message>
         <source>Event &amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>予定のメモ(&amp;N)</translation>
     </message>
     <message>
         <source>Event Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>予定のメモ</translation>
     </message>
     <message>
         <source>Events</source>
-        <translation type="unfinished"></translation>
+        <translation>予定</translation>
     </message>
     <message>
         <source>Events with notes: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>メモのある予定: %1</translation>
     </message>
     <message>
         <source>Export as:</source>
-        <translation type="unfinished"></translation>
+        <translation>エクスポート名:</translation>
     </message>
     <message>
         <source>F2 or a double click renames</source>
-        <translation type="unfinished"></translation>
+        <translation>F2 キーまたはダブルクリックで名前を変更します</translation>
     </message>
     <message>
         <source>Fetching Events</source>
-        <translation type="unfinished"></translation>
+        <translation>予定を取得中</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
         <source>F&amp;ile…</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル(&amp;I)…</translation>
     </message>
     <message>
         <source>Find &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>検索する場所(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Find…</source>
-        <translation type="unfinished"></translation>
+        <translation>検索(&amp;F)…</translation>
     </message>
     <message>
         <source>&amp;Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダー(&amp;F)…</translation>
     </message>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>全般</translation>
     </message>
     <message>
         <source>Gives every column its first title back</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての列を最初のタイトルに戻します</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ(&amp;H)</translation>
     </message>
     <message>
         <source>Hourly Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>時間単価</translation>
     </message>
     <message>
         <source>Hourly &amp;rate (%1):</source>
-        <translation type="unfinished"></translation>
+        <translation>時間単価 (%1)(&amp;R):</translation>
     </message>
     <message>
         <source>Hours</source>
-        <translation type="unfinished"></translation>
+        <translation>時間</translation>
     </message>
     <message>
         <source>&amp;Hours for each day:</source>
-        <translation type="unfinished"></translation>
+        <translation>1 日あたりの時間数(&amp;H):</translation>
     </message>
     <message>
         <source>Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>識別子</translation>
     </message>
     <message>
         <source>Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>無視</translation>
     </message>
     <message>
         <source>In Quotation Marks</source>
-        <translation type="unfinished"></translation>
+        <translation>引用符で囲む項目</translation>
     </message>
     <message>
         <source>In titles, notes, locations and calendars, for programs that take every line for an event</source>
-        <translation type="unfinished"></translation>
+        <translation>各行を 1 つの予定とみなすプログラムのために、タイトル、メモ、場所、カレンダーの改行を置き換えます</translation>
     </message>
     <message>
         <source>it is not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルではありません</translation>
     </message>
     <message>
         <source>Keeps all this under a name, and brings it back</source>
-        <translation type="unfinished"></translation>
+        <translation>これらすべてに名前を付けて保存し、呼び出します</translation>
     </message>
     <message>
         <source>Keeps arrangements of the columns under names</source>
-        <translation type="unfinished"></translation>
+        <translation>列の並びに名前を付けて保存します</translation>
     </message>
     <message>
         <source>Keeps the columns as they are now</source>
-        <translation type="unfinished"></translation>
+        <translation>現在の列の状態を保存します</translation>
     </message>
     <message>
         <source>larger than 128 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>128 MB を超えています</translation>
     </message>
     <message>
         <source>Layouts</source>
-        <translation type="unfinished"></translation>
+        <translation>レイアウト</translation>
     </message>
     <message>
         <source>&amp;Leave all-day events out</source>
-        <translation type="unfinished"></translation>
+        <translation>終日の予定を除外(&amp;L)</translation>
     </message>
     <message>
         <source>Line Breaks</source>
-        <translation type="unfinished"></translation>
+        <translation>改行</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>場所</translation>
     </message>
     <message>
         <source>&amp;Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>場所(&amp;L)</translation>
     </message>
     <message>
         <source>Lock End Date</source>
-        <translation type="unfinished"></translation>
+        <translation>終了日をロック</translation>
     </message>
     <message>
         <source>Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>ロック中</translation>
     </message>
     <message>
         <source>Longest</source>
-        <translation type="unfinished"></translation>
+        <translation>最長</translation>
     </message>
     <message>
         <source>&amp;Longest event</source>
-        <translation type="unfinished"></translation>
+        <translation>最長の予定(&amp;L)</translation>
     </message>
     <message>
         <source>&amp;Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>メール(&amp;M)</translation>
     </message>
     <message>
         <source>Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>メール</translation>
     </message>
     <message>
         <source>Mail (no mail program can be reached yet)</source>
-        <translation type="unfinished"></translation>
+        <translation>メール (利用できるメールソフトがまだありません)</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>最大</translation>
     </message>
     <message>
         <source>May Quillet read your calendars?</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet がカレンダーを読み取ることを許可しますか？</translation>
     </message>
     <message>
         <source>Min</source>
-        <translation type="unfinished"></translation>
+        <translation>最小</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>分</translation>
     </message>
     <message>
         <source>&amp;Money</source>
-        <translation type="unfinished"></translation>
+        <translation>金額(&amp;M)</translation>
     </message>
     <message>
         <source>Money:</source>
-        <translation type="unfinished"></translation>
+        <translation>金額:</translation>
     </message>
     <message>
         <source>&amp;Month</source>
-        <translation type="unfinished"></translation>
+        <translation>月(&amp;M)</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>月</translation>
     </message>
     <message>
         <source>more than 300,000 events; the others are left out</source>
-        <translation type="unfinished"></translation>
+        <translation>予定が 300,000 件を超えているため、残りは省略されます</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>新規(&amp;N)</translation>
     </message>
     <message>
         <source>New</source>
-        <translation type="unfinished"></translation>
+        <translation>新規</translation>
     </message>
     <message>
         <source>New Group</source>
-        <translation type="unfinished"></translation>
+        <translation>新規グループ</translation>
     </message>
     <message>
         <source>New Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>新規レイアウト</translation>
     </message>
     <message>
         <source>New Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>新規設定</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>次へ</translation>
     </message>
     <message>
         <source>No calendar is ticked</source>
-        <translation type="unfinished"></translation>
+        <translation>チェックされたカレンダーがありません</translation>
     </message>
     <message>
         <source>No calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーがありません</translation>
     </message>
     <message>
         <source>No event of this period matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>この期間には検索に一致する予定がありません。</translation>
     </message>
     <message>
         <source>No events in this period</source>
-        <translation type="unfinished"></translation>
+        <translation>この期間に予定はありません</translation>
     </message>
     <message>
         <source>not a calendar file</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーファイルではありません</translation>
     </message>
     <message>
         <source>not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルではありません</translation>
     </message>
     <message>
         <source>&amp;Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>メモ(&amp;N)</translation>
     </message>
     <message>
         <source>Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>メモ</translation>
     </message>
     <message>
         <source>Nothing found</source>
-        <translation type="unfinished"></translation>
+        <translation>見つかりませんでした</translation>
     </message>
     <message>
         <source>N&amp;umber of events</source>
-        <translation type="unfinished"></translation>
+        <translation>予定の数(&amp;U)</translation>
     </message>
     <message>
         <source>Number of reminders</source>
-        <translation type="unfinished"></translation>
+        <translation>リマインダーの数</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>On how many days there are events</source>
-        <translation type="unfinished"></translation>
+        <translation>予定のある日数</translation>
+    </message>
+    <message>
+        <source>one event cannot be read</source>
+        <translation>1 件の予定を読み取れません</translation>
+    </message>
+    <message>
+        <source>one event without a start</source>
+        <translation>開始のない予定が 1 件</translation>
     </message>
     <message>
         <source>&amp;One rate for all calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのカレンダーで同じ単価を使う(&amp;O)</translation>
     </message>
     <message>
         <source>Open Software Centre</source>
-        <translation type="unfinished"></translation>
+        <translation>ソフトウェアセンターを開く</translation>
     </message>
     <message>
-        <source>&amp;Options…</source>
-        <translation type="unfinished"></translation>
+        <source>Op&amp;tions…</source>
+        <translation>オプション(&amp;T)…</translation>
     </message>
     <message>
         <source>&amp;Period</source>
-        <translation type="unfinished"></translation>
+        <translation>期間(&amp;P)</translation>
     </message>
     <message>
         <source>Period</source>
-        <translation type="unfinished"></translation>
+        <translation>期間</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>&amp;Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>設定(&amp;P)…</translation>
     </message>
     <message>
         <source>Preparing the events…</source>
-        <translation type="unfinished"></translation>
+        <translation>予定を準備しています…</translation>
     </message>
     <message>
         <source>Preparing the text…</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストを準備しています…</translation>
     </message>
     <message>
         <source>&amp;Presets…</source>
-        <translation type="unfinished"></translation>
+        <translation>プリセット(&amp;P)…</translation>
     </message>
     <message>
         <source>Previous</source>
-        <translation type="unfinished"></translation>
+        <translation>前へ</translation>
     </message>
     <message>
         <source>Priority</source>
-        <translation type="unfinished"></translation>
+        <translation>優先度</translation>
     </message>
     <message>
         <source>Put the report into a new message</source>
-        <translation type="unfinished"></translation>
+        <translation>レポートを新しいメールに挿入します</translation>
     </message>
     <message>
         <source>Quillet %1
 
 The hours in your calendars, ready to bill.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet %1
+
+カレンダーの時間を、そのまま請求に。</translation>
     </message>
     <message>
         <source>Quillet doesn't have access to your Calendars.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet にはカレンダーへのアクセス権がありません。</translation>
     </message>
     <message>
         <source>Quillet is updated with your system</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet はシステムと一緒に更新されます</translation>
     </message>
     <message>
         <source>Quillet lists the events of your calendars and adds up their hours. It reads them on this computer only, and changes nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet はカレンダーの予定を一覧にして時間を集計します。このコンピューター上で読み取るだけで、何も変更しません。</translation>
     </message>
     <message>
         <source>Quillet may not read your calendars yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Quillet はまだカレンダーを読み取れません</translation>
     </message>
     <message>
         <source>Quillet will not be able to format the text for this email due to a known applescript issue caused by Safari 5.0.
 
 If you would like to use the standard text format that Quillet uses, format the font of the new email message to Monaco, size 10.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Safari 5.0 に起因する AppleScript の既知の問題により、このメールの書式を設定できません。
+
+Quillet の標準の書式を使うには、新しいメールのフォントを Monaco、サイズ 10 に設定してください。
+</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了(&amp;Q)</translation>
     </message>
     <message>
         <source>Quoted fields may hold separators and quotation marks</source>
-        <translation type="unfinished"></translation>
+        <translation>引用符で囲まれた項目には、区切り文字や引用符を含められます</translation>
     </message>
     <message>
         <source>Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>単価</translation>
     </message>
     <message>
         <source>Rate and cost, while money is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>金額の表示中は単価と料金</translation>
     </message>
     <message>
         <source>Rates</source>
-        <translation type="unfinished"></translation>
+        <translation>単価</translation>
     </message>
     <message>
         <source>Rates and costs are shown in the window and in exports</source>
-        <translation type="unfinished"></translation>
+        <translation>単価と料金をウィンドウとエクスポートに表示します</translation>
     </message>
     <message>
         <source>Records</source>
-        <translation type="unfinished"></translation>
+        <translation>レコード</translation>
     </message>
     <message>
         <source>&amp;Release Notes</source>
-        <translation type="unfinished"></translation>
+        <translation>リリースノート(&amp;R)</translation>
     </message>
     <message>
         <source>Reminders</source>
-        <translation type="unfinished"></translation>
+        <translation>リマインダー</translation>
     </message>
     <message>
         <source>repetitions too many to count</source>
-        <translation type="unfinished"></translation>
+        <translation>繰り返しが多すぎて数えられません</translation>
     </message>
     <message>
         <source>repetitions too many to show them all</source>
-        <translation type="unfinished"></translation>
+        <translation>繰り返しが多すぎてすべては表示できません</translation>
     </message>
     <message>
         <source>Replace line &amp;breaks by blanks</source>
-        <translation type="unfinished"></translation>
+        <translation>改行を空白に置き換える(&amp;B)</translation>
     </message>
     <message>
         <source>&amp;Reset All Titles</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのタイトルをリセット(&amp;R)</translation>
     </message>
     <message>
-        <source>&amp;Restart Quillet</source>
-        <translation type="unfinished"></translation>
+        <source>R&amp;estart Quillet</source>
+        <translation>Quillet を再起動(&amp;E)</translation>
     </message>
     <message>
         <source>Results</source>
-        <translation type="unfinished"></translation>
+        <translation>集計</translation>
     </message>
     <message>
         <source>Safari 5.0 is installed on this Mac</source>
-        <translation type="unfinished"></translation>
+        <translation>この Mac には Safari 5.0 がインストールされています</translation>
     </message>
     <message>
         <source>&amp;Save as CSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV で保存(&amp;S)…</translation>
     </message>
     <message>
         <source>Save as &amp;TSV…</source>
-        <translation type="unfinished"></translation>
+        <translation>TSV で保存(&amp;T)…</translation>
     </message>
     <message>
         <source>Save Event &amp;Notes…</source>
-        <translation type="unfinished"></translation>
+        <translation>予定のメモを保存(&amp;N)…</translation>
     </message>
     <message>
         <source>Save Text &amp;Report…</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストレポートを保存(&amp;R)…</translation>
     </message>
     <message>
         <source>Save the listed events as a CSV file</source>
-        <translation type="unfinished"></translation>
+        <translation>一覧の予定を CSV ファイルに保存します</translation>
     </message>
     <message>
         <source>Save the listed events as a TSV file</source>
-        <translation type="unfinished"></translation>
+        <translation>一覧の予定を TSV ファイルに保存します</translation>
     </message>
     <message>
         <source>&amp;Save…</source>
-        <translation type="unfinished"></translation>
+        <translation>保存(&amp;S)…</translation>
     </message>
     <message>
         <source>Search Events</source>
-        <translation type="unfinished"></translation>
+        <translation>予定を検索</translation>
     </message>
     <message>
         <source>Search In</source>
-        <translation type="unfinished"></translation>
+        <translation>検索する場所</translation>
     </message>
     <message>
         <source>Search Menu</source>
-        <translation type="unfinished"></translation>
+        <translation>検索メニュー</translation>
     </message>
     <message>
         <source>Search Reminders</source>
-        <translation type="unfinished"></translation>
+        <translation>リマインダーを検索</translation>
     </message>
     <message>
         <source>Select a calendar to set its hourly rate</source>
-        <translation type="unfinished"></translation>
+        <translation>時間単価を設定するカレンダーを選択してください</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべて選択(&amp;A)</translation>
     </message>
     <message>
         <source>Select &amp;All Events</source>
-        <translation type="unfinished"></translation>
+        <translation>すべての予定を選択(&amp;A)</translation>
     </message>
     <message>
         <source>Selected Events</source>
-        <translation type="unfinished"></translation>
+        <translation>選択した予定</translation>
     </message>
     <message>
         <source>Settings cannot be saved to %1. They are kept until they can.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を %1 に保存できません。保存できるまで保持されます。</translation>
     </message>
     <message>
         <source>Shortest</source>
-        <translation type="unfinished"></translation>
+        <translation>最短</translation>
     </message>
     <message>
         <source>S&amp;hortest event</source>
-        <translation type="unfinished"></translation>
+        <translation>最短の予定(&amp;H)</translation>
     </message>
     <message>
         <source>Show &amp;money</source>
-        <translation type="unfinished"></translation>
+        <translation>金額を表示(&amp;M)</translation>
     </message>
     <message>
         <source>Show the Current Period</source>
-        <translation type="unfinished"></translation>
+        <translation>現在の期間を表示</translation>
     </message>
     <message>
         <source>Show the listed events as a text report</source>
-        <translation type="unfinished"></translation>
+        <translation>一覧の予定をテキストレポートで表示します</translation>
     </message>
     <message>
         <source>Show the notes of the listed events</source>
-        <translation type="unfinished"></translation>
+        <translation>一覧の予定のメモを表示します</translation>
     </message>
     <message>
         <source>Show &amp;time as:</source>
-        <translation type="unfinished"></translation>
+        <translation>時間の表示(&amp;T):</translation>
     </message>
     <message>
         <source>Stands before everything else in the report</source>
-        <translation type="unfinished"></translation>
+        <translation>レポートの先頭に置かれます</translation>
     </message>
     <message>
         <source>Stands behind everything else in the report</source>
-        <translation type="unfinished"></translation>
+        <translation>レポートの末尾に置かれます</translation>
     </message>
     <message>
         <source>Start Date</source>
-        <translation type="unfinished"></translation>
+        <translation>開始日</translation>
     </message>
     <message>
         <source>Start Time</source>
-        <translation type="unfinished"></translation>
+        <translation>開始時刻</translation>
     </message>
     <message>
         <source>Start Weekday</source>
-        <translation type="unfinished"></translation>
+        <translation>開始曜日</translation>
     </message>
     <message>
         <source>&amp;Summary row</source>
-        <translation type="unfinished"></translation>
+        <translation>集計行(&amp;S)</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>表</translation>
     </message>
     <message>
         <source>Tell the calendar in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>各見出しにカレンダーを表示します</translation>
     </message>
     <message>
         <source>Tell the date in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>各見出しに日付を表示します</translation>
     </message>
     <message>
         <source>Tell the location in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>各見出しに場所を表示します</translation>
     </message>
     <message>
         <source>Tell the title in each heading</source>
-        <translation type="unfinished"></translation>
+        <translation>各見出しにタイトルを表示します</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>テキスト</translation>
     </message>
     <message>
         <source>Te&amp;xt above the report:</source>
-        <translation type="unfinished"></translation>
+        <translation>レポートの前の文章(&amp;X):</translation>
     </message>
     <message>
         <source>Text below the repo&amp;rt:</source>
-        <translation type="unfinished"></translation>
+        <translation>レポートの後の文章(&amp;R):</translation>
     </message>
     <message>
         <source>&amp;Text Report</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストレポート(&amp;T)</translation>
     </message>
     <message>
         <source>Text Report</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストレポート</translation>
     </message>
     <message>
         <source>Te&amp;xt Report Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストレポートの設定(&amp;X)…</translation>
     </message>
     <message>
         <source>Text Report Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストレポートのプリセット</translation>
     </message>
     <message>
         <source>Text Report P&amp;resets…</source>
-        <translation type="unfinished"></translation>
+        <translation>テキストレポートのプリセット(&amp;R)…</translation>
     </message>
     <message>
         <source>Texts that are longer than their column go on in the next line; when off, they are cut</source>
-        <translation type="unfinished"></translation>
+        <translation>列より長い文章は次の行に続きます。オフのときは切り詰められます</translation>
     </message>
     <message>
         <source>The calendar could not be added</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーを追加できませんでした</translation>
     </message>
     <message>
         <source>The calendar's own identifier of the reminder</source>
-        <translation type="unfinished"></translation>
+        <translation>カレンダーがリマインダーに付けた識別子</translation>
     </message>
     <message>
         <source>The first column is the calendar's own identifier of the event</source>
-        <translation type="unfinished"></translation>
+        <translation>最初の列は、カレンダーが予定に付けた識別子です</translation>
     </message>
     <message>
         <source>The first day of the period</source>
-        <translation type="unfinished"></translation>
+        <translation>期間の最初の日</translation>
     </message>
     <message>
         <source>The first line of the file names the columns</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルの最初の行に列名を書き込みます</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be reached.</source>
-        <translation type="unfinished"></translation>
+        <translation>フォルダー「%1」にアクセスできません。</translation>
     </message>
     <message>
         <source>The hours for which one day of an all-day event counts</source>
-        <translation type="unfinished"></translation>
+        <translation>終日の予定の 1 日分として数える時間数</translation>
     </message>
     <message>
         <source>The last day of the period</source>
-        <translation type="unfinished"></translation>
+        <translation>期間の最後の日</translation>
     </message>
     <message>
         <source>The mean of an event</source>
-        <translation type="unfinished"></translation>
+        <translation>予定 1 件あたりの平均</translation>
     </message>
     <message>
         <source>The rate of an hour, while all calendars have the same</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのカレンダーで共通の、1 時間あたりの単価</translation>
     </message>
     <message>
         <source>The settings file %2 could not be read (%1) nor moved aside. Quillet starts with its first-run settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイル %2 を読み取ることも (%1)、移動することもできませんでした。Quillet は初回起動時の設定で起動します。</translation>
     </message>
     <message>
         <source>The settings file could not be read (%1). It was kept as %2, and Quillet starts with its first-run settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイルを読み取れませんでした (%1)。%2 として残し、Quillet は初回起動時の設定で起動します。</translation>
     </message>
     <message>
         <source>The sum in hours, minutes or as a duration</source>
-        <translation type="unfinished"></translation>
+        <translation>時間、分、または所要時間での合計</translation>
     </message>
     <message>
         <source>The table has this column only while money is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>この列は金額の表示中だけ表に現れます</translation>
+    </message>
+    <message>
+        <source>the text is not a JSON object</source>
+        <translation>テキストが JSON オブジェクトではありません</translation>
     </message>
     <message>
         <source>The ticked calendars have no events on these days.</source>
-        <translation type="unfinished"></translation>
+        <translation>チェックされたカレンダーには、この期間の予定がありません。</translation>
     </message>
     <message>
         <source>The titles of the ticked calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>チェックされたカレンダーのタイトル</translation>
     </message>
     <message>
         <source>These hold for CSV and TSV files alike.</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV ファイルと TSV ファイルの両方に適用されます。</translation>
     </message>
     <message>
         <source>This is version %1. Newer versions arrive with the updates of your system; its software centre shows them.</source>
-        <translation type="unfinished"></translation>
+        <translation>これはバージョン %1 です。新しいバージョンはシステムの更新とともに届き、ソフトウェアセンターに表示されます。</translation>
     </message>
     <message>
         <source>This version lists events only. What you choose here is kept for exports of reminders.</source>
-        <translation type="unfinished"></translation>
+        <translation>このバージョンが一覧にするのは予定だけです。ここでの選択は、リマインダーのエクスポートのために保存されます。</translation>
     </message>
     <message>
         <source>Tick All Calendars</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのカレンダーをチェック</translation>
     </message>
     <message>
         <source>&amp;Tick or Clear All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのチェックを切り替え(&amp;T)</translation>
     </message>
     <message>
         <source>Tick the calendars whose time counts.</source>
-        <translation type="unfinished"></translation>
+        <translation>時間を数えるカレンダーをチェックしてください。</translation>
     </message>
     <message>
         <source>Tick the columns that the table shows. Their titles also stand in reports and exports.</source>
-        <translation type="unfinished"></translation>
+        <translation>表に表示する列をチェックしてください。列のタイトルはレポートとエクスポートにも使われます。</translation>
     </message>
     <message>
         <source>Time as &amp;Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>所要時間で表示(&amp;D)</translation>
     </message>
     <message>
         <source>Time as &amp;Hours</source>
-        <translation type="unfinished"></translation>
+        <translation>時間で表示(&amp;H)</translation>
     </message>
     <message>
         <source>Time as M&amp;inutes</source>
-        <translation type="unfinished"></translation>
+        <translation>分で表示(&amp;I)</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>タイトル</translation>
     </message>
     <message>
         <source>Title of “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」のタイトル</translation>
     </message>
     <message>
         <source>&amp;Titles</source>
-        <translation type="unfinished"></translation>
+        <translation>タイトル(&amp;T)</translation>
     </message>
     <message>
         <source>Toolbar</source>
-        <translation type="unfinished"></translation>
+        <translation>ツールバー</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>合計</translation>
     </message>
     <message>
         <source>&amp;Total time</source>
-        <translation type="unfinished"></translation>
+        <translation>合計時間(&amp;T)</translation>
     </message>
     <message>
         <source>TSV</source>
-        <translation type="unfinished"></translation>
+        <translation>TSV</translation>
     </message>
     <message>
         <source>unknown time zone “%1”, taken as local time</source>
-        <translation type="unfinished"></translation>
+        <translation>不明なタイムゾーン「%1」をローカル時刻として扱いました</translation>
     </message>
     <message>
         <source>Unlocked</source>
-        <translation type="unfinished"></translation>
+        <translation>ロック解除</translation>
     </message>
     <message>
         <source>Updating…</source>
-        <translation type="unfinished"></translation>
+        <translation>更新しています…</translation>
     </message>
     <message>
         <source>URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>UTF-8 suits nearly every program; some spreadsheets want UTF-16</source>
-        <translation type="unfinished"></translation>
+        <translation>ほとんどのプログラムには UTF-8 が適していますが、一部の表計算ソフトには UTF-16 が必要です</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>表示(&amp;V)</translation>
     </message>
     <message>
         <source>&amp;Web Site</source>
-        <translation type="unfinished"></translation>
+        <translation>ウェブサイト(&amp;W)</translation>
     </message>
     <message>
         <source>&amp;Week</source>
-        <translation type="unfinished"></translation>
+        <translation>週(&amp;W)</translation>
     </message>
     <message>
         <source>Week</source>
-        <translation type="unfinished"></translation>
+        <translation>週</translation>
     </message>
     <message>
         <source>What would you like to add?</source>
-        <translation type="unfinished"></translation>
+        <translation>何を追加しますか？</translation>
     </message>
     <message>
         <source>When off, applying a layout leaves the titles as they are</source>
-        <translation type="unfinished"></translation>
+        <translation>オフのときは、レイアウトを適用してもタイトルは変わりません</translation>
     </message>
     <message>
         <source>When off, each calendar has a rate of its own: select the calendar in the main window to set it</source>
-        <translation type="unfinished"></translation>
+        <translation>オフのときは、カレンダーごとに単価があります。メインウィンドウでカレンダーを選択して設定してください</translation>
     </message>
     <message>
         <source>Whether the reminder is done</source>
-        <translation type="unfinished"></translation>
+        <translation>リマインダーが完了したかどうか</translation>
     </message>
     <message>
         <source>Which time column the table, the results and reports show</source>
-        <translation type="unfinished"></translation>
+        <translation>表、集計、レポートに表示する時間の列</translation>
     </message>
     <message>
         <source>While locked, the end moves with the start</source>
-        <translation type="unfinished"></translation>
+        <translation>ロック中は、終了日が開始日とともに動きます</translation>
     </message>
     <message>
         <source>&amp;Wrap long texts</source>
-        <translation type="unfinished"></translation>
+        <translation>長い文章を折り返す(&amp;W)</translation>
     </message>
     <message>
         <source>Write a &amp;header record</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘッダー行を書き込む(&amp;H)</translation>
     </message>
     <message>
         <source>Write the event's &amp;identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>予定の識別子を書き込む(&amp;I)</translation>
     </message>
     <message>
         <source>&amp;Year</source>
-        <translation type="unfinished"></translation>
+        <translation>年(&amp;Y)</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>年</translation>
     </message>
     <message>
         <source>Your events appear here once you allow it.</source>
-        <translation type="unfinished"></translation>
+        <translation>許可すると、ここに予定が表示されます。</translation>
     </message>
     <message>
         <source>“%1” cannot be added: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を追加できません: %2</translation>
     </message>
     <message>
         <source>“%1” cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」を読み取れません。</translation>
     </message>
     <message>
         <source>“%1” does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は存在しません。</translation>
     </message>
     <message>
         <source>“%1” holds the calendars themselves.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はカレンダー自体の保存場所です。</translation>
     </message>
     <message>
         <source>“%1” is among the calendars already.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はすでにカレンダーに含まれています。</translation>
     </message>
     <message>
         <source>“%1” is neither a folder nor an .ics file.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」はフォルダーでも .ics ファイルでもありません。</translation>
     </message>
     <message>
         <source>“%1” is not a rate; the old one was kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>「%1」は単価ではありません。前の値を残しました。</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,158 @@
+#include "WindowFixture.h"
+
+#include "app/StartupSettings.h"
+#include "backends/translations/Translations.h"
+#include "window/PreferencesDialog.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <QToolButton>
+
+#include <map>
+
+namespace quillet {
+
+namespace {
+
+/// The string table is in use before the window and its parts are made, as it is in the program.
+class SpokenLanguage {
+protected:
+    explicit SpokenLanguage(const char* language)
+        : translations_({QString::fromLatin1(language)}) {}
+
+private:
+    const Translations translations_;
+};
+
+class TranslatedWindowTest : public testing::WithParamInterface<const char*>,
+                             private SpokenLanguage,
+                             public test::WindowFixture {
+protected:
+    TranslatedWindowTest()
+        : SpokenLanguage(GetParam()) {}
+};
+
+/// The letters that reach the texts, each with the texts that it reaches.
+std::map<QChar, QStringList> keysOf(const QStringList& texts) {
+    std::map<QChar, QStringList> keys;
+    for (const QString& text : texts) {
+        const QKeySequence key = QKeySequence::mnemonic(text);
+        if (!key.isEmpty()) {
+            keys[key.toString().back()] << text;
+        }
+    }
+    return keys;
+}
+
+void expectKeysOfTheirOwn(const QStringList& texts, const QString& place) {
+    for (const auto& [key, reached] : keysOf(texts)) {
+        EXPECT_EQ(reached.size(), 1) << place.toStdString() << ", " << QString(key).toStdString()
+                                     << ": " << reached.join(" | ").toStdString();
+    }
+}
+
+QStringList textsOf(const QMenu& menu) {
+    QStringList texts;
+    for (const QAction* action : menu.actions()) {
+        texts << action->text();
+    }
+    return texts;
+}
+
+/// What the letters of a window's buttons and fields are marked in, while they are shown.
+QStringList buttonTexts(const QWidget& window) {
+    QStringList texts;
+    for (const auto* button : window.findChildren<QAbstractButton*>()) {
+        // Those of the toolbar show their action's text, whose letter is the menu's.
+        const auto* tool = qobject_cast<const QToolButton*>(button);
+        if (button->isVisible() && (tool == nullptr || tool->defaultAction() == nullptr)) {
+            texts << button->text();
+        }
+    }
+    for (const auto* label : window.findChildren<QLabel*>()) {
+        if (label->isVisible() && label->buddy() != nullptr) {
+            texts << label->text();
+        }
+    }
+    return texts;
+}
+
+QStringList cutTexts(const QWidget& window) {
+    QStringList cut;
+    for (const auto* button : window.findChildren<QAbstractButton*>()) {
+        if (button->isVisible() && !button->text().isEmpty() &&
+            button->width() < button->sizeHint().width()) {
+            cut << button->text();
+        }
+    }
+    for (const auto* label : window.findChildren<QLabel*>()) {
+        if (label->isVisible() && !label->wordWrap() &&
+            label->width() < label->sizeHint().width()) {
+            cut << label->text();
+        }
+    }
+    return cut;
+}
+
+} // namespace
+
+TEST_P(TranslatedWindowTest, NoMenuHasALetterForTwoOfItsItems) {
+    open();
+    QStringList titles;
+    for (const QAction* item : window->menuBar()->actions()) {
+        titles << item->text();
+        expectKeysOfTheirOwn(textsOf(*item->menu()), item->text());
+    }
+    EXPECT_GE(titles.size(), 6);
+    expectKeysOfTheirOwn(titles, "menu bar");
+}
+
+TEST_P(TranslatedWindowTest, NoLetterReachesAMenuAndAButton) {
+    open();
+    QStringList menus;
+    for (const QAction* item : window->menuBar()->actions()) {
+        menus << item->text();
+    }
+    for (const char* pane : {"isExportTXTViewOn", "isNotesViewOn"}) {
+        settings.setObject(pane, true);
+        QApplication::processEvents();
+        expectKeysOfTheirOwn(menus + buttonTexts(*window), pane);
+        settings.setObject(pane, false);
+    }
+}
+
+TEST_P(TranslatedWindowTest, ASmallScreenHoldsAllOfTheMainWindow) {
+    open();
+    for (const char* pane : {"isExportTXTViewOn", "isNotesViewOn"}) {
+        settings.setObject(pane, true);
+        window->resize(1024, 700);
+        QApplication::processEvents();
+        EXPECT_EQ(window->size(), QSize(1024, 700)) << pane;
+        EXPECT_EQ(cutTexts(*window), QStringList()) << pane;
+        settings.setObject(pane, false);
+    }
+}
+
+TEST_P(TranslatedWindowTest, ThePreferencesGiveEachLetterToOneControlOfAPane) {
+    writeStartupSettings(settings);
+    PreferencesDialog dialog({settings, formats, [] {}, [] {}});
+    dialog.show();
+    auto& panes = *dialog.findChild<QTabWidget*>();
+    for (int pane = 0; pane < panes.count(); ++pane) {
+        panes.setCurrentIndex(pane);
+        QApplication::processEvents();
+        EXPECT_GE(buttonTexts(dialog).size(), 3);
+        expectKeysOfTheirOwn(buttonTexts(dialog), panes.tabText(pane));
+        EXPECT_EQ(cutTexts(*panes.currentWidget()), QStringList());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Languages, TranslatedWindowTest,
+                         testing::Values("en", "de", "es", "fr", "ja"),
+                         [](const auto& each) { return std::string(each.param); });
+
+} // namespace quillet
