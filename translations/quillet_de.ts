@@ -56,6 +56,10 @@
         <translation>Zugriff verweigert</translation>
     </message>
     <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
         <source>Add a folder or a file of calendars, or drop one here.</source>
         <translation>Fügen Sie einen Kalenderordner oder eine Kalenderdatei hinzu, oder ziehen Sie sie hierher.</translation>
     </message>
@@ -74,6 +78,14 @@
     <message>
         <source>Add Calendar Folder or File…</source>
         <translation>Kalenderordner oder -datei hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Add these %1 files as calendars?</source>
+        <translation>Diese %1 Dateien als Kalender hinzufügen?</translation>
+    </message>
+    <message>
+        <source>Add “%1” as a calendar?</source>
+        <translation>„%1“ als Kalender hinzufügen?</translation>
     </message>
     <message>
         <source>All</source>
@@ -656,6 +668,10 @@
         <translation>&amp;Ein Stundensatz für alle Kalender</translation>
     </message>
     <message>
+        <source>Only files on this computer can be added as calendars.</source>
+        <translation>Nur Dateien auf diesem Rechner können als Kalender hinzugefügt werden.</translation>
+    </message>
+    <message>
         <source>Open Software Centre</source>
         <translation>Softwarezentrum öffnen</translation>
     </message>
@@ -726,6 +742,10 @@ Die Stunden in Ihren Kalendern, fertig zum Abrechnen.</translation>
     <message>
         <source>Quillet may not read your calendars yet</source>
         <translation>Quillet darf Ihre Kalender noch nicht lesen</translation>
+    </message>
+    <message>
+        <source>Quillet reads calendars where they are and shows their events beside those of your other calendars. It changes nothing in them.</source>
+        <translation>Quillet liest Kalender, wo sie liegen, und zeigt ihre Termine neben denen Ihrer anderen Kalender. Es ändert nichts an ihnen.</translation>
     </message>
     <message>
         <source>Quillet will not be able to format the text for this email due to a known applescript issue caused by Safari 5.0.

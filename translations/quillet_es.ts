@@ -56,6 +56,10 @@
         <translation>Acceso denegado</translation>
     </message>
     <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
         <source>Add a folder or a file of calendars, or drop one here.</source>
         <translation>Añada una carpeta o un archivo de calendarios, o suéltelo aquí.</translation>
     </message>
@@ -74,6 +78,14 @@
     <message>
         <source>Add Calendar Folder or File…</source>
         <translation>Añadir carpeta o archivo de calendario…</translation>
+    </message>
+    <message>
+        <source>Add these %1 files as calendars?</source>
+        <translation>¿Añadir estos %1 archivos como calendarios?</translation>
+    </message>
+    <message>
+        <source>Add “%1” as a calendar?</source>
+        <translation>¿Añadir «%1» como calendario?</translation>
     </message>
     <message>
         <source>All</source>
@@ -656,6 +668,10 @@
         <translation>U&amp;na tarifa para todos los calendarios</translation>
     </message>
     <message>
+        <source>Only files on this computer can be added as calendars.</source>
+        <translation>Solo se pueden añadir como calendarios archivos de este equipo.</translation>
+    </message>
+    <message>
         <source>Open Software Centre</source>
         <translation>Abrir el centro de software</translation>
     </message>
@@ -726,6 +742,10 @@ Las horas de sus calendarios, listas para facturar.</translation>
     <message>
         <source>Quillet may not read your calendars yet</source>
         <translation>Quillet aún no puede leer sus calendarios</translation>
+    </message>
+    <message>
+        <source>Quillet reads calendars where they are and shows their events beside those of your other calendars. It changes nothing in them.</source>
+        <translation>Quillet lee los calendarios donde están y muestra sus eventos junto a los de sus otros calendarios. No cambia nada en ellos.</translation>
     </message>
     <message>
         <source>Quillet will not be able to format the text for this email due to a known applescript issue caused by Safari 5.0.

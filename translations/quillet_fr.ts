@@ -56,6 +56,10 @@
         <translation>Accès refusé</translation>
     </message>
     <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
         <source>Add a folder or a file of calendars, or drop one here.</source>
         <translation>Ajoutez un dossier ou un fichier de calendriers, ou déposez-le ici.</translation>
     </message>
@@ -74,6 +78,14 @@
     <message>
         <source>Add Calendar Folder or File…</source>
         <translation>Ajouter un dossier ou un fichier de calendrier…</translation>
+    </message>
+    <message>
+        <source>Add these %1 files as calendars?</source>
+        <translation>Ajouter ces %1 fichiers comme calendriers ?</translation>
+    </message>
+    <message>
+        <source>Add “%1” as a calendar?</source>
+        <translation>Ajouter « %1 » comme calendrier ?</translation>
     </message>
     <message>
         <source>All</source>
@@ -656,6 +668,10 @@
         <translation>&amp;Un seul taux pour tous les calendriers</translation>
     </message>
     <message>
+        <source>Only files on this computer can be added as calendars.</source>
+        <translation>Seuls des fichiers de cet ordinateur peuvent être ajoutés comme calendriers.</translation>
+    </message>
+    <message>
         <source>Open Software Centre</source>
         <translation>Ouvrir la logithèque</translation>
     </message>
@@ -726,6 +742,10 @@ Les heures de vos calendriers, prêtes à facturer.</translation>
     <message>
         <source>Quillet may not read your calendars yet</source>
         <translation>Quillet ne peut pas encore lire vos calendriers</translation>
+    </message>
+    <message>
+        <source>Quillet reads calendars where they are and shows their events beside those of your other calendars. It changes nothing in them.</source>
+        <translation>Quillet lit les calendriers là où ils se trouvent et affiche leurs événements à côté de ceux de vos autres calendriers. Il n’y modifie rien.</translation>
     </message>
     <message>
         <source>Quillet will not be able to format the text for this email due to a known applescript issue caused by Safari 5.0.

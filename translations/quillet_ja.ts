@@ -56,6 +56,10 @@
         <translation>アクセスが拒否されました</translation>
     </message>
     <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
         <source>Add a folder or a file of calendars, or drop one here.</source>
         <translation>カレンダーのフォルダーまたはファイルを追加するか、ここにドロップしてください。</translation>
     </message>
@@ -74,6 +78,14 @@
     <message>
         <source>Add Calendar Folder or File…</source>
         <translation>カレンダーのフォルダーまたはファイルを追加…</translation>
+    </message>
+    <message>
+        <source>Add these %1 files as calendars?</source>
+        <translation>これら %1 個のファイルをカレンダーとして追加しますか？</translation>
+    </message>
+    <message>
+        <source>Add “%1” as a calendar?</source>
+        <translation>「%1」をカレンダーとして追加しますか？</translation>
     </message>
     <message>
         <source>All</source>
@@ -656,6 +668,10 @@
         <translation>すべてのカレンダーで同じ単価を使う(&amp;O)</translation>
     </message>
     <message>
+        <source>Only files on this computer can be added as calendars.</source>
+        <translation>カレンダーとして追加できるのは、このコンピューター上のファイルだけです。</translation>
+    </message>
+    <message>
         <source>Open Software Centre</source>
         <translation>ソフトウェアセンターを開く</translation>
     </message>
@@ -726,6 +742,10 @@ The hours in your calendars, ready to bill.</source>
     <message>
         <source>Quillet may not read your calendars yet</source>
         <translation>Quillet はまだカレンダーを読み取れません</translation>
+    </message>
+    <message>
+        <source>Quillet reads calendars where they are and shows their events beside those of your other calendars. It changes nothing in them.</source>
+        <translation>Quillet はカレンダーを元の場所で読み取り、その予定をほかのカレンダーの予定と並べて表示します。内容は変更しません。</translation>
     </message>
     <message>
         <source>Quillet will not be able to format the text for this email due to a known applescript issue caused by Safari 5.0.
