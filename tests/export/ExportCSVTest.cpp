@@ -65,6 +65,22 @@ TEST_F(ExportCSVTest, MissingTextsAreEmptyFields) {
     addEvent("T");
     show({"title", "notes", "url", "location"});
     EXPECT_EQ(text(), "\"Title\",\"Notes\",\"URL\",\"Location\"\n\"T\",,,\n");
+    addEvent(nullptr, "N");
+    EXPECT_EQ(text().section(u'\n', 2), ",\"N\",,\n");
+}
+
+TEST_F(ExportCSVTest, EmptyTextsAreNotMissingAndAreQuotedWhereQuotingIsOn) {
+    EventDetails details;
+    details.title = "";
+    details.notes = "";
+    details.location = "";
+    details.url = "";
+    addEvent(std::move(details));
+    show({"title", "notes", "location", "url"});
+    settings.setObject("isCSVHeader", false);
+    EXPECT_EQ(text(), "\"\",\"\",\"\",\"\"\n");
+    settings.setObject("isCSVQuotesForNote", false);
+    EXPECT_EQ(text(), "\"\",,\"\",\"\"\n");
 }
 
 TEST_F(ExportCSVTest, TheIdentifierComesFirst) {

@@ -86,6 +86,18 @@ TEST_F(TXTSettingsArrayControllerTest, SettingsKeptForMailsBecomeAPresetOnce) {
     EXPECT_EQ(storedCount(), 2);
 }
 
+TEST_F(TXTSettingsArrayControllerTest, TheMailPresetWrapsOnlyWhereTheReportDid) {
+    settings.setObject("isMailMax", true);
+    controller.awakeFromNib();
+    EXPECT_EQ(stored(1).value("txtSettingsIsTXTWrapping"), QVariant(false)) << "absent";
+    EXPECT_FALSE(hasKey(settings, "isTXTWrapping"));
+    settings.setObject("isTXTWrapping", false);
+    settings.setObject("isMailMax", true);
+    controller.migrateMailSettings();
+    EXPECT_EQ(stored(2).value("txtSettingsIsTXTWrapping"), QVariant(false));
+    EXPECT_EQ(settings.object("isTXTWrapping"), QVariant(false));
+}
+
 TEST_F(TXTSettingsArrayControllerTest, EachOldKeyAloneStartsTheMigration) {
     for (const char* key :
          {"isMailCalTitle", "isMailDollars", "isMailTotalEvents", "isMailBeginDate",
