@@ -1,13 +1,11 @@
 #include "window/DesktopDialogs.h"
 
 #include "platform/Localized.h"
+#include "window/SaveDialog.h"
 #include "window/ShownRun.h"
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QDir>
-#include <QFileDialog>
-#include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
@@ -35,30 +33,14 @@ int DesktopDialogs::runModal(const Alert& alert) {
 }
 
 void DesktopDialogs::beginSheet(const SavePanelRequest& request, Completion completion) {
-    auto* dialog = new QFileDialog(window_, request.message);
+    auto* dialog = new SaveDialog(request, window_);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setNameFilters(
-        {QStringLiteral("%1 (*.%2)").arg(request.fileType.toUpper(), request.fileType)});
-    dialog->setDefaultSuffix(request.fileType);
-    dialog->setLabelText(QFileDialog::FileName, request.nameFieldLabel);
-    dialog->setDirectory(QFileInfo(request.startingFolder).isDir() ? request.startingFolder
-                                                                   : QDir::homePath());
-    dialog->selectFile(request.suggestedName + u'.' + request.fileType);
-    dialog->setWindowModality(Qt::WindowModal);
-    QObject::connect(
-        dialog, &QFileDialog::finished, dialog,
-        [dialog, type = request.fileType, completion = std::move(completion)](int result) {
-            if (result != QDialog::Accepted) {
-                completion(std::nullopt);
-                return;
-            }
-            QString path = dialog->selectedFiles().value(0);
-            if (!path.endsWith(u'.' + type, Qt::CaseInsensitive)) {
-                path += u'.' + type;
-            }
-            completion(path);
-        });
+    QObject::connect(dialog, &QFileDialog::finished, dialog,
+                     [dialog, completion = std::move(completion)](int result) {
+                         completion(result == QDialog::Accepted
+                                        ? std::optional(dialog->chosenPath())
+                                        : std::nullopt);
+                     });
     dialog->open();
 }
 

@@ -1,0 +1,59 @@
+#include "window/SaveDialog.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMessageBox>
+
+namespace quillet {
+
+SaveDialog::SaveDialog(const SavePanelRequest& request, QWidget* parent)
+    : QFileDialog(parent, request.message)
+    , suffix_(u'.' + request.fileType) {
+    setAcceptMode(AcceptSave);
+    setNameFilters({QStringLiteral("%1 (*%2)").arg(request.fileType.toUpper(), suffix_)});
+    setDefaultSuffix(request.fileType);
+    setLabelText(FileName, request.nameFieldLabel);
+    setDirectory(QFileInfo(request.startingFolder).isDir() ? request.startingFolder
+                                                           : QDir::homePath());
+    selectFile(request.suggestedName + suffix_);
+    setWindowModality(Qt::WindowModal);
+}
+
+SaveDialog::~SaveDialog() = default;
+
+QString SaveDialog::typed(const QString& path) const {
+    return path.endsWith(suffix_, Qt::CaseInsensitive) ? path : path + suffix_;
+}
+
+QString SaveDialog::chosenPath() const {
+    return typed(selectedFiles().value(0));
+}
+
+bool SaveDialog::mayReplace(const QString& path) {
+    if (!QFileInfo::exists(path)) {
+        return true;
+    }
+    // In the words that the dialog itself uses.
+    const QString question = QFileDialog::tr("%1 already exists.\nDo you want to replace it?");
+    return QMessageBox::warning(this, windowTitle(), question.arg(QFileInfo(path).fileName()),
+                                QMessageBox::Yes | QMessageBox::No,
+                                QMessageBox::No) == QMessageBox::Yes;
+}
+
+void SaveDialog::accept() {
+    // A name such as "30. November" counts as one that has a suffix, and is not completed.
+    const QString path = selectedFiles().value(0);
+    if (path.isEmpty() || QFileInfo(path).isDir() || typed(path) == path) {
+        QFileDialog::accept();
+    } else if (auto* field = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))) {
+        field->setText(QDir::toNativeSeparators(typed(path)));
+        QFileDialog::accept();
+    } else if (mayReplace(typed(path))) {
+        QFileDialog::accept();
+    } else {
+        reject();
+    }
+}
+
+} // namespace quillet
