@@ -13,6 +13,7 @@ ExportPane::ExportPane(const QString& title, QWidget& view, Actions actions, QWi
     : QWidget(parent)
     , view_(view)
     , remark_(new QLabel(this))
+    , tools_(new QHBoxLayout)
     , switches_(new QHBoxLayout) {
     auto* name = new QLabel(title, this);
     QFont font = name->font();
@@ -20,6 +21,9 @@ ExportPane::ExportPane(const QString& title, QWidget& view, Actions actions, QWi
     name->setFont(font);
     remark_->setTextFormat(Qt::PlainText);
     remark_->setForegroundRole(QPalette::PlaceholderText);
+    // In a narrow window the texts give way, not the neighbours of the pane.
+    name->setMinimumWidth(1);
+    remark_->setMinimumWidth(1);
     view_.setAccessibleName(title);
     setAccessibleName(title);
 
@@ -30,7 +34,7 @@ ExportPane::ExportPane(const QString& title, QWidget& view, Actions actions, QWi
     row->addWidget(name);
     row->addWidget(remark_);
     row->addStretch();
-    row->addLayout(switches_);
+    row->addLayout(tools_);
     row->addSpacing(space);
     addButton(*row, localized("&Save…"), std::move(actions.save));
     mail_ = addButton(*row, localized("&Mail"), std::move(actions.mail));
@@ -44,6 +48,7 @@ ExportPane::ExportPane(const QString& title, QWidget& view, Actions actions, QWi
     layout->setSpacing(0);
     layout->addWidget(line);
     layout->addLayout(row);
+    layout->addLayout(switches_);
     layout->addWidget(&view_, 1);
 
     auto* escape = new QShortcut(Qt::Key_Escape, this);
@@ -60,13 +65,13 @@ QPushButton* ExportPane::addButton(QBoxLayout& row, const QString& text,
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, std::move(action));
     row.addWidget(button);
-    row_.append(button);
+    controls_.append(button);
     return button;
 }
 
 void ExportPane::orderTabs() {
     QWidget* previous = nullptr;
-    for (QWidget* control : row_ + QList<QWidget*>{&view_}) {
+    for (QWidget* control : controls_ + QList<QWidget*>{&view_}) {
         if (previous != nullptr) {
             setTabOrder(previous, control);
         }
@@ -74,9 +79,21 @@ void ExportPane::orderTabs() {
     }
 }
 
+void ExportPane::addTool(QWidget& control) {
+    tools_->addWidget(&control);
+    controls_.insert(toolCount_++, &control);
+    orderTabs();
+}
+
 void ExportPane::addSwitch(QWidget& control) {
-    switches_->addWidget(&control);
-    row_.insert(switchCount_++, &control);
+    if (switches_->isEmpty()) {
+        const int space = fontMetrics().height() / 2;
+        switches_->setContentsMargins(space, 0, space, space);
+        switches_->setSpacing(space * 2);
+        switches_->addStretch();
+    }
+    switches_->insertWidget(switches_->count() - 1, &control);
+    controls_.append(&control);
     orderTabs();
 }
 

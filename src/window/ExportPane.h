@@ -27,7 +27,10 @@ public:
     ~ExportPane() override;
     Q_DISABLE_COPY_MOVE(ExportPane)
 
-    /// A switch of what the view shows, under the title's row.
+    /// A button of the pane's own, in the title's row before the others.
+    void addTool(QWidget& control);
+    /// A switch of what the view shows, in a row of its own, so that the pane needs no more width
+    /// than the table above it.
     void addSwitch(QWidget& control);
     /// A sentence beside the title; plain text.
     void setRemark(const QString& remark);
@@ -44,11 +47,12 @@ private:
 
     QWidget& view_;
     QLabel* remark_;
+    QBoxLayout* tools_;
     QBoxLayout* switches_;
     QPushButton* mail_ = nullptr;
-    /// The switches, then the buttons.
-    QList<QWidget*> row_;
-    qsizetype switchCount_ = 0;
+    /// The tools, the buttons, then the switches.
+    QList<QWidget*> controls_;
+    qsizetype toolCount_ = 0;
 };
 
 } // namespace quillet

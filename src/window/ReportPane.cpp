@@ -30,7 +30,7 @@ ReportPane::ReportPane(ReportView* view, ExportTxtViewController& report, Buildi
     options->setAutoDefault(false);
     options->setToolTip(localized("Choose what the report tells"));
     connect(options, &QPushButton::clicked, this, std::move(showOptions));
-    addSwitch(*options);
+    addTool(*options);
     refreshing_.setSingleShot(true);
     refreshing_.setInterval(0);
     connect(&refreshing_, &QTimer::timeout, this, &ReportPane::refresh);

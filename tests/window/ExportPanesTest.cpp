@@ -93,6 +93,20 @@ TEST_F(ExportPanesTest, TabGoesAlongTheRowAndThenIntoTheText) {
     EXPECT_EQ(window->focusWidget(), button("Close"));
 }
 
+TEST_F(ExportPanesTest, APaneNeedsNoMoreWidthThanTheTableSoThatItsNeighboursKeepTheirs) {
+    open();
+    const auto* centre = named<QSplitter>("centre");
+    const auto neededBy = [&](int position) {
+        return centre->widget(position)->minimumSizeHint().width();
+    };
+    openReport();
+    EXPECT_LE(neededBy(1), neededBy(0)) << "report";
+    button("Close")->click();
+    exportItems.notes.action().trigger();
+    fetch();
+    EXPECT_LE(neededBy(1), neededBy(0)) << "notes";
+}
+
 TEST_F(ExportPanesTest, EscapeClosesThePaneThatHasTheFocus) {
     open();
     openReport();

@@ -45,9 +45,9 @@ TEST_F(FocusOrderTest, TabFollowsTheEye) {
     const QStringList names = walk("Previous");
     qsizetype last = -1;
     for (const char* name :
-         {"Previous", "Current", "Next", "Calendars", "Events", "Calendar", "Save…", "Close",
-          "Event Notes", "Hourly Rate", "One rate for all calendars", "Results", "Day", "Custom",
-          "Start Date", "Locked", "End Date"}) {
+         {"Previous", "Current", "Next", "Calendars", "Events", "Save…", "Close", "Calendar",
+          "Location", "Event Notes", "Hourly Rate", "One rate for all calendars", "Results", "Day",
+          "Custom", "Start Date", "Locked", "End Date"}) {
         const qsizetype at = names.indexOf(QString::fromUtf8(name));
         EXPECT_GT(at, last) << name << " in " << names.join(", ").toStdString();
         last = at;
