@@ -63,6 +63,8 @@ void TXTSettingsSheet::build() {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog_);
     buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     QObject::connect(buttons, &QDialogButtonBox::rejected, dialog_, &QDialog::reject);
+    constexpr int widthInCharacters = 52;
+    dialog_->setMinimumWidth(dialog_->fontMetrics().averageCharWidth() * widthInCharacters);
     auto* layout = new QVBoxLayout(dialog_);
     layout->addWidget(note);
     layout->addWidget(list_, 1);

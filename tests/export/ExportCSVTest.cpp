@@ -66,7 +66,7 @@ TEST_F(ExportCSVTest, MissingTextsAreEmptyFields) {
     show({"title", "notes", "url", "location"});
     EXPECT_EQ(text(), "\"Title\",\"Notes\",\"URL\",\"Location\"\n\"T\",,,\n");
     addEvent(nullptr, "N");
-    EXPECT_EQ(text().section(u'\n', 2), ",\"N\",,\n");
+    EXPECT_TRUE(QString::fromStdString(text()).endsWith("\n,\"N\",,\n"));
 }
 
 TEST_F(ExportCSVTest, EmptyTextsAreNotMissingAndAreQuotedWhereQuotingIsOn) {
