@@ -106,6 +106,9 @@ TEST_F(EventNotesViewControllerTest, HeadingsHoldTheChosenItemsInTheirOrder) {
     setSwitches(true, false, false, true);
     add("Call");
     EXPECT_EQ(controller.notes().parts.at(1), (StyledText::Part{"Work - Room 1", Bold}));
+    add("Mail", "Meeting", "");
+    EXPECT_EQ(controller.notes().parts.at(5), (StyledText::Part{"Work", Bold}))
+        << "an empty location is no item";
 }
 
 TEST_F(EventNotesViewControllerTest, ACalendarsTitleIsWrittenEvenWhenEmpty) {
