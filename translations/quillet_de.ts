@@ -1062,6 +1062,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Die Titel der ausgewählten Kalender</translation>
     </message>
     <message>
+        <source>There is a file named %1 already. Replace it?</source>
+        <translation>Es gibt bereits eine Datei namens %1. Soll sie ersetzt werden?</translation>
+    </message>
+    <message>
         <source>These hold for CSV and TSV files alike.</source>
         <translation>Dies gilt für CSV- und TSV-Dateien gleichermaßen.</translation>
     </message>

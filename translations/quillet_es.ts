@@ -1062,6 +1062,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Los títulos de los calendarios marcados</translation>
     </message>
     <message>
+        <source>There is a file named %1 already. Replace it?</source>
+        <translation>Ya hay un archivo llamado %1. ¿Reemplazarlo?</translation>
+    </message>
+    <message>
         <source>These hold for CSV and TSV files alike.</source>
         <translation>Esto vale tanto para los archivos CSV como para los TSV.</translation>
     </message>

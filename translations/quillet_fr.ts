@@ -1062,6 +1062,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Les titres des calendriers cochés</translation>
     </message>
     <message>
+        <source>There is a file named %1 already. Replace it?</source>
+        <translation>Il y a déjà un fichier nommé %1. Le remplacer ?</translation>
+    </message>
+    <message>
         <source>These hold for CSV and TSV files alike.</source>
         <translation>Ces réglages valent pour les fichiers CSV comme pour les fichiers TSV.</translation>
     </message>

@@ -1,5 +1,7 @@
 #include "window/SaveDialog.h"
 
+#include "platform/Localized.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
@@ -34,8 +36,7 @@ bool SaveDialog::mayReplace(const QString& path) {
     if (!QFileInfo::exists(path)) {
         return true;
     }
-    // In the words that the dialog itself uses.
-    const QString question = QFileDialog::tr("%1 already exists.\nDo you want to replace it?");
+    const QString question = localized("There is a file named %1 already. Replace it?");
     return QMessageBox::warning(this, windowTitle(), question.arg(QFileInfo(path).fileName()),
                                 QMessageBox::Yes | QMessageBox::No,
                                 QMessageBox::No) == QMessageBox::Yes;
