@@ -1063,7 +1063,7 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     </message>
     <message>
         <source>There is a file named %1 already. Replace it?</source>
-        <translation>%1 という名前のファイルがすでにあります。置き換えますか?</translation>
+        <translation>%1 という名前のファイルがすでにあります。置き換えますか？</translation>
     </message>
     <message>
         <source>These hold for CSV and TSV files alike.</source>
