@@ -35,6 +35,8 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
     , currentCalendar_(locales_.time, timeZone_, CalendarSystem::OfLocale)
     , formats_(locales_, timeZone_)
     , taskLauncher_([this] { settings_.flush(); }, [this] { service_.endSoon(); })
+    , scriptRunner_({taskLauncher_, pasteboard_, dialogs_,
+                     [this](const EventRequest& request) { return placeOf(request); }})
     , access_(
           paths.stateFolder,
           [this](const CalendarAccess::Answer& answer) { answer(dialogs_.askForCalendarAccess()); })
@@ -64,6 +66,7 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
           headerTimeColumns_))
     , resultsPane_(new ResultsPane(settings_))
     , eventItemTableView_({events_, *eventTable_, fields_, pasteboard_})
+    , openCalendarEvent_({settings_, events_, scriptRunner_})
     , eventItemView_({settings_, *eventTable_, items(menuTimeColumns_), items(headerTimeColumns_),
                       calendars_, gregorian_, formats_})
     , eventResults_({settings_, *resultsPane_, eventsController_, events_, billing_, formats_})
@@ -143,6 +146,8 @@ void Program::wake() {
     dateInspector_.awakeFromNib();
     arrangeColumns();
     eventTable_->follow(eventItemTableView_);
+    openCalendarEvent_.awakeFromNib();
+    eventTable_->follow(openCalendarEvent_);
     eventResults_.awakeFromNib();
     resultsPane_->follow(eventResults_);
     columnLayouts_.awakeFromNib();
@@ -196,14 +201,24 @@ void Program::perform(const QString& desktopAction) {
 }
 
 WindowExports Program::exports() {
-    return {exportCSV_,
-            exportTSV_,
-            exportTXT_,
-            exportNotes_,
-            scriptRunner_,
-            exportTxtView_,
-            {*reportQueue_, *mainQueue_, reportFormats_, reportCalendar_},
+    return {exportCSV_,     exportTSV_,
+            exportTXT_,     exportNotes_,
+            exportTxtView_, {*reportQueue_, *mainQueue_, reportFormats_, reportCalendar_},
             eventNotes_};
+}
+
+EventPlace Program::placeOf(const EventRequest& request) const {
+    EventPlace place{.serviceCalendar = {},
+                     .file =
+                         folderStore_.fileOf(request.calendarIdentifier, request.eventIdentifier),
+                     .start = {}};
+    for (const Event& event : events_.selectedObjects()) {
+        if (event.details->eventIdentifier == request.eventIdentifier) {
+            place.start =
+                QDateTime::fromMSecsSinceEpoch(event.startDate.time_since_epoch().count());
+        }
+    }
+    return place;
 }
 
 CalendarActions Program::calendarActions() {

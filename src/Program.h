@@ -21,6 +21,7 @@
 #include "export/ExportTxtViewController.h"
 #include "export/TXTSettingsArrayController.h"
 #include "results/EventNotesViewController.h"
+#include "results/OpenCalendarEvent.h"
 #include "window/ActivationWatcher.h"
 #include "window/CalendarOffer.h"
 #include "window/DesktopDialogs.h"
@@ -56,6 +57,7 @@ public:
 private:
     [[nodiscard]] CalendarActions calendarActions();
     [[nodiscard]] WindowExports exports();
+    [[nodiscard]] EventPlace placeOf(const EventRequest& request) const;
     void wake();
     void becomeActiveFirst();
     void arrangeColumns();
@@ -76,10 +78,10 @@ private:
     DesktopDialogs dialogs_;
     DesktopWorkspace workspace_;
     ProcessTaskLauncher taskLauncher_;
-    UnavailableScriptRunner scriptRunner_;
     PackagedPrograms installedPrograms_;
     PaletteTextColor textColor_;
     DesktopPasteboard pasteboard_;
+    DesktopScriptRunner scriptRunner_;
     CalendarAccess access_;
     IcsFolderStore folderStore_;
     CombinedEventStore store_;
@@ -105,6 +107,7 @@ private:
     EventTableView* eventTable_;
     ResultsPane* resultsPane_;
     EventItemTableView eventItemTableView_;
+    OpenCalendarEvent openCalendarEvent_;
     EventItemViewController eventItemView_;
     EventResultsViewController eventResults_;
     ColumnLayoutsArrayController columnLayouts_;

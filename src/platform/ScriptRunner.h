@@ -10,8 +10,6 @@ namespace quillet {
 class ScriptRunner {
 public:
     virtual ~ScriptRunner() = default;
-    /// Whether scripts can be run at all; where they cannot, whoever offers one says so.
-    [[nodiscard]] virtual bool isAvailable() const = 0;
     /// Runs a script and returns when it has ended. The error, why it gave no result, is a text for
     /// the log.
     virtual std::expected<void, QString> run(const QString& source) = 0;

@@ -7,6 +7,8 @@ struct ColorFractions {
     double red = 0;
     double green = 0;
     double blue = 0;
+
+    friend bool operator==(const ColorFractions&, const ColorFractions&) = default;
 };
 
 class TextColorSource {

@@ -4,12 +4,14 @@
 #include "eventtable/EventItemTableView.h"
 #include "eventtable/EventOrder.h"
 #include "platform/Localized.h"
+#include "results/OpenCalendarEvent.h"
 #include "window/CellPadding.h"
 #include "window/ColumnsMenu.h"
 
 #include <QAction>
 #include <QHeaderView>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QScrollBar>
 
 namespace quillet {
@@ -59,7 +61,9 @@ EventTableView::EventTableView(QAbstractItemModel& model, ListController<Event>&
     , events_(events)
     , settings_(settings)
     , makeSorter_(std::move(makeSorter))
-    , timeColumnActions_(timeColumnActions) {
+    , timeColumnActions_(timeColumnActions)
+    , openInCalendarAction_(new QAction(localized("&Open in Calendar"), this)) {
+    openInCalendarAction_->setEnabled(false);
     setModel(&model);
     setAccessibleName(localized("Events"));
     setSelectionBehavior(SelectRows);
@@ -124,6 +128,37 @@ void EventTableView::follow(EventItemTableView& eventItemTableView) {
 void EventTableView::copy() {
     if (eventItemTableView_ != nullptr) {
         eventItemTableView_->copy();
+    }
+}
+
+void EventTableView::follow(OpenCalendarEvent& openCalendarEvent) {
+    openCalendarEvent_ = &openCalendarEvent;
+    QAction& action = *openInCalendarAction_;
+    action.setObjectName(QStringLiteral("openEventInCalendar"));
+    action.setShortcuts({Qt::Key_Return, Qt::Key_Enter});
+    action.setShortcutContext(Qt::WidgetShortcut);
+    // Only ever for one event: the busy indicator would turn on for any other number of them.
+    const auto enable = [this] {
+        openInCalendarAction_->setEnabled(events_.selectedRows().size() == 1);
+    };
+    connect(&events_, &ListControllerNotices::selectedObjectsChanged, &action, enable);
+    connect(&action, &QAction::triggered, this, &EventTableView::openInCalendar);
+    enable();
+    addAction(&action);
+}
+
+void EventTableView::openInCalendar() {
+    if (openCalendarEvent_ != nullptr && events_.selectedRows().size() == 1) {
+        openCalendarEvent_->openEventInCalendar();
+    }
+}
+
+void EventTableView::mouseDoubleClickEvent(QMouseEvent* event) {
+    QTableView::mouseDoubleClickEvent(event);
+    const QModelIndex clicked = indexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && clicked.isValid() &&
+        selectionModel()->isRowSelected(clicked.row())) {
+        openInCalendar();
     }
 }
 

@@ -14,6 +14,7 @@
 namespace quillet {
 
 class EventItemTableView;
+class OpenCalendarEvent;
 enum class SortDirection;
 struct TimeColumnActions;
 
@@ -35,6 +36,10 @@ public:
 
     /// Copies its rows through this from now on; the context menu offers that.
     void follow(EventItemTableView& eventItemTableView);
+    /// Opens its events through this from now on; the context menu and the Enter key offer that.
+    void follow(OpenCalendarEvent& openCalendarEvent);
+    /// Shows the selected event in the calendar program; enabled while just one is selected.
+    [[nodiscard]] QAction& openInCalendarAction() { return *openInCalendarAction_; }
 
     [[nodiscard]] int columnCount() const override;
     [[nodiscard]] TableColumn& columnAt(int position) override;
@@ -50,10 +55,14 @@ public Q_SLOTS:
     /// The standard copy command.
     void copy();
 
+protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
 private:
     class HeaderColumn;
 
     void setUpHeader();
+    void openInCalendar();
     void showHeaderMenu(const QPoint& position);
     void sort(int logicalIndex, Qt::SortOrder order);
     void takeSelectionFromView();
@@ -64,6 +73,8 @@ private:
     MakeSorter makeSorter_;
     TimeColumnActions& timeColumnActions_;
     EventItemTableView* eventItemTableView_ = nullptr;
+    OpenCalendarEvent* openCalendarEvent_ = nullptr;
+    QAction* openInCalendarAction_;
     std::vector<std::unique_ptr<HeaderColumn>> columns_;
     bool isShowingSelection_ = false;
     int scrollPosition_ = 0;

@@ -37,7 +37,7 @@ ExportPane::ExportPane(const QString& title, QWidget& view, Actions actions, QWi
     row->addLayout(tools_);
     row->addSpacing(space);
     addButton(*row, localized("&Save…"), std::move(actions.save));
-    mail_ = addButton(*row, localized("&Mail"), std::move(actions.mail));
+    addButton(*row, localized("&Mail"), std::move(actions.mail));
     addButton(*row, localized("C&lose"), actions.close);
 
     auto* line = new QFrame(this);
@@ -59,14 +59,12 @@ ExportPane::ExportPane(const QString& title, QWidget& view, Actions actions, QWi
 
 ExportPane::~ExportPane() = default;
 
-QPushButton* ExportPane::addButton(QBoxLayout& row, const QString& text,
-                                   std::function<void()> action) {
+void ExportPane::addButton(QBoxLayout& row, const QString& text, std::function<void()> action) {
     auto* button = new QPushButton(text, this);
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, std::move(action));
     row.addWidget(button);
     controls_.append(button);
-    return button;
 }
 
 void ExportPane::orderTabs() {
@@ -99,11 +97,6 @@ void ExportPane::addSwitch(QWidget& control) {
 
 void ExportPane::setRemark(const QString& remark) {
     remark_->setText(remark);
-}
-
-void ExportPane::setMailProblem(const QString& reason) {
-    mail_->setEnabled(reason.isEmpty());
-    mail_->setToolTip(reason);
 }
 
 void ExportPane::showEvent(QShowEvent* event) {

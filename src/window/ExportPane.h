@@ -6,7 +6,6 @@
 
 class QBoxLayout;
 class QLabel;
-class QPushButton;
 
 namespace quillet {
 
@@ -34,14 +33,12 @@ public:
     void addSwitch(QWidget& control);
     /// A sentence beside the title; plain text.
     void setRemark(const QString& remark);
-    /// Why nothing can be mailed; an empty reason lets the user mail.
-    void setMailProblem(const QString& reason);
 
 protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    QPushButton* addButton(QBoxLayout& row, const QString& text, std::function<void()> action);
+    void addButton(QBoxLayout& row, const QString& text, std::function<void()> action);
     /// As the eye goes: the row from its start to its end, then the view.
     void orderTabs();
 
@@ -49,7 +46,6 @@ private:
     QLabel* remark_;
     QBoxLayout* tools_;
     QBoxLayout* switches_;
-    QPushButton* mail_ = nullptr;
     /// The tools, the buttons, then the switches.
     QList<QWidget*> controls_;
     qsizetype toolCount_ = 0;

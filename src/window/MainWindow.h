@@ -57,7 +57,6 @@ struct WindowExports {
     ExportTSV& tsv;
     ExportTXT& text;
     ExportNotes& notes;
-    const ScriptRunner& scriptRunner;
     ExportTxtViewController& report;
     ReportPane::Building reportBuilding;
     EventNotesViewController& eventNotes;
@@ -117,7 +116,6 @@ private:
     void makeToolBar();
     void makeExportActions();
     [[nodiscard]] WindowPanes::Contents exportPanes();
-    [[nodiscard]] QString mailProblem() const;
     void mail();
     void closeExportPane(void (AppViewsController::*turnOff)());
     void makeSearch(QToolBar& bar);

@@ -53,12 +53,6 @@ void MainWindow::makeExportActions() {
         connect(&item.action, &QAction::triggered, this, item.trigger);
     }
     mailAction_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_M));
-    if (const QString problem = mailProblem(); !problem.isEmpty()) {
-        mailAction_->setEnabled(false);
-        mailAction_->setIconText(mailAction_->text());
-        mailAction_->setText(problem);
-        mailAction_->setToolTip(problem);
-    }
 }
 
 void MainWindow::addExportPaneAction(QMenu& menu, const QString& text, const QString& paneKey,
@@ -88,12 +82,6 @@ void MainWindow::addExportPaneAction(QMenu& menu, const QString& text, const QSt
     follow();
 }
 
-QString MainWindow::mailProblem() const {
-    return with_.exports.scriptRunner.isAvailable()
-               ? QString()
-               : localized("Mail (no mail program can be reached yet)");
-}
-
 WindowPanes::Contents MainWindow::exportPanes() {
     const WindowExports& exports = with_.exports;
     auto* report = new ReportPane(
@@ -109,9 +97,6 @@ WindowPanes::Contents MainWindow::exportPanes() {
          .mail = [this] { with_.exports.notes.sendToMail(); },
          .close = [this] { closeExportPane(&AppViewsController::turnNotesExportViewOff); }},
         this);
-    for (ExportPane* pane : {static_cast<ExportPane*>(report), static_cast<ExportPane*>(notes)}) {
-        pane->setMailProblem(mailProblem());
-    }
     exports.report.setEventTextView(
         [view = QPointer(report)] { return view ? view->shownText() : std::nullopt; });
     exports.eventNotes.setNotesTextView(

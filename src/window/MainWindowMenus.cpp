@@ -129,6 +129,7 @@ void MainWindow::makeEditMenu() {
               [this] { copyWhatHasTheFocus(with_.eventTable); });
     addAction(menu, localized("Select &All Events"), "selectAll", QKeySequence::SelectAll,
               [this] { with_.eventTable.selectAll(); });
+    menu.addAction(&with_.eventTable.openInCalendarAction());
     menu.addSeparator();
     addAction(menu, localized("&Find…"), "startSearch", QKeySequence::Find,
               [this] { searchBox_->startSearch(); });

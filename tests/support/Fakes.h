@@ -134,12 +134,13 @@ public:
     std::expected<void, QString> launch(const QString& path,
                                         const QStringList& arguments) override {
         launched.append({path, arguments});
-        return {};
+        return answer;
     }
     void terminate() override { ++terminations; }
 
     QList<QPair<QString, QStringList>> launched;
     int terminations = 0;
+    std::expected<void, QString> answer;
 };
 
 class FakeUpdater final : public SoftwareUpdater {
@@ -152,13 +153,11 @@ public:
 /// Keeps the scripts, and answers each as the test wishes.
 class FakeScriptRunner final : public ScriptRunner {
 public:
-    [[nodiscard]] bool isAvailable() const override { return isThere; }
     std::expected<void, QString> run(const QString& source) override {
         sources.append(source);
         return answer;
     }
 
-    bool isThere = true;
     QStringList sources;
     std::expected<void, QString> answer;
 };

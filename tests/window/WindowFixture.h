@@ -6,6 +6,7 @@
 #include "eventtable/ColumnLayout.h"
 #include "eventtable/EventItemTableView.h"
 #include "eventtable/EventOrder.h"
+#include "results/OpenCalendarEvent.h"
 #include "support/EventSamples.h"
 #include "support/Fakes.h"
 #include "support/MemorySettings.h"
@@ -60,6 +61,8 @@ protected:
         inspector.awakeFromNib();
         applyPlacements(defaultColumnPlacements(), *table);
         table->follow(copying);
+        table->follow(opening);
+        opening.awakeFromNib();
         results.awakeFromNib();
         resultsPane->follow(results);
         columnLayouts.awakeFromNib();
@@ -80,7 +83,6 @@ protected:
                           exportTSV,
                           exportTXT,
                           exportNotes,
-                          scripts,
                           report,
                           {reportQueue, main, formats, gregorian},
                           notes},
@@ -171,6 +173,7 @@ protected:
     FakePasteboard pasteboard;
     EventItemTableView copying{{events, *table, fields, pasteboard}};
     FakeScriptRunner scripts;
+    OpenCalendarEvent opening{{settings, events, scripts}};
     FakeInstalledPrograms installed;
     FakeTextColor textColor;
     FakeQueue reportQueue;

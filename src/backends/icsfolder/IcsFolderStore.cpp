@@ -1,6 +1,7 @@
 #include "backends/icsfolder/IcsFolderStore.h"
 
 #include "backends/icsfolder/CalendarSources.h"
+#include "backends/icsfolder/EventFiles.h"
 #include "backends/icsfolder/FolderLoader.h"
 #include "platform/Localized.h"
 
@@ -71,6 +72,14 @@ std::expected<void, QString> IcsFolderStore::addCalendar(const QString& path) {
         return std::unexpected(localized("The folder “%1” cannot be reached.").arg(rootPath_));
     }
     return linkCalendar(rootPath_, path);
+}
+
+QString IcsFolderStore::fileOf(const QString& calendarIdentifier,
+                               const QString& eventIdentifier) const {
+    return access_.status() == AuthorizationStatus::Authorized
+               ? findEventFile(QFile::encodeName(rootPath_).toStdString(), calendarIdentifier,
+                               eventIdentifier, zone_)
+               : QString();
 }
 
 FolderLoader* IcsFolderStore::loader() const {

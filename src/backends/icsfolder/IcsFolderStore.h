@@ -45,6 +45,9 @@ public:
     /// Links a folder or an .ics file into the root folder; the change notice follows. The error is
     /// a sentence for the user.
     [[nodiscard]] std::expected<void, QString> addCalendar(const QString& path);
+    /// The file that holds an event; a null QString when none of this store's calendars has it.
+    [[nodiscard]] QString fileOf(const QString& calendarIdentifier,
+                                 const QString& eventIdentifier) const;
 
 private:
     /// The loader, which starts as soon as it may; null before. Any thread.

@@ -1,13 +1,56 @@
 #include "backends/programs/DesktopScripting.h"
 
 #include <QClipboard>
+#include <QDir>
 #include <QGuiApplication>
 #include <QPalette>
+#include <QStandardPaths>
 
 namespace quillet {
 
-std::expected<void, QString> UnavailableScriptRunner::run(const QString& /*source*/) {
-    return std::unexpected(QStringLiteral("scripts cannot be run on this desktop"));
+namespace {
+
+const QString desktopSuffix = QStringLiteral(".desktop");
+
+/// A folder that is this user's alone, and gone after the session where there is one like that.
+QString messageFolder(const EnvironmentReader& environment) {
+    const QString runtime = environment("XDG_RUNTIME_DIR");
+    return (QDir::isAbsolutePath(runtime)
+                ? runtime
+                : QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation)) +
+           QStringLiteral("/quillet");
+}
+
+} // namespace
+
+DesktopScriptRunner::DesktopScriptRunner(Collaborators collaborators)
+    : applications_(DesktopEntries(desktopFolders(collaborators.environment)),
+                    collaborators.launcher, QGuiApplication::desktopFileName() + desktopSuffix)
+    , mail_({.applications = applications_,
+             .pasteboard = collaborators.pasteboard,
+             .alerts = collaborators.alerts,
+             .messageFolder = messageFolder(collaborators.environment),
+             .portal = isInSandbox() ? &portal_ : nullptr})
+    , calendar_({.applications = applications_,
+                 .bus = bus_,
+                 .alerts = collaborators.alerts,
+                 .findEvent = std::move(collaborators.findEvent),
+                 .portal = isInSandbox() ? &portal_ : nullptr}) {}
+
+std::expected<void, QString> DesktopScriptRunner::run(const QString& source) {
+    const auto requests = requestsOfScript(source);
+    if (!requests) {
+        return std::unexpected(requests.error());
+    }
+    for (const ScriptRequest& request : *requests) {
+        const auto* message = std::get_if<MessageRequest>(&request);
+        const auto result = message != nullptr ? mail_.compose(*message)
+                                               : calendar_.show(std::get<EventRequest>(request));
+        if (!result) {
+            return result;
+        }
+    }
+    return {};
 }
 
 QString PackagedPrograms::shortVersion(const QString& /*path*/) const {

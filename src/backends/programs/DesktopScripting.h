@@ -1,5 +1,7 @@
 #pragma once
 
+#include "backends/programs/CalendarPrograms.h"
+#include "backends/programs/MailPrograms.h"
 #include "platform/InstalledPrograms.h"
 #include "platform/Pasteboard.h"
 #include "platform/ScriptRunner.h"
@@ -7,11 +9,29 @@
 
 namespace quillet {
 
-/// For desktops on which no program takes scripts: none is ever run.
-class UnavailableScriptRunner final : public ScriptRunner {
+/// Runs scripts by asking the desktop's own programs for what the scripts want.
+class DesktopScriptRunner final : public ScriptRunner {
 public:
-    [[nodiscard]] bool isAvailable() const override { return false; }
+    struct Collaborators {
+        TaskLauncher& launcher;
+        Pasteboard& pasteboard;
+        AlertPresenter& alerts;
+        CalendarPrograms::FindEvent findEvent;
+        EnvironmentReader environment = processEnvironment();
+    };
+
+    explicit DesktopScriptRunner(Collaborators collaborators);
+
+    /// A script that is malformed asks for nothing. The error is that of the first request that
+    /// failed, after which no other is tried.
     std::expected<void, QString> run(const QString& source) override;
+
+private:
+    SessionBusPortal portal_;
+    SessionCalendarBus bus_;
+    Applications applications_;
+    MailPrograms mail_;
+    CalendarPrograms calendar_;
 };
 
 /// Programs here are packages, which have no short version to ask for by a path.

@@ -9,14 +9,6 @@
 
 namespace quillet {
 
-TEST(DesktopScriptingTest, ARunnerThatIsNotThereSaysSoAndRunsNothing) {
-    UnavailableScriptRunner runner;
-    EXPECT_FALSE(runner.isAvailable());
-    const auto result = runner.run("tell application \"Mail\"\nend tell");
-    ASSERT_FALSE(result);
-    EXPECT_EQ(result.error(), QStringLiteral("scripts cannot be run on this desktop"));
-}
-
 TEST(DesktopScriptingTest, NoProgramHasAShortVersion) {
     EXPECT_TRUE(PackagedPrograms().shortVersion("/Applications/Safari.app").isNull());
     EXPECT_TRUE(PackagedPrograms().shortVersion("/usr/bin/env").isNull());

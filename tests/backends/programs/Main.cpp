@@ -6,6 +6,9 @@
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    // No program of the developer's own session is to answer.
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
+    qputenv("LC_ALL", "C.UTF-8");
     testing::InitGoogleTest(&argc, argv);
     const QGuiApplication application(argc, argv);
     quillet::test::failOnUnexpectedLog();

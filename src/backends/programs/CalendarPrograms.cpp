@@ -1,0 +1,117 @@
+#include "backends/programs/CalendarPrograms.h"
+
+#include "platform/Localized.h"
+
+#include <QUrl>
+
+#include <algorithm>
+#include <tuple>
+
+namespace quillet {
+
+namespace {
+
+enum class Program { Evolution, GnomeCalendar, KdeCalendar, Other };
+
+Program programOf(const DesktopEntry& entry) {
+    if (entry.id == u"org.gnome.Evolution.desktop") {
+        return Program::Evolution;
+    }
+    if (entry.id == u"org.gnome.Calendar.desktop") {
+        return Program::GnomeCalendar;
+    }
+    const bool isKde = entry.id.startsWith(u"org.kde.") &&
+                       (entry.id.contains(u"korganizer") || entry.id.contains(u"kalendar") ||
+                        entry.id.contains(u"merkuro"));
+    return isKde ? Program::KdeCalendar : Program::Other;
+}
+
+std::unexpected<QString> noEventThere() {
+    return std::unexpected(QStringLiteral("the event is in no place that others can open"));
+}
+
+} // namespace
+
+QString calendarAddress(const QString& serviceCalendar, const QString& uid) {
+    const auto encoded = [](const QString& text) {
+        return QString::fromLatin1(QUrl::toPercentEncoding(text));
+    };
+    return QStringLiteral("calendar:///?source-uid=") + encoded(serviceCalendar) +
+           QStringLiteral("&comp-uid=") + encoded(uid);
+}
+
+std::expected<void, QString> CalendarPrograms::show(const EventRequest& request) const {
+    const EventPlace place = with_.findEvent(request);
+    if (!place.serviceCalendar.isEmpty()) {
+        return showOfService(place, request.eventIdentifier);
+    }
+    return place.file.isEmpty() ? noEventThere() : openFile(place.file);
+}
+
+std::expected<void, QString> CalendarPrograms::showOfService(const EventPlace& place,
+                                                             const QString& uid) const {
+    if (with_.portal != nullptr) {
+        return with_.portal->openAddress(calendarAddress(place.serviceCalendar, uid));
+    }
+    auto entries = with_.applications.handlers(QStringLiteral("text/calendar"));
+    std::ranges::move(with_.applications.handlers(QStringLiteral("x-scheme-handler/calendar")),
+                      std::back_inserter(entries));
+    // The service is these programs' own; the others know its events only if they share an account.
+    std::ranges::stable_partition(entries, [](const DesktopEntry& entry) {
+        return programOf(entry) != Program::KdeCalendar;
+    });
+    std::expected<void, QString> result = std::unexpected(QString());
+    bool isAnyKnown = false;
+    for (const DesktopEntry& entry : entries) {
+        if (programOf(entry) == Program::Other) {
+            continue;
+        }
+        isAnyKnown = true;
+        result = showIn(entry, place, uid);
+        if (result) {
+            return result;
+        }
+    }
+    return isAnyKnown ? result : noProgram();
+}
+
+std::expected<void, QString> CalendarPrograms::showIn(const DesktopEntry& entry,
+                                                      const EventPlace& place,
+                                                      const QString& uid) const {
+    switch (programOf(entry)) {
+    case Program::Evolution:
+        return with_.applications.open(entry, calendarAddress(place.serviceCalendar, uid));
+    case Program::GnomeCalendar:
+        return with_.bus.showInGnomeCalendar(place.serviceCalendar, uid, place.start);
+    case Program::KdeCalendar: {
+        const QString service = entry.id.chopped(QLatin1StringView(".desktop").size());
+        const auto result = with_.bus.showInKdeCalendar(service, uid, place.start);
+        // One that does not run may have no way of being started over the bus.
+        return result ? result : with_.applications.start(entry, {});
+    }
+    case Program::Other:
+        break;
+    }
+    return std::unexpected(QString());
+}
+
+std::expected<void, QString> CalendarPrograms::openFile(const QString& path) const {
+    if (with_.portal != nullptr) {
+        return with_.portal->openFile(path);
+    }
+    const auto entries = with_.applications.handlers(QStringLiteral("text/calendar"));
+    return entries.empty() ? noProgram() : with_.applications.open(entries.front(), path);
+}
+
+std::expected<void, QString> CalendarPrograms::noProgram() const {
+    std::ignore = with_.alerts.runModal(
+        {.style = AlertStyle::Warning,
+         .messageText = localized("No calendar program is set up"),
+         .informativeText =
+             localized("Install a calendar program, or choose one among the default applications "
+                       "of your desktop, to open events in it."),
+         .buttonTitles = {localized("OK")}});
+    return std::unexpected(QStringLiteral("no calendar program"));
+}
+
+} // namespace quillet

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "backends/programs/Applications.h"
+#include "backends/programs/CalendarBus.h"
+#include "backends/programs/DesktopPortal.h"
+#include "backends/scripts/ScriptRequests.h"
+#include "platform/Alert.h"
+
+#include <QDateTime>
+
+#include <expected>
+#include <functional>
+#include <optional>
+
+namespace quillet {
+
+/// Where an event is to be found by other programs.
+struct EventPlace {
+    /// The identifier under which the desktop's calendar service knows its calendar; empty when
+    /// that is not one of the service's.
+    QString serviceCalendar;
+    /// The iCalendar file that holds it; empty when it is in none.
+    QString file;
+    /// Local time.
+    std::optional<QDateTime> start;
+};
+
+/// Asks the user's calendar program to show an event.
+class CalendarPrograms {
+public:
+    using FindEvent = std::function<EventPlace(const EventRequest& request)>;
+
+    struct Collaborators {
+        const Applications& applications;
+        CalendarBus& bus;
+        AlertPresenter& alerts;
+        FindEvent findEvent;
+        /// In a sandbox; null outside.
+        DesktopPortal* portal = nullptr;
+    };
+
+    explicit CalendarPrograms(Collaborators collaborators)
+        : with_(std::move(collaborators)) {}
+
+    /// Shows the event in the user's preferred program of those that can show one. An event that
+    /// comes from a file is opened as that file. The user is told when there is no program for
+    /// calendars at all; any other error is a text for the log alone.
+    std::expected<void, QString> show(const EventRequest& request) const;
+
+private:
+    [[nodiscard]] std::expected<void, QString> showOfService(const EventPlace& place,
+                                                             const QString& uid) const;
+    [[nodiscard]] std::expected<void, QString>
+    showIn(const DesktopEntry& entry, const EventPlace& place, const QString& uid) const;
+    [[nodiscard]] std::expected<void, QString> openFile(const QString& path) const;
+    [[nodiscard]] std::expected<void, QString> noProgram() const;
+
+    Collaborators with_;
+};
+
+/// The address under which Evolution opens an event of the calendar service.
+[[nodiscard]] QString calendarAddress(const QString& serviceCalendar, const QString& uid);
+
+} // namespace quillet

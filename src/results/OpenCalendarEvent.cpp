@@ -1,0 +1,57 @@
+#include "results/OpenCalendarEvent.h"
+
+#include "platform/Logging.h"
+
+#include <QStringList>
+
+namespace quillet {
+
+namespace {
+
+const QString progressKey = QStringLiteral("isProgressIndicatorOn");
+
+} // namespace
+
+QString showEventScript(const QString& calendarIdentifier,
+                        const QString& calendarItemExternalIdentifier) {
+    const QStringList lines{
+        "tell application \"Calendar\"",
+        "set vCalendar to (first calendar whose uid is \"" + calendarIdentifier + "\")",
+        "tell vCalendar",
+        "set vEventInfo to (first event whose uid is \"" + calendarItemExternalIdentifier + "\")",
+        "activate",
+        "switch view to day view",
+        "show vEventInfo",
+        "end tell",
+        "end tell"};
+    const QString indent(19, u' ');
+    return indent + lines.join(u'\n' + indent);
+}
+
+OpenCalendarEvent::OpenCalendarEvent(const Collaborators& collaborators)
+    : with_(collaborators) {}
+
+void OpenCalendarEvent::awakeFromNib() {
+    connect(&with_.eventsArrayController, &ListControllerNotices::selectedObjectsChanged, this,
+            &OpenCalendarEvent::isOpenInCalendarEnabledChanged);
+}
+
+bool OpenCalendarEvent::isOpenInCalendarEnabled() const {
+    return with_.eventsArrayController.selectedRows().size() < 2;
+}
+
+void OpenCalendarEvent::openEventInCalendar() {
+    with_.settings.setObject(progressKey, true);
+    if (with_.eventsArrayController.selectedRows().size() != 1) {
+        return;
+    }
+    const Event event = with_.eventsArrayController.selectedObjects().front();
+    const auto result = with_.scriptRunner.run(showEventScript(
+        event.details->calendar->calendarIdentifier, event.details->eventIdentifier));
+    if (!result) {
+        qCWarning(quilletLog).noquote() << "it was an error";
+    }
+    with_.settings.setObject(progressKey, false);
+}
+
+} // namespace quillet

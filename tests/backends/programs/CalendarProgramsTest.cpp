@@ -1,0 +1,216 @@
+#include "backends/programs/CalendarPrograms.h"
+
+#include "ScratchDesktop.h"
+
+#include <QTimeZone>
+
+namespace quillet {
+
+namespace {
+
+class FakeBus final : public CalendarBus {
+public:
+    std::expected<void, QString>
+    showInGnomeCalendar(const QString& serviceCalendar, const QString& uid,
+                        const std::optional<QDateTime>& start) override {
+        calls.append("gnome " + serviceCalendar + ' ' + uid + ' ' +
+                     (start ? start->toString(Qt::ISODate) : QString()));
+        return gnomeAnswer;
+    }
+    std::expected<void, QString> showInKdeCalendar(const QString& service, const QString& uid,
+                                                   const std::optional<QDateTime>&) override {
+        calls.append("kde " + service + ' ' + uid);
+        return kdeAnswer;
+    }
+
+    QStringList calls;
+    std::expected<void, QString> gnomeAnswer;
+    std::expected<void, QString> kdeAnswer;
+};
+
+class FakePortal final : public DesktopPortal {
+public:
+    std::expected<void, QString> composeEmail(const QString&, const QString&) override {
+        return {};
+    }
+    std::expected<void, QString> openAddress(const QString& address) override {
+        opened.append(address);
+        return {};
+    }
+    std::expected<void, QString> openFile(const QString& path) override {
+        opened.append(path);
+        return {};
+    }
+
+    QStringList opened;
+};
+
+const QString type = QStringLiteral("text/calendar");
+
+class CalendarProgramsTest : public testing::Test {
+protected:
+    std::expected<void, QString> show(const QString& uid = "a \"b\"%20&c\n'$(d)") {
+        return CalendarPrograms({.applications = applications,
+                                 .bus = bus,
+                                 .alerts = alerts,
+                                 .findEvent = [this](const EventRequest&) { return place; },
+                                 .portal = sandbox})
+            .show({"calendar", uid});
+    }
+    void installEvolution() {
+        desktop.install("org.gnome.Evolution.desktop", "evolution %U",
+                        "text/calendar;x-scheme-handler/calendar");
+    }
+    void installGnomeCalendar() {
+        desktop.install("org.gnome.Calendar.desktop", "gnome-calendar %U", type);
+    }
+    void choose(const QString& id) {
+        desktop.write("config/mimeapps.list", "[Default Applications]\ntext/calendar=" + id);
+    }
+
+    test::ScratchDesktop desktop;
+    test::FakeTaskLauncher launcher;
+    test::FakeAlerts alerts;
+    FakeBus bus;
+    FakePortal portal;
+    DesktopPortal* sandbox = nullptr;
+    Applications applications = desktop.applications(launcher);
+    EventPlace place{.serviceCalendar = "source 1",
+                     .file = {},
+                     .start = QDateTime(QDate(2024, 3, 6), QTime(10, 0), Qt::UTC)};
+};
+
+} // namespace
+
+TEST_F(CalendarProgramsTest, EvolutionOpensAnEventOfTheServiceByItsAddress) {
+    installEvolution();
+    ASSERT_TRUE(show());
+    ASSERT_EQ(launcher.launched.size(), 1);
+    EXPECT_EQ(launcher.launched.front().first, desktop.path("bin/evolution"));
+    EXPECT_EQ(launcher.launched.front().second,
+              QStringList{"calendar:///?source-uid=source%201&comp-uid="
+                          "a%20%22b%22%2520%26c%0A%27%24%28d%29"});
+    EXPECT_TRUE(bus.calls.isEmpty());
+}
+
+TEST_F(CalendarProgramsTest, GnomeCalendarIsToldTheDayAsWell) {
+    installEvolution();
+    installGnomeCalendar();
+    choose("org.gnome.Calendar.desktop");
+    ASSERT_TRUE(show("uid"));
+    EXPECT_EQ(bus.calls, QStringList{"gnome source 1 uid 2024-03-06T10:00:00Z"});
+    EXPECT_TRUE(launcher.launched.isEmpty());
+}
+
+TEST_F(CalendarProgramsTest, TheUsersChoiceDecidesAmongProgramsThatCanShowOneEvent) {
+    installEvolution();
+    installGnomeCalendar();
+    desktop.install("import.desktop", "import %u", type);
+    choose("org.gnome.Evolution.desktop");
+    ASSERT_TRUE(show("uid"));
+    EXPECT_EQ(launcher.launched.size(), 1);
+    EXPECT_TRUE(bus.calls.isEmpty());
+    // One that could only import the event again is not asked.
+    choose("import.desktop");
+    ASSERT_TRUE(show("uid"));
+    EXPECT_EQ(bus.calls.size(), 1);
+    EXPECT_EQ(launcher.launched.size(), 1);
+}
+
+TEST_F(CalendarProgramsTest, AProgramThatFailsLeavesItToTheNext) {
+    installEvolution();
+    installGnomeCalendar();
+    choose("org.gnome.Calendar.desktop");
+    bus.gnomeAnswer = std::unexpected(QStringLiteral("no service"));
+    ASSERT_TRUE(show("uid"));
+    EXPECT_EQ(bus.calls.size(), 1);
+    EXPECT_EQ(launcher.launched.size(), 1);
+    launcher.answer = std::unexpected(QStringLiteral("no memory"));
+    EXPECT_TRUE(show("uid").error().contains("cannot be run"));
+    EXPECT_TRUE(alerts.shown.empty());
+}
+
+TEST_F(CalendarProgramsTest, KdeProgramsAreAskedByTheirNamesAndAfterThoseOfTheService) {
+    desktop.install("org.kde.korganizer.desktop", "korganizer %U", type);
+    ASSERT_TRUE(show("uid"));
+    EXPECT_EQ(bus.calls, QStringList{"kde org.kde.korganizer uid"});
+    desktop.install("org.kde.merkuro.calendar.desktop", "merkuro-calendar %u", type);
+    choose("org.kde.merkuro.calendar.desktop");
+    ASSERT_TRUE(show("uid"));
+    EXPECT_EQ(bus.calls.last(), QStringLiteral("kde org.kde.merkuro.calendar uid"));
+    installGnomeCalendar();
+    ASSERT_TRUE(show("uid"));
+    EXPECT_TRUE(bus.calls.last().startsWith("gnome"));
+}
+
+TEST_F(CalendarProgramsTest, AKdeProgramThatDoesNotAnswerIsAtLeastStarted) {
+    desktop.install("org.kde.kalendar.desktop", "kalendar %u", type);
+    bus.kdeAnswer = std::unexpected(QStringLiteral("no such name"));
+    ASSERT_TRUE(show("uid"));
+    ASSERT_EQ(launcher.launched.size(), 1);
+    EXPECT_EQ(launcher.launched.front().first, desktop.path("bin/kalendar"));
+    EXPECT_EQ(launcher.launched.front().second, QStringList());
+}
+
+TEST_F(CalendarProgramsTest, AnEventOfAFileIsOpenedAsThatFile) {
+    installGnomeCalendar();
+    place = {.serviceCalendar = {}, .file = "/calendars/my work/it's 100%.ics", .start = {}};
+    ASSERT_TRUE(show());
+    EXPECT_EQ(launcher.launched.front().first, desktop.path("bin/gnome-calendar"));
+    EXPECT_EQ(launcher.launched.front().second, QStringList{"/calendars/my work/it's 100%.ics"});
+    EXPECT_TRUE(bus.calls.isEmpty());
+}
+
+TEST_F(CalendarProgramsTest, ThisProgramIsNeverAskedToOpenItsOwnFile) {
+    desktop.install("org.example.This.desktop", "this %u", type);
+    choose("org.example.This.desktop");
+    place = {.serviceCalendar = {}, .file = "/a.ics", .start = {}};
+    EXPECT_FALSE(show());
+    EXPECT_TRUE(launcher.launched.isEmpty());
+    installEvolution();
+    ASSERT_TRUE(show());
+    EXPECT_EQ(launcher.launched.front().first, desktop.path("bin/evolution"));
+}
+
+TEST_F(CalendarProgramsTest, WithoutAnyCalendarProgramTheUserIsToldOnce) {
+    EXPECT_EQ(show("uid").error(), QStringLiteral("no calendar program"));
+    ASSERT_EQ(alerts.shown.size(), 1U);
+    EXPECT_EQ(alerts.shown.front().messageText, QStringLiteral("No calendar program is set up"));
+    place = {.serviceCalendar = {}, .file = "/a.ics", .start = {}};
+    EXPECT_EQ(show("uid").error(), QStringLiteral("no calendar program"));
+    EXPECT_EQ(alerts.shown.size(), 2U);
+}
+
+TEST_F(CalendarProgramsTest, AnEventThatIsInNoPlaceIsNoMatterForTheUser) {
+    installEvolution();
+    place = {};
+    EXPECT_FALSE(show());
+    EXPECT_TRUE(launcher.launched.isEmpty());
+    EXPECT_TRUE(alerts.shown.empty());
+}
+
+TEST_F(CalendarProgramsTest, InASandboxThePortalOpensAddressesAndFiles) {
+    installEvolution();
+    sandbox = &portal;
+    ASSERT_TRUE(show("uid"));
+    place = {.serviceCalendar = {}, .file = "/a b.ics", .start = {}};
+    ASSERT_TRUE(show("uid"));
+    EXPECT_EQ(portal.opened,
+              (QStringList{"calendar:///?source-uid=source%201&comp-uid=uid", "/a b.ics"}));
+    EXPECT_TRUE(launcher.launched.isEmpty());
+}
+
+TEST(CalendarBusTest, WithoutASessionBusNothingIsShownAndTheReasonSaid) {
+    SessionCalendarBus bus;
+    const auto gnome = bus.showInGnomeCalendar("a", "b", {});
+    ASSERT_FALSE(gnome);
+    EXPECT_FALSE(gnome.error().isEmpty());
+    EXPECT_FALSE(bus.showInKdeCalendar("org.kde.korganizer", "b", {}));
+}
+
+TEST(CalendarBusTest, DatesAreWrittenAsTheProgramReadsThemInEnglish) {
+    const QDateTime start(QDate(2024, 3, 6), QTime(9, 5));
+    EXPECT_EQ(gnomeCalendarDate(start), QStringLiteral("03/06/2024 09:05"));
+}
+
+} // namespace quillet
