@@ -476,8 +476,28 @@
         <translation>In Titeln, Notizen, Orten und Kalendern, für Programme, die jede Zeile für einen Termin halten</translation>
     </message>
     <message>
+        <source>Install a calendar program, or choose one among the default applications of your desktop, to open events in it.</source>
+        <translation>Installieren Sie ein Kalenderprogramm oder wählen Sie eines unter den Standardanwendungen Ihres Desktops, um Termine darin zu öffnen.</translation>
+    </message>
+    <message>
+        <source>Install a mail program, or choose one among the default applications of your desktop, and press Mail again.</source>
+        <translation>Installieren Sie ein E-Mail-Programm oder wählen Sie eines unter den Standardanwendungen Ihres Desktops und klicken Sie erneut auf E-Mail.</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>es ist keine Datei</translation>
+    </message>
+    <message>
+        <source>It is not installed.</source>
+        <translation>Es ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>It is on the clipboard: paste it into the new message.</source>
+        <translation>Er liegt in der Zwischenablage: Fügen Sie ihn in die neue Nachricht ein.</translation>
+    </message>
+    <message>
+        <source>Its desktop entry is malformed.</source>
+        <translation>Sein Starteintrag ist fehlerhaft.</translation>
     </message>
     <message>
         <source>Keeps all this under a name, and brings it back</source>
@@ -538,10 +558,6 @@
     <message>
         <source>Mail</source>
         <translation>E-Mail</translation>
-    </message>
-    <message>
-        <source>Mail (no mail program can be reached yet)</source>
-        <translation>E-Mail (noch ist kein E-Mail-Programm erreichbar)</translation>
     </message>
     <message>
         <source>Max</source>
@@ -608,6 +624,10 @@
         <translation>Kein Kalender ist ausgewählt</translation>
     </message>
     <message>
+        <source>No calendar program is set up</source>
+        <translation>Es ist kein Kalenderprogramm eingerichtet</translation>
+    </message>
+    <message>
         <source>No calendars</source>
         <translation>Keine Kalender</translation>
     </message>
@@ -618,6 +638,14 @@
     <message>
         <source>No events in this period</source>
         <translation>Keine Termine in diesem Zeitraum</translation>
+    </message>
+    <message>
+        <source>No mail program could be reached</source>
+        <translation>Es war kein E-Mail-Programm erreichbar</translation>
+    </message>
+    <message>
+        <source>No mail program is set up</source>
+        <translation>Es ist kein E-Mail-Programm eingerichtet</translation>
     </message>
     <message>
         <source>not a calendar file</source>
@@ -670,6 +698,10 @@
     <message>
         <source>Only files on this computer can be added as calendars.</source>
         <translation>Nur Dateien auf diesem Rechner können als Kalender hinzugefügt werden.</translation>
+    </message>
+    <message>
+        <source>&amp;Open in Calendar</source>
+        <translation>Im Kalender ö&amp;ffnen</translation>
     </message>
     <message>
         <source>Open Software Centre</source>
@@ -1050,8 +1082,16 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Die Tabelle hat diese Spalte nur, solange Beträge gezeigt werden</translation>
     </message>
     <message>
+        <source>The text cannot be written to “%1”: %2</source>
+        <translation>Der Text lässt sich nicht in „%1“ schreiben: %2</translation>
+    </message>
+    <message>
         <source>the text is not a JSON object</source>
         <translation>der Text ist kein JSON-Objekt</translation>
+    </message>
+    <message>
+        <source>The text is too long to hand over to your mail program</source>
+        <translation>Der Text ist zu lang, um ihn Ihrem E-Mail-Programm zu übergeben</translation>
     </message>
     <message>
         <source>The ticked calendars have no events on these days.</source>
@@ -1214,6 +1254,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Jahr</translation>
     </message>
     <message>
+        <source>Your desktop answered: %1</source>
+        <translation>Ihr Desktop antwortete: %1</translation>
+    </message>
+    <message>
         <source>Your events appear here once you allow it.</source>
         <translation>Ihre Termine erscheinen hier, sobald Sie es erlauben.</translation>
     </message>
@@ -1224,6 +1268,14 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     <message>
         <source>“%1” cannot be read.</source>
         <translation>„%1“ ist nicht lesbar.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be run.</source>
+        <translation>„%1“ lässt sich nicht ausführen.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be started</source>
+        <translation>„%1“ konnte nicht gestartet werden</translation>
     </message>
     <message>
         <source>“%1” does not exist.</source>

@@ -476,8 +476,28 @@
         <translation>En títulos, notas, lugares y calendarios, para programas que toman cada línea por un evento</translation>
     </message>
     <message>
+        <source>Install a calendar program, or choose one among the default applications of your desktop, to open events in it.</source>
+        <translation>Instale un programa de calendario o elija uno entre las aplicaciones predeterminadas de su escritorio para abrir eventos en él.</translation>
+    </message>
+    <message>
+        <source>Install a mail program, or choose one among the default applications of your desktop, and press Mail again.</source>
+        <translation>Instale un programa de correo o elija uno entre las aplicaciones predeterminadas de su escritorio, y pulse Correo otra vez.</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>no es un archivo</translation>
+    </message>
+    <message>
+        <source>It is not installed.</source>
+        <translation>No está instalado.</translation>
+    </message>
+    <message>
+        <source>It is on the clipboard: paste it into the new message.</source>
+        <translation>Está en el portapapeles: péguelo en el mensaje nuevo.</translation>
+    </message>
+    <message>
+        <source>Its desktop entry is malformed.</source>
+        <translation>Su entrada de escritorio tiene errores.</translation>
     </message>
     <message>
         <source>Keeps all this under a name, and brings it back</source>
@@ -538,10 +558,6 @@
     <message>
         <source>Mail</source>
         <translation>Correo</translation>
-    </message>
-    <message>
-        <source>Mail (no mail program can be reached yet)</source>
-        <translation>Correo (aún no hay ningún programa de correo accesible)</translation>
     </message>
     <message>
         <source>Max</source>
@@ -608,6 +624,10 @@
         <translation>No hay ningún calendario marcado</translation>
     </message>
     <message>
+        <source>No calendar program is set up</source>
+        <translation>No hay ningún programa de calendario configurado</translation>
+    </message>
+    <message>
         <source>No calendars</source>
         <translation>No hay calendarios</translation>
     </message>
@@ -618,6 +638,14 @@
     <message>
         <source>No events in this period</source>
         <translation>No hay eventos en este periodo</translation>
+    </message>
+    <message>
+        <source>No mail program could be reached</source>
+        <translation>No se pudo contactar con ningún programa de correo</translation>
+    </message>
+    <message>
+        <source>No mail program is set up</source>
+        <translation>No hay ningún programa de correo configurado</translation>
     </message>
     <message>
         <source>not a calendar file</source>
@@ -670,6 +698,10 @@
     <message>
         <source>Only files on this computer can be added as calendars.</source>
         <translation>Solo se pueden añadir como calendarios archivos de este equipo.</translation>
+    </message>
+    <message>
+        <source>&amp;Open in Calendar</source>
+        <translation>&amp;Abrir en el calendario</translation>
     </message>
     <message>
         <source>Open Software Centre</source>
@@ -1050,8 +1082,16 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>La tabla tiene esta columna solo mientras se muestran los importes</translation>
     </message>
     <message>
+        <source>The text cannot be written to “%1”: %2</source>
+        <translation>No se puede escribir el texto en «%1»: %2</translation>
+    </message>
+    <message>
         <source>the text is not a JSON object</source>
         <translation>el texto no es un objeto JSON</translation>
+    </message>
+    <message>
+        <source>The text is too long to hand over to your mail program</source>
+        <translation>El texto es demasiado largo para entregarlo a su programa de correo</translation>
     </message>
     <message>
         <source>The ticked calendars have no events on these days.</source>
@@ -1214,6 +1254,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Año</translation>
     </message>
     <message>
+        <source>Your desktop answered: %1</source>
+        <translation>Su escritorio respondió: %1</translation>
+    </message>
+    <message>
         <source>Your events appear here once you allow it.</source>
         <translation>Sus eventos aparecerán aquí en cuanto lo permita.</translation>
     </message>
@@ -1224,6 +1268,14 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>“%1” cannot be read.</source>
         <translation>«%1» no se puede leer.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be run.</source>
+        <translation>No se puede ejecutar «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” could not be started</source>
+        <translation>No se pudo iniciar «%1»</translation>
     </message>
     <message>
         <source>“%1” does not exist.</source>

@@ -476,8 +476,28 @@
         <translation>Dans les titres, notes, lieux et calendriers, pour les programmes qui prennent chaque ligne pour un événement</translation>
     </message>
     <message>
+        <source>Install a calendar program, or choose one among the default applications of your desktop, to open events in it.</source>
+        <translation>Installez un logiciel de calendrier, ou choisissez-en un parmi les applications par défaut de votre bureau, pour y ouvrir des événements.</translation>
+    </message>
+    <message>
+        <source>Install a mail program, or choose one among the default applications of your desktop, and press Mail again.</source>
+        <translation>Installez un logiciel de messagerie, ou choisissez-en un parmi les applications par défaut de votre bureau, puis cliquez de nouveau sur Courriel.</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>ce n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>It is not installed.</source>
+        <translation>Il n’est pas installé.</translation>
+    </message>
+    <message>
+        <source>It is on the clipboard: paste it into the new message.</source>
+        <translation>Il est dans le presse-papiers : collez-le dans le nouveau message.</translation>
+    </message>
+    <message>
+        <source>Its desktop entry is malformed.</source>
+        <translation>Son fichier de lancement est mal formé.</translation>
     </message>
     <message>
         <source>Keeps all this under a name, and brings it back</source>
@@ -538,10 +558,6 @@
     <message>
         <source>Mail</source>
         <translation>Courriel</translation>
-    </message>
-    <message>
-        <source>Mail (no mail program can be reached yet)</source>
-        <translation>Courriel (aucun logiciel de messagerie n’est encore accessible)</translation>
     </message>
     <message>
         <source>Max</source>
@@ -608,6 +624,10 @@
         <translation>Aucun calendrier n’est coché</translation>
     </message>
     <message>
+        <source>No calendar program is set up</source>
+        <translation>Aucun logiciel de calendrier n’est configuré</translation>
+    </message>
+    <message>
         <source>No calendars</source>
         <translation>Aucun calendrier</translation>
     </message>
@@ -618,6 +638,14 @@
     <message>
         <source>No events in this period</source>
         <translation>Aucun événement dans cette période</translation>
+    </message>
+    <message>
+        <source>No mail program could be reached</source>
+        <translation>Aucun logiciel de messagerie n’a pu être joint</translation>
+    </message>
+    <message>
+        <source>No mail program is set up</source>
+        <translation>Aucun logiciel de messagerie n’est configuré</translation>
     </message>
     <message>
         <source>not a calendar file</source>
@@ -670,6 +698,10 @@
     <message>
         <source>Only files on this computer can be added as calendars.</source>
         <translation>Seuls des fichiers de cet ordinateur peuvent être ajoutés comme calendriers.</translation>
+    </message>
+    <message>
+        <source>&amp;Open in Calendar</source>
+        <translation>&amp;Ouvrir dans le calendrier</translation>
     </message>
     <message>
         <source>Open Software Centre</source>
@@ -1050,8 +1082,16 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Le tableau n’a cette colonne que lorsque les montants sont affichés</translation>
     </message>
     <message>
+        <source>The text cannot be written to “%1”: %2</source>
+        <translation>Le texte ne peut pas être écrit dans « %1 » : %2</translation>
+    </message>
+    <message>
         <source>the text is not a JSON object</source>
         <translation>le texte n’est pas un objet JSON</translation>
+    </message>
+    <message>
+        <source>The text is too long to hand over to your mail program</source>
+        <translation>Le texte est trop long pour être transmis à votre logiciel de messagerie</translation>
     </message>
     <message>
         <source>The ticked calendars have no events on these days.</source>
@@ -1214,6 +1254,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Année</translation>
     </message>
     <message>
+        <source>Your desktop answered: %1</source>
+        <translation>Votre bureau a répondu : %1</translation>
+    </message>
+    <message>
         <source>Your events appear here once you allow it.</source>
         <translation>Vos événements s’affichent ici dès que vous l’autorisez.</translation>
     </message>
@@ -1224,6 +1268,14 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>“%1” cannot be read.</source>
         <translation>« %1 » est illisible.</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be run.</source>
+        <translation>« %1 » ne peut pas être exécuté.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be started</source>
+        <translation>« %1 » n’a pas pu être démarré</translation>
     </message>
     <message>
         <source>“%1” does not exist.</source>

@@ -476,8 +476,28 @@
         <translation>各行を 1 つの予定とみなすプログラムのために、タイトル、メモ、場所、カレンダーの改行を置き換えます</translation>
     </message>
     <message>
+        <source>Install a calendar program, or choose one among the default applications of your desktop, to open events in it.</source>
+        <translation>予定を開くには、カレンダーソフトをインストールするか、デスクトップの既定のアプリで選んでください。</translation>
+    </message>
+    <message>
+        <source>Install a mail program, or choose one among the default applications of your desktop, and press Mail again.</source>
+        <translation>メールソフトをインストールするか、デスクトップの既定のアプリで選び、もう一度「メール」を押してください。</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>It is not installed.</source>
+        <translation>インストールされていません。</translation>
+    </message>
+    <message>
+        <source>It is on the clipboard: paste it into the new message.</source>
+        <translation>クリップボードにコピーしました。新しいメッセージに貼り付けてください。</translation>
+    </message>
+    <message>
+        <source>Its desktop entry is malformed.</source>
+        <translation>起動用ファイルに誤りがあります。</translation>
     </message>
     <message>
         <source>Keeps all this under a name, and brings it back</source>
@@ -538,10 +558,6 @@
     <message>
         <source>Mail</source>
         <translation>メール</translation>
-    </message>
-    <message>
-        <source>Mail (no mail program can be reached yet)</source>
-        <translation>メール (利用できるメールソフトがまだありません)</translation>
     </message>
     <message>
         <source>Max</source>
@@ -608,6 +624,10 @@
         <translation>チェックされたカレンダーがありません</translation>
     </message>
     <message>
+        <source>No calendar program is set up</source>
+        <translation>カレンダーソフトが設定されていません</translation>
+    </message>
+    <message>
         <source>No calendars</source>
         <translation>カレンダーがありません</translation>
     </message>
@@ -618,6 +638,14 @@
     <message>
         <source>No events in this period</source>
         <translation>この期間に予定はありません</translation>
+    </message>
+    <message>
+        <source>No mail program could be reached</source>
+        <translation>メールソフトに接続できませんでした</translation>
+    </message>
+    <message>
+        <source>No mail program is set up</source>
+        <translation>メールソフトが設定されていません</translation>
     </message>
     <message>
         <source>not a calendar file</source>
@@ -670,6 +698,10 @@
     <message>
         <source>Only files on this computer can be added as calendars.</source>
         <translation>カレンダーとして追加できるのは、このコンピューター上のファイルだけです。</translation>
+    </message>
+    <message>
+        <source>&amp;Open in Calendar</source>
+        <translation>カレンダーで開く(&amp;O)</translation>
     </message>
     <message>
         <source>Open Software Centre</source>
@@ -1050,8 +1082,16 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>この列は金額の表示中だけ表に現れます</translation>
     </message>
     <message>
+        <source>The text cannot be written to “%1”: %2</source>
+        <translation>テキストを「%1」に書き込めません: %2</translation>
+    </message>
+    <message>
         <source>the text is not a JSON object</source>
         <translation>テキストが JSON オブジェクトではありません</translation>
+    </message>
+    <message>
+        <source>The text is too long to hand over to your mail program</source>
+        <translation>テキストが長すぎてメールソフトに渡せません</translation>
     </message>
     <message>
         <source>The ticked calendars have no events on these days.</source>
@@ -1214,6 +1254,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>年</translation>
     </message>
     <message>
+        <source>Your desktop answered: %1</source>
+        <translation>デスクトップからの応答: %1</translation>
+    </message>
+    <message>
         <source>Your events appear here once you allow it.</source>
         <translation>許可すると、ここに予定が表示されます。</translation>
     </message>
@@ -1224,6 +1268,14 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>“%1” cannot be read.</source>
         <translation>「%1」を読み取れません。</translation>
+    </message>
+    <message>
+        <source>“%1” cannot be run.</source>
+        <translation>「%1」を実行できません。</translation>
+    </message>
+    <message>
+        <source>“%1” could not be started</source>
+        <translation>「%1」を起動できませんでした</translation>
     </message>
     <message>
         <source>“%1” does not exist.</source>
