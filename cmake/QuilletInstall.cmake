@@ -11,7 +11,7 @@ install(FILES ${share}/${identifier}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DA
 install(DIRECTORY ${share}/icons/hicolor DESTINATION ${CMAKE_INSTALL_DATADIR}/icons)
 install(FILES "${share}/Release Notes.rtf" DESTINATION ${CMAKE_INSTALL_DATADIR}/quillet)
 install(PROGRAMS ${share}/sample/make-sample-home
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/quillet/sample)
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/quillet/examples)
 install(FILES ${share}/quillet.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
 # The bus starts the program by its path, which only the installation knows.

@@ -4,6 +4,7 @@
 #include "eventtable/ColumnLayout.h"
 #include "platform/Localized.h"
 
+#include <QCoreApplication>
 #include <QSettings>
 #include <QTimer>
 
@@ -86,7 +87,15 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
     , reportFormats_(locales_, timeZone_)
     , reportCalendar_(locales_.time, timeZone_, CalendarSystem::Gregorian)
     , reportQueue_(makeBackgroundQueue(QStringLiteral("org.quillet.Quillet.textReport")))
-    , appDelegate_({settings_, workspace_, taskLauncher_, dialogs_, toolbarItems(exportItems_),
+    , updateDialogs_(formats_)
+    , updater_({.presenter = updateDialogs_,
+                .address = releaseListAddress(),
+                .installedVersion = QCoreApplication::applicationVersion(),
+                .languages = paths.languages,
+                .openSoftwareCentre = openSoftwareCentre,
+                .security = QSslConfiguration::defaultConfiguration(),
+                .limits = ReleaseListUpdater::usualLimits})
+    , appDelegate_({settings_, workspace_, taskLauncher_, updater_, toolbarItems(exportItems_),
                     paths.releaseNotes})
     , activation_([this] { eventKitManager_.becomeActive(); }) {}
 
@@ -119,6 +128,7 @@ void Program::start() {
                                                                      menuTimeColumns_,
                                                                      calendarActions()});
     dialogs_.setWindow(window_.get());
+    updateDialogs_.setWindow(window_.get());
     connectNotices();
     appDelegate_.awakeFromNib();
     appDelegate_.applicationDidFinishLaunching();

@@ -10,6 +10,7 @@
 #include "backends/programs/DesktopPrograms.h"
 #include "backends/programs/DesktopScripting.h"
 #include "backends/settingsfile/SettingsFile.h"
+#include "backends/updates/ReleaseListUpdater.h"
 #include "calendars/CalendarGroupsArrayController.h"
 #include "calendars/CalendarGroupsController.h"
 #include "eventtable/ColumnLayoutsArrayController.h"
@@ -30,15 +31,18 @@
 #include "window/InterfaceActions.h"
 #include "window/MainWindow.h"
 #include "window/ResultsPane.h"
+#include "window/UpdateDialogs.h"
 
 namespace quillet {
 
-/// Where the program keeps its files.
+/// Where the program keeps its files, and what languages its texts may have.
 struct ProgramPaths {
     QString settingsFile;
     QString calendarsFolder;
     QString stateFolder;
     QString releaseNotes;
+    /// The user's, best first, as "de_AT" or "de".
+    QStringList languages;
 };
 
 /// Every part of the program, built and wired. The members stand in the order in which they need
@@ -121,6 +125,8 @@ private:
     IcuLocaleFormats reportFormats_;
     IcuCalendarArithmetic reportCalendar_;
     std::unique_ptr<SerialQueue> reportQueue_;
+    UpdateDialogs updateDialogs_;
+    ReleaseListUpdater updater_;
     AppDelegate appDelegate_;
     std::unique_ptr<MainWindow> window_;
     ActivationWatcher activation_;

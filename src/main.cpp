@@ -18,7 +18,7 @@ QString stateHome() {
                                             : QDir::homePath() + QStringLiteral("/.local/state");
 }
 
-quillet::ProgramPaths programPaths() {
+quillet::ProgramPaths programPaths(const QStringList& languages) {
     const auto home = [](QStandardPaths::StandardLocation location) {
         return QStandardPaths::writableLocation(location);
     };
@@ -26,7 +26,8 @@ quillet::ProgramPaths programPaths() {
             .calendarsFolder = home(QStandardPaths::GenericDataLocation) + "/calendars",
             .stateFolder = stateHome() + "/quillet",
             .releaseNotes = QStandardPaths::locate(QStandardPaths::GenericDataLocation,
-                                                   "quillet/Release Notes.rtf")};
+                                                   "quillet/Release Notes.rtf"),
+            .languages = languages};
 }
 
 } // namespace
@@ -46,10 +47,10 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(QIcon::fromTheme(quillet::applicationIdentifier()));
     QApplication::setQuitOnLastWindowClosed(
         quillet::AppDelegate::applicationShouldTerminateAfterLastWindowClosed());
-    const quillet::Translations translations(
-        quillet::messageLanguages(quillet::processEnvironment()));
+    const QStringList languages = quillet::messageLanguages(quillet::processEnvironment());
+    const quillet::Translations translations(languages);
     quillet::installReportViewAccessibility();
-    quillet::Program program(programPaths(), service);
+    quillet::Program program(programPaths(languages), service);
     QObject::connect(&application, &QApplication::lastWindowClosed, &service,
                      &quillet::ApplicationService::endSoon);
     program.start();

@@ -484,6 +484,10 @@
         <translation>Installieren Sie ein E-Mail-Programm oder wählen Sie eines unter den Standardanwendungen Ihres Desktops und klicken Sie erneut auf E-Mail.</translation>
     </message>
     <message>
+        <source>Install the newer version in the way in which you installed Quillet.</source>
+        <translation>Installieren Sie die neuere Version auf dem Weg, auf dem Sie Quillet installiert haben.</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>es ist keine Datei</translation>
     </message>
@@ -514,6 +518,10 @@
     <message>
         <source>larger than 128 MB</source>
         <translation>größer als 128 MB</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Später</translation>
     </message>
     <message>
         <source>Layouts</source>
@@ -550,6 +558,10 @@
     <message>
         <source>&amp;Longest event</source>
         <translation>&amp;Längster Termin</translation>
+    </message>
+    <message>
+        <source>Looking for newer versions…</source>
+        <translation>Neuere Versionen werden gesucht …</translation>
     </message>
     <message>
         <source>&amp;Mail</source>
@@ -616,6 +628,10 @@
         <translation>Neue Einstellungen</translation>
     </message>
     <message>
+        <source>Newer Version</source>
+        <translation>Neuere Version</translation>
+    </message>
+    <message>
         <source>Next</source>
         <translation>Weiter</translation>
     </message>
@@ -646,6 +662,10 @@
     <message>
         <source>No mail program is set up</source>
         <translation>Es ist kein E-Mail-Programm eingerichtet</translation>
+    </message>
+    <message>
+        <source>No software centre was found</source>
+        <translation>Es wurde kein Softwarezentrum gefunden</translation>
     </message>
     <message>
         <source>not a calendar file</source>
@@ -760,12 +780,16 @@ The hours in your calendars, ready to bill.</source>
 Die Stunden in Ihren Kalendern, fertig zum Abrechnen.</translation>
     </message>
     <message>
+        <source>Quillet %1 is available; you have version %2. Your system's software centre installs it.</source>
+        <translation>Quillet %1 ist verfügbar; Sie haben Version %2. Das Softwarezentrum Ihres Systems installiert es.</translation>
+    </message>
+    <message>
         <source>Quillet doesn't have access to your Calendars.</source>
         <translation>Quillet hat keinen Zugriff auf Ihre Kalender.</translation>
     </message>
     <message>
-        <source>Quillet is updated with your system</source>
-        <translation>Quillet wird mit Ihrem System aktualisiert</translation>
+        <source>Quillet is up to date</source>
+        <translation>Quillet ist aktuell</translation>
     </message>
     <message>
         <source>Quillet lists the events of your calendars and adds up their hours. It reads them on this computer only, and changes nothing.</source>
@@ -1058,6 +1082,22 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Der letzte Tag des Zeitraums</translation>
     </message>
     <message>
+        <source>The list of versions cannot be reached. Are you connected to the Internet?</source>
+        <translation>Die Liste der Versionen ist nicht erreichbar. Sind Sie mit dem Internet verbunden?</translation>
+    </message>
+    <message>
+        <source>The list of versions did not come in time. Please try again later.</source>
+        <translation>Die Liste der Versionen kam nicht rechtzeitig an. Bitte versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not where it should be.</source>
+        <translation>Die Liste der Versionen ist nicht dort, wo sie sein sollte.</translation>
+    </message>
+    <message>
+        <source>The list of versions was not read, as the connection to it is not secure.</source>
+        <translation>Die Liste der Versionen wurde nicht gelesen, weil die Verbindung zu ihr nicht sicher ist.</translation>
+    </message>
+    <message>
         <source>The mean of an event</source>
         <translation>Das Mittel je Termin</translation>
     </message>
@@ -1108,10 +1148,6 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     <message>
         <source>These hold for CSV and TSV files alike.</source>
         <translation>Dies gilt für CSV- und TSV-Dateien gleichermaßen.</translation>
-    </message>
-    <message>
-        <source>This is version %1. Newer versions arrive with the updates of your system; its software centre shows them.</source>
-        <translation>Dies ist Version %1. Neuere Versionen kommen mit den Aktualisierungen Ihres Systems; dessen Softwarezentrum zeigt sie an.</translation>
     </message>
     <message>
         <source>This version lists events only. What you choose here is kept for exports of reminders.</source>
@@ -1194,6 +1230,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>UTF-8 passt für fast jedes Programm; manche Tabellenkalkulationen möchten UTF-16</translation>
     </message>
     <message>
+        <source>Version %1 is the newest one.</source>
+        <translation>Version %1 ist die neueste.</translation>
+    </message>
+    <message>
         <source>&amp;View</source>
         <translation>&amp;Ansicht</translation>
     </message>
@@ -1210,6 +1250,18 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Woche</translation>
     </message>
     <message>
+        <source>What came is no list of versions.</source>
+        <translation>Was ankam, ist keine Liste von Versionen.</translation>
+    </message>
+    <message>
+        <source>What came is too large for a list of versions.</source>
+        <translation>Was ankam, ist zu groß für eine Liste von Versionen.</translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <translation>Was ist neu</translation>
+    </message>
+    <message>
         <source>What would you like to add?</source>
         <translation>Was möchten Sie hinzufügen?</translation>
     </message>
@@ -1224,6 +1276,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     <message>
         <source>Whether the reminder is done</source>
         <translation>Ob die Erinnerung erledigt ist</translation>
+    </message>
+    <message>
+        <source>Whether there is a newer version could not be found out</source>
+        <translation>Ob es eine neuere Version gibt, ließ sich nicht feststellen</translation>
     </message>
     <message>
         <source>Which time column the table, the results and reports show</source>

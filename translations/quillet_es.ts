@@ -484,6 +484,10 @@
         <translation>Instale un programa de correo o elija uno entre las aplicaciones predeterminadas de su escritorio, y pulse Correo otra vez.</translation>
     </message>
     <message>
+        <source>Install the newer version in the way in which you installed Quillet.</source>
+        <translation>Instale la versión más reciente de la misma forma en que instaló Quillet.</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>no es un archivo</translation>
     </message>
@@ -514,6 +518,10 @@
     <message>
         <source>larger than 128 MB</source>
         <translation>mayor de 128 MB</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Más tarde</translation>
     </message>
     <message>
         <source>Layouts</source>
@@ -550,6 +558,10 @@
     <message>
         <source>&amp;Longest event</source>
         <translation>Evento más &amp;largo</translation>
+    </message>
+    <message>
+        <source>Looking for newer versions…</source>
+        <translation>Buscando versiones más recientes…</translation>
     </message>
     <message>
         <source>&amp;Mail</source>
@@ -616,6 +628,10 @@
         <translation>Ajustes nuevos</translation>
     </message>
     <message>
+        <source>Newer Version</source>
+        <translation>Versión más reciente</translation>
+    </message>
+    <message>
         <source>Next</source>
         <translation>Siguiente</translation>
     </message>
@@ -646,6 +662,10 @@
     <message>
         <source>No mail program is set up</source>
         <translation>No hay ningún programa de correo configurado</translation>
+    </message>
+    <message>
+        <source>No software centre was found</source>
+        <translation>No se encontró ningún centro de software</translation>
     </message>
     <message>
         <source>not a calendar file</source>
@@ -760,12 +780,16 @@ The hours in your calendars, ready to bill.</source>
 Las horas de sus calendarios, listas para facturar.</translation>
     </message>
     <message>
+        <source>Quillet %1 is available; you have version %2. Your system's software centre installs it.</source>
+        <translation>Quillet %1 está disponible; usted tiene la versión %2. El centro de software de su sistema la instala.</translation>
+    </message>
+    <message>
         <source>Quillet doesn't have access to your Calendars.</source>
         <translation>Quillet no tiene acceso a sus calendarios.</translation>
     </message>
     <message>
-        <source>Quillet is updated with your system</source>
-        <translation>Quillet se actualiza con su sistema</translation>
+        <source>Quillet is up to date</source>
+        <translation>Quillet está actualizado</translation>
     </message>
     <message>
         <source>Quillet lists the events of your calendars and adds up their hours. It reads them on this computer only, and changes nothing.</source>
@@ -1058,6 +1082,22 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>El último día del periodo</translation>
     </message>
     <message>
+        <source>The list of versions cannot be reached. Are you connected to the Internet?</source>
+        <translation>No se puede acceder a la lista de versiones. ¿Está conectado a Internet?</translation>
+    </message>
+    <message>
+        <source>The list of versions did not come in time. Please try again later.</source>
+        <translation>La lista de versiones no llegó a tiempo. Inténtelo de nuevo más tarde.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not where it should be.</source>
+        <translation>La lista de versiones no está donde debería.</translation>
+    </message>
+    <message>
+        <source>The list of versions was not read, as the connection to it is not secure.</source>
+        <translation>La lista de versiones no se leyó porque la conexión con ella no es segura.</translation>
+    </message>
+    <message>
         <source>The mean of an event</source>
         <translation>La media por evento</translation>
     </message>
@@ -1108,10 +1148,6 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>These hold for CSV and TSV files alike.</source>
         <translation>Esto vale tanto para los archivos CSV como para los TSV.</translation>
-    </message>
-    <message>
-        <source>This is version %1. Newer versions arrive with the updates of your system; its software centre shows them.</source>
-        <translation>Esta es la versión %1. Las versiones nuevas llegan con las actualizaciones de su sistema; su centro de software las muestra.</translation>
     </message>
     <message>
         <source>This version lists events only. What you choose here is kept for exports of reminders.</source>
@@ -1194,6 +1230,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>UTF-8 vale para casi todos los programas; algunas hojas de cálculo piden UTF-16</translation>
     </message>
     <message>
+        <source>Version %1 is the newest one.</source>
+        <translation>La versión %1 es la más reciente.</translation>
+    </message>
+    <message>
         <source>&amp;View</source>
         <translation>&amp;Ver</translation>
     </message>
@@ -1210,6 +1250,18 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Semana</translation>
     </message>
     <message>
+        <source>What came is no list of versions.</source>
+        <translation>Lo recibido no es una lista de versiones.</translation>
+    </message>
+    <message>
+        <source>What came is too large for a list of versions.</source>
+        <translation>Lo recibido es demasiado grande para una lista de versiones.</translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <translation>Novedades</translation>
+    </message>
+    <message>
         <source>What would you like to add?</source>
         <translation>¿Qué desea añadir?</translation>
     </message>
@@ -1224,6 +1276,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>Whether the reminder is done</source>
         <translation>Si el recordatorio está completado</translation>
+    </message>
+    <message>
+        <source>Whether there is a newer version could not be found out</source>
+        <translation>No se pudo averiguar si hay una versión más reciente</translation>
     </message>
     <message>
         <source>Which time column the table, the results and reports show</source>

@@ -484,6 +484,10 @@
         <translation>Installez un logiciel de messagerie, ou choisissez-en un parmi les applications par défaut de votre bureau, puis cliquez de nouveau sur Courriel.</translation>
     </message>
     <message>
+        <source>Install the newer version in the way in which you installed Quillet.</source>
+        <translation>Installez la nouvelle version de la même façon que vous avez installé Quillet.</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>ce n’est pas un fichier</translation>
     </message>
@@ -514,6 +518,10 @@
     <message>
         <source>larger than 128 MB</source>
         <translation>plus grand que 128 Mo</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Plus tard</translation>
     </message>
     <message>
         <source>Layouts</source>
@@ -550,6 +558,10 @@
     <message>
         <source>&amp;Longest event</source>
         <translation>Événement le plus &amp;long</translation>
+    </message>
+    <message>
+        <source>Looking for newer versions…</source>
+        <translation>Recherche de nouvelles versions…</translation>
     </message>
     <message>
         <source>&amp;Mail</source>
@@ -616,6 +628,10 @@
         <translation>Nouveaux réglages</translation>
     </message>
     <message>
+        <source>Newer Version</source>
+        <translation>Nouvelle version</translation>
+    </message>
+    <message>
         <source>Next</source>
         <translation>Suivant</translation>
     </message>
@@ -646,6 +662,10 @@
     <message>
         <source>No mail program is set up</source>
         <translation>Aucun logiciel de messagerie n’est configuré</translation>
+    </message>
+    <message>
+        <source>No software centre was found</source>
+        <translation>Aucune logithèque n’a été trouvée</translation>
     </message>
     <message>
         <source>not a calendar file</source>
@@ -760,12 +780,16 @@ The hours in your calendars, ready to bill.</source>
 Les heures de vos calendriers, prêtes à facturer.</translation>
     </message>
     <message>
+        <source>Quillet %1 is available; you have version %2. Your system's software centre installs it.</source>
+        <translation>Quillet %1 est disponible ; vous avez la version %2. La logithèque de votre système l’installe.</translation>
+    </message>
+    <message>
         <source>Quillet doesn't have access to your Calendars.</source>
         <translation>Quillet n’a pas accès à vos calendriers.</translation>
     </message>
     <message>
-        <source>Quillet is updated with your system</source>
-        <translation>Quillet est mis à jour avec votre système</translation>
+        <source>Quillet is up to date</source>
+        <translation>Quillet est à jour</translation>
     </message>
     <message>
         <source>Quillet lists the events of your calendars and adds up their hours. It reads them on this computer only, and changes nothing.</source>
@@ -1058,6 +1082,22 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Le dernier jour de la période</translation>
     </message>
     <message>
+        <source>The list of versions cannot be reached. Are you connected to the Internet?</source>
+        <translation>La liste des versions est inaccessible. Êtes-vous connecté à Internet ?</translation>
+    </message>
+    <message>
+        <source>The list of versions did not come in time. Please try again later.</source>
+        <translation>La liste des versions n’est pas arrivée à temps. Veuillez réessayer plus tard.</translation>
+    </message>
+    <message>
+        <source>The list of versions is not where it should be.</source>
+        <translation>La liste des versions n’est pas là où elle devrait être.</translation>
+    </message>
+    <message>
+        <source>The list of versions was not read, as the connection to it is not secure.</source>
+        <translation>La liste des versions n’a pas été lue, car la connexion n’est pas sûre.</translation>
+    </message>
+    <message>
         <source>The mean of an event</source>
         <translation>La moyenne d’un événement</translation>
     </message>
@@ -1108,10 +1148,6 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>These hold for CSV and TSV files alike.</source>
         <translation>Ces réglages valent pour les fichiers CSV comme pour les fichiers TSV.</translation>
-    </message>
-    <message>
-        <source>This is version %1. Newer versions arrive with the updates of your system; its software centre shows them.</source>
-        <translation>Ceci est la version %1. Les nouvelles versions arrivent avec les mises à jour de votre système ; sa logithèque les affiche.</translation>
     </message>
     <message>
         <source>This version lists events only. What you choose here is kept for exports of reminders.</source>
@@ -1194,6 +1230,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>UTF-8 convient à presque tous les programmes ; certains tableurs demandent de l’UTF-16</translation>
     </message>
     <message>
+        <source>Version %1 is the newest one.</source>
+        <translation>La version %1 est la plus récente.</translation>
+    </message>
+    <message>
         <source>&amp;View</source>
         <translation>&amp;Affichage</translation>
     </message>
@@ -1210,6 +1250,18 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Semaine</translation>
     </message>
     <message>
+        <source>What came is no list of versions.</source>
+        <translation>Ce qui a été reçu n’est pas une liste de versions.</translation>
+    </message>
+    <message>
+        <source>What came is too large for a list of versions.</source>
+        <translation>Ce qui a été reçu est trop volumineux pour une liste de versions.</translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <translation>Nouveautés</translation>
+    </message>
+    <message>
         <source>What would you like to add?</source>
         <translation>Que souhaitez-vous ajouter ?</translation>
     </message>
@@ -1224,6 +1276,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>Whether the reminder is done</source>
         <translation>Si le rappel est terminé</translation>
+    </message>
+    <message>
+        <source>Whether there is a newer version could not be found out</source>
+        <translation>Impossible de savoir s’il existe une nouvelle version</translation>
     </message>
     <message>
         <source>Which time column the table, the results and reports show</source>

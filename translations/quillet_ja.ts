@@ -484,6 +484,10 @@
         <translation>メールソフトをインストールするか、デスクトップの既定のアプリで選び、もう一度「メール」を押してください。</translation>
     </message>
     <message>
+        <source>Install the newer version in the way in which you installed Quillet.</source>
+        <translation>Quillet をインストールしたときと同じ方法で新しいバージョンをインストールしてください。</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>ファイルではありません</translation>
     </message>
@@ -514,6 +518,10 @@
     <message>
         <source>larger than 128 MB</source>
         <translation>128 MB を超えています</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>後で</translation>
     </message>
     <message>
         <source>Layouts</source>
@@ -550,6 +558,10 @@
     <message>
         <source>&amp;Longest event</source>
         <translation>最長の予定(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Looking for newer versions…</source>
+        <translation>新しいバージョンを探しています…</translation>
     </message>
     <message>
         <source>&amp;Mail</source>
@@ -616,6 +628,10 @@
         <translation>新規設定</translation>
     </message>
     <message>
+        <source>Newer Version</source>
+        <translation>新しいバージョン</translation>
+    </message>
+    <message>
         <source>Next</source>
         <translation>次へ</translation>
     </message>
@@ -646,6 +662,10 @@
     <message>
         <source>No mail program is set up</source>
         <translation>メールソフトが設定されていません</translation>
+    </message>
+    <message>
+        <source>No software centre was found</source>
+        <translation>ソフトウェアセンターが見つかりません</translation>
     </message>
     <message>
         <source>not a calendar file</source>
@@ -760,12 +780,16 @@ The hours in your calendars, ready to bill.</source>
 カレンダーの時間を、そのまま請求に。</translation>
     </message>
     <message>
+        <source>Quillet %1 is available; you have version %2. Your system's software centre installs it.</source>
+        <translation>Quillet %1 が利用できます (現在のバージョンは %2)。システムのソフトウェアセンターでインストールできます。</translation>
+    </message>
+    <message>
         <source>Quillet doesn't have access to your Calendars.</source>
         <translation>Quillet にはカレンダーへのアクセス権がありません。</translation>
     </message>
     <message>
-        <source>Quillet is updated with your system</source>
-        <translation>Quillet はシステムと一緒に更新されます</translation>
+        <source>Quillet is up to date</source>
+        <translation>Quillet は最新です</translation>
     </message>
     <message>
         <source>Quillet lists the events of your calendars and adds up their hours. It reads them on this computer only, and changes nothing.</source>
@@ -1058,6 +1082,22 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>期間の最後の日</translation>
     </message>
     <message>
+        <source>The list of versions cannot be reached. Are you connected to the Internet?</source>
+        <translation>バージョンの一覧に接続できません。インターネットに接続していますか？</translation>
+    </message>
+    <message>
+        <source>The list of versions did not come in time. Please try again later.</source>
+        <translation>バージョンの一覧が時間内に届きませんでした。後でもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The list of versions is not where it should be.</source>
+        <translation>バージョンの一覧が所定の場所にありません。</translation>
+    </message>
+    <message>
+        <source>The list of versions was not read, as the connection to it is not secure.</source>
+        <translation>接続が安全ではないため、バージョンの一覧を読み込みませんでした。</translation>
+    </message>
+    <message>
         <source>The mean of an event</source>
         <translation>予定 1 件あたりの平均</translation>
     </message>
@@ -1108,10 +1148,6 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>These hold for CSV and TSV files alike.</source>
         <translation>CSV ファイルと TSV ファイルの両方に適用されます。</translation>
-    </message>
-    <message>
-        <source>This is version %1. Newer versions arrive with the updates of your system; its software centre shows them.</source>
-        <translation>これはバージョン %1 です。新しいバージョンはシステムの更新とともに届き、ソフトウェアセンターに表示されます。</translation>
     </message>
     <message>
         <source>This version lists events only. What you choose here is kept for exports of reminders.</source>
@@ -1194,6 +1230,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>ほとんどのプログラムには UTF-8 が適していますが、一部の表計算ソフトには UTF-16 が必要です</translation>
     </message>
     <message>
+        <source>Version %1 is the newest one.</source>
+        <translation>バージョン %1 が最新です。</translation>
+    </message>
+    <message>
         <source>&amp;View</source>
         <translation>表示(&amp;V)</translation>
     </message>
@@ -1210,6 +1250,18 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>週</translation>
     </message>
     <message>
+        <source>What came is no list of versions.</source>
+        <translation>受信した内容はバージョンの一覧ではありません。</translation>
+    </message>
+    <message>
+        <source>What came is too large for a list of versions.</source>
+        <translation>受信した内容はバージョンの一覧としては大きすぎます。</translation>
+    </message>
+    <message>
+        <source>What is new</source>
+        <translation>新機能</translation>
+    </message>
+    <message>
         <source>What would you like to add?</source>
         <translation>何を追加しますか？</translation>
     </message>
@@ -1224,6 +1276,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>Whether the reminder is done</source>
         <translation>リマインダーが完了したかどうか</translation>
+    </message>
+    <message>
+        <source>Whether there is a newer version could not be found out</source>
+        <translation>新しいバージョンがあるかどうかを確認できませんでした</translation>
     </message>
     <message>
         <source>Which time column the table, the results and reports show</source>

@@ -5,10 +5,8 @@
 #include "window/ShownRun.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QUrl>
 
 namespace quillet {
 
@@ -46,22 +44,6 @@ void DesktopDialogs::beginSheet(const SavePanelRequest& request, Completion comp
 
 void DesktopDialogs::stopModal(int /*code*/) {
     // The sheet ends by itself: it is modal to its window, not a session of its own.
-}
-
-void DesktopDialogs::checkForUpdates() {
-    QMessageBox box(window_);
-    box.setIcon(QMessageBox::Information);
-    box.setText(localized("Quillet is updated with your system"));
-    box.setInformativeText(
-        localized("This is version %1. Newer versions arrive with the updates of "
-                  "your system; its software centre shows them.")
-            .arg(QCoreApplication::applicationVersion()));
-    auto* open = box.addButton(localized("Open Software Centre"), QMessageBox::ActionRole);
-    box.addButton(localized("OK"), QMessageBox::AcceptRole);
-    box.exec();
-    if (box.clickedButton() == open) {
-        QDesktopServices::openUrl(QUrl(QStringLiteral("appstream:org.quillet.Quillet")));
-    }
 }
 
 std::unique_ptr<ProgressPresenter::Run> DesktopDialogs::begin(const QString& label) {

@@ -3,7 +3,6 @@
 #include "platform/Alert.h"
 #include "platform/ProgressPresenter.h"
 #include "platform/SavePanel.h"
-#include "platform/SoftwareUpdater.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -12,19 +11,13 @@ namespace quillet {
 
 /// The dialogs that belong to the main window. They may be made before it: until it is set, they
 /// stand for themselves.
-class DesktopDialogs final : public AlertPresenter,
-                             public SavePanel,
-                             public SoftwareUpdater,
-                             public ProgressPresenter {
+class DesktopDialogs final : public AlertPresenter, public SavePanel, public ProgressPresenter {
 public:
     void setWindow(QWidget* window) { window_ = window; }
 
     [[nodiscard]] int runModal(const Alert& alert) override;
     void beginSheet(const SavePanelRequest& request, Completion completion) override;
     void stopModal(int code) override;
-    /// New versions come with the system's own updates; says so and opens its software centre.
-    void checkForUpdates() override;
-
     [[nodiscard]] std::unique_ptr<Run> begin(const QString& label) override;
 
     /// Asks in the program's own words whether it may read the calendars.
