@@ -114,7 +114,7 @@ void Program::start() {
     wake();
     window_ = std::make_unique<MainWindow>(MainWindow::Collaborators{settings_,
                                                                      formats_,
-                                                                     currentCalendar_,
+                                                                     gregorian_,
                                                                      events_,
                                                                      calendars_,
                                                                      dateInspector_,

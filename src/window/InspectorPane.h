@@ -15,6 +15,8 @@ class InspectorPane : public QWidget {
     Q_OBJECT
 
 public:
+    /// The calendar is the Gregorian one of the user's locale and zone: the pickers show that one,
+    /// whatever calendar the locale writes its dates in.
     InspectorPane(DateInspectorController& inspector, SettingsStore& settings,
                   const CalendarArithmetic& calendar, QWidget* parent = nullptr);
     ~InspectorPane() override;
