@@ -143,6 +143,63 @@ TEST_F(EventsControllerTest, ARequestDuringAFetchIsDropped) {
     EXPECT_EQ(events.arrangedCount(), 3U) << "the choice of before the fetch";
 }
 
+TEST_F(EventsControllerTest, APeriodChosenDuringAFetchIsFetchedByTheNextTriggerOnly) {
+    wake();
+    const int before = store.queries;
+    flipBool(settings, "datesChangedTrigger");
+    settings.setObject("filterStartDate", QVariant::fromValue(utc(2024, 3, 6)));
+    settings.setObject("filterEndDate", QVariant::fromValue(utc(2024, 3, 6, 23, 59, 59)));
+    flipBool(settings, "datesChangedTrigger");
+    fetch();
+    EXPECT_EQ(store.queries, before + 1) << "the dropped request is not made up for";
+    EXPECT_EQ(events.arrangedCount(), 3U) << "the period of before the fetch";
+    EXPECT_EQ(controller.aggregate(Aggregate::TotalDays), QVariant(1)) << "the new period";
+    EXPECT_FALSE(boolForKey(settings, "isProgressIndicatorOn"));
+    flipBool(settings, "datesChangedTrigger");
+    fetch();
+    EXPECT_EQ(store.queries, before + 2);
+    EXPECT_EQ(store.lastTo, utc(2024, 3, 6, 23, 59, 59));
+    EXPECT_EQ(events.arrangedCount(), 1U);
+}
+
+TEST_F(EventsControllerTest, AChangeOfTheAccessFetchesWhicheverWayItGoes) {
+    wake();
+    store.status = AuthorizationStatus::Denied;
+    settings.setObject("isCalendarAccessGranted", false);
+    EXPECT_EQ(background.tasks.size(), 1U);
+    fetch();
+    EXPECT_EQ(events.arrangedCount(), 0U);
+    flipBool(settings, "datesChangedTrigger");
+    settings.setObject("allDayHours", 8);
+    EXPECT_TRUE(background.tasks.empty()) << "without access settings fetch nothing";
+    store.status = AuthorizationStatus::Authorized;
+    settings.setObject("isCalendarAccessGranted", true);
+    fetch();
+    EXPECT_EQ(events.arrangedCount(), 3U);
+}
+
+TEST_F(EventsControllerTest, AStoreChangeFetchesWithoutLookingAtTheAccessSetting) {
+    manager.becomeActive();
+    wake();
+    settings.setObject("isCalendarAccessGranted", false);
+    fetch();
+    store.observers.notify();
+    EXPECT_EQ(background.tasks.size(), 1U);
+}
+
+TEST_F(EventsControllerTest, EveryAggregateIsAnnouncedInItsOrderAlsoWhenItIsTheSame) {
+    wake();
+    std::vector<Aggregate> announced;
+    QObject::connect(&controller, &EventsController::aggregateChanged,
+                     [&](Aggregate name) { announced.push_back(name); });
+    settings.setObject("filterEndDate", settings.object("filterEndDate"));
+    EXPECT_EQ(announced, (std::vector{Aggregate::TotalDuration, Aggregate::TotalSelectedDuration,
+                                      Aggregate::MinDuration, Aggregate::MinSelectedDuration,
+                                      Aggregate::MaxDuration, Aggregate::MaxSelectedDuration,
+                                      Aggregate::AvgDuration, Aggregate::AvgSelectedDuration,
+                                      Aggregate::TotalDays, Aggregate::TotalSelectedDays}));
+}
+
 TEST_F(EventsControllerTest, TheProgressFlagIsStillOnWhileTheEventsRearrangeAndOffAfterwards) {
     wake();
     bool isOnDuringPublication = false;

@@ -125,7 +125,14 @@ TEST_F(EventItemViewControllerTest, ResettingOverwritesTheUsersTitles) {
     controller.awakeFromNib();
     settings.setObject("startWeekdayColumnTitle", "Mine");
     settings.setObject("titleColumnTitle", "Mine");
+    for (const EventColumn& column : eventColumns()) {
+        settings.setObject(QString::fromLatin1(column.titleKey), "Mine");
+    }
     controller.resetAllColumnTitles();
+    for (const EventColumn& column : eventColumns()) {
+        EXPECT_EQ(settings.object(QString::fromLatin1(column.titleKey)),
+                  QVariant(QString::fromLatin1(column.defaultTitle)));
+    }
     EXPECT_EQ(settings.object("startWeekdayColumnTitle"), QVariant("Start Weekday"));
     EXPECT_EQ(settings.object("titleColumnTitle"), QVariant("Title"));
 }
