@@ -15,6 +15,7 @@ import shutil
 import sys
 from datetime import date, datetime, timedelta
 from decimal import ROUND_DOWN, ROUND_HALF_EVEN, ROUND_HALF_UP, Context, Decimal, setcontext
+from fractions import Fraction
 from pathlib import Path
 from zoneinfo import ZoneInfo
 
@@ -403,7 +404,7 @@ class Case:
     def summary(self):
         texts = {
             "cost": lambda: self.locale.currency(self.sum_of(self.cost)),
-            "hours": lambda: self.locale.number(self.sum_of(self.hours)),
+            "hours": lambda: self.locale.number(self.sum_of(self.minutes) / 60),
             "minutes": lambda: self.locale.number(self.sum_of(self.minutes)),
             "duration": lambda: duration_text(self.sum_of(self.minutes)),
         }
@@ -412,14 +413,13 @@ class Case:
         return self.separator_line() + "".join(cells)
 
     def figure(self, combined):
-        """A header figure over the events, by the time type."""
-        minutes = [self.minutes(event) for event in self.exported]
-        hours = [self.hours(event) for event in self.exported]
+        """A header figure over the events, by the time type. It is exact before it is rounded."""
+        minutes = combined([Fraction(self.minutes(event)) for event in self.exported])
         if self.time_type == 1:
-            return self.locale.number(combined(hours))
+            return self.locale.number(rounded(minutes / 60))
         if self.time_type == 2:
-            return self.locale.number(combined(minutes))
-        return duration_text(combined(minutes))
+            return self.locale.number(rounded(minutes))
+        return duration_text(rounded(minutes))
 
     def days(self):
         first, last = self.filter_start, self.filter_end
@@ -453,9 +453,9 @@ class Case:
 
     def header_figures(self):
         total_label = {1: "Hours", 2: "Minutes", 3: "Duration"}[self.time_type]
-        kinds = (("isTXTTotalHours", total_label, total), ("isTXTMin", "Min", min),
+        kinds = (("isTXTTotalHours", total_label, sum), ("isTXTMin", "Min", min),
                  ("isTXTMax", "Max", max),
-                 ("isTXTAverage", "Avg", lambda values: total(values) / len(values)))
+                 ("isTXTAverage", "Avg", lambda values: sum(values) / len(values)))
         return "".join(f"{label}: {self.figure(combined)}\n"
                        for key, label, combined in kinds if self.is_on(key))
 
@@ -562,11 +562,9 @@ class Case:
         return found
 
 
-def total(values):
-    result = Decimal(0)
-    for value in values:
-        result += value
-    return result
+def rounded(exact):
+    """To 38 digits."""
+    return Decimal(exact.numerator) / Decimal(exact.denominator)
 
 
 # --- Cells
