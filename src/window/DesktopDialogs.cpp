@@ -19,14 +19,15 @@ int DesktopDialogs::runModal(const Alert& alert) {
     box.setTextFormat(Qt::PlainText);
     box.setText(alert.messageText);
     box.setInformativeText(alert.informativeText);
-    QList<QAbstractButton*> buttons;
+    QList<QPushButton*> buttons;
     for (const QString& title : alert.buttonTitles) {
         buttons << box.addButton(title, buttons.isEmpty() ? QMessageBox::AcceptRole
                                                           : QMessageBox::RejectRole);
     }
+    box.setDefaultButton(buttons.first());
     box.setEscapeButton(buttons.last());
     box.exec();
-    const auto chosen = buttons.indexOf(box.clickedButton());
+    const auto chosen = buttons.indexOf(static_cast<QPushButton*>(box.clickedButton()));
     return static_cast<int>(chosen < 0 ? buttons.size() - 1 : chosen);
 }
 

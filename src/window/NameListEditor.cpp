@@ -7,9 +7,30 @@
 #include <QListView>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace quillet {
+
+namespace {
+
+/// Gives names the room of the rows in the window's tables, and their editors with them.
+class RowHeight final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                                 const QModelIndex& index) const override {
+        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        return {size.width(), std::max(size.height(), option.fontMetrics.height() * 7 / 4)};
+    }
+    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                              const QModelIndex& /*index*/) const override {
+        editor->setGeometry(option.rect);
+    }
+};
+
+} // namespace
 
 NameListEditor::NameListEditor(NameList list, const QString& accessibleName, QWidget* parent)
     : QWidget(parent)
@@ -23,9 +44,10 @@ NameListEditor::NameListEditor(NameList list, const QString& accessibleName, QWi
     view_->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
     view_->setSelectionMode(QAbstractItemView::SingleSelection);
     view_->setUniformItemSizes(true);
+    view_->setItemDelegate(new RowHeight(view_));
     view_->setTabKeyNavigation(false);
     setFocusProxy(view_);
-    constexpr int shownRows = 8;
+    constexpr int shownRows = 12;
     view_->setMinimumHeight(fontMetrics().height() * shownRows);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

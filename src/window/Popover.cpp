@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QPainter>
 
 #include <algorithm>
 
@@ -9,8 +10,6 @@ namespace quillet {
 
 Popover::Popover(QWidget& window)
     : QFrame(&window) {
-    setFrameShape(QFrame::StyledPanel);
-    setFrameShadow(QFrame::Raised);
     setAutoFillBackground(true);
     hide();
     connect(qApp, &QApplication::focusChanged, this,
@@ -46,7 +45,11 @@ void Popover::dismiss() {
 
 void Popover::place() {
     const QSize size = sizeHint().boundedTo(window()->size());
-    const QPoint below = anchor_->mapTo(window(), QPoint(0, anchor_->height()));
+    QPoint below = anchor_->mapTo(window(), QPoint(0, anchor_->height()));
+    if (below.x() + size.width() > window()->width() / 2) {
+        // Towards the middle, as menus of buttons near the edge open.
+        below.rx() += anchor_->width() - size.width();
+    }
     const QPoint rightmost(window()->width() - size.width(), window()->height() - size.height());
     setGeometry(
         {QPoint(std::clamp(below.x(), 0, rightmost.x()), std::clamp(below.y(), 0, rightmost.y())),
@@ -77,6 +80,17 @@ bool Popover::eventFilter(QObject* watched, QEvent* event) {
         }
     }
     return QFrame::eventFilter(watched, event);
+}
+
+void Popover::paintEvent(QPaintEvent* event) {
+    QFrame::paintEvent(event);
+    // The styles' own frames are nearly invisible over a table, in dark colours above all.
+    constexpr float outlineOpacity = 0.45F;
+    QPainter painter(this);
+    QColor outline = palette().color(QPalette::WindowText);
+    outline.setAlphaF(outlineOpacity);
+    painter.setPen(outline);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 void Popover::keyPressEvent(QKeyEvent* event) {

@@ -118,6 +118,12 @@ class Quillet:
     def control(self, name, roles=None):
         return wait_for(f'a control "{name}"', lambda: self.find(name, roles))
 
+    def wait_for_window(self, title):
+        """Until keys go to the window of that title."""
+        wait_for(f'the window "{title}"', lambda: any(
+            window.get_name() == title and has_state(window, Atspi.StateType.ACTIVE)
+            for window in children(self._application)))
+
     def press(self, name):
         """A button of any kind."""
         press(self.control(name, {ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON, ROLE.RADIO_BUTTON,
@@ -144,7 +150,7 @@ class Quillet:
         wait_for(f'"{part}" in the log', lambda: part in self.log)
 
     def type_and_confirm(self, field, text):
-        control = self.control(field, {ROLE.TEXT})
+        control = self.control(field, {ROLE.TEXT, ROLE.SPIN_BUTTON})
         self._focus(control)
         press_key("ctrl+a")
         type_keys(text)
