@@ -51,10 +51,12 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
     , events_(eventIdentityHash, isSameEvent)
     , calendars_(settings_, eventKitManager_, formats_, *timer_)
     , calendarGroups_(settings_, dialogs_)
+    , calendarGroupsChecklist_(settings_, calendarGroups_)
     , calendarGroupsFilter_({settings_, calendars_, calendarGroups_, *timer_})
     , fetchQueue_(makeBackgroundQueue(EventsController::backgroundEventFetchQueueLabel()))
     , eventsController_({eventKitManager_, settings_, billing_, gregorian_, events_, calendars_,
                          *fetchQueue_, *mainQueue_})
+    , missedChanges_({settings_, eventKitManager_, calendars_, *mainQueue_})
     , dateInspector_({settings_, clock_, gregorian_, currentCalendar_, formats_})
     , collator_(locales_.collation)
     , eventOrder_(fields_, currentCalendar_, collator_)
@@ -112,21 +114,23 @@ Program::~Program() {
 
 void Program::start() {
     wake();
-    window_ = std::make_unique<MainWindow>(MainWindow::Collaborators{settings_,
-                                                                     formats_,
-                                                                     gregorian_,
-                                                                     events_,
-                                                                     calendars_,
-                                                                     dateInspector_,
-                                                                     eventItemView_,
-                                                                     exports(),
-                                                                     {columnLayouts_, txtSettings_},
-                                                                     appDelegate_,
-                                                                     *eventTable_,
-                                                                     *resultsPane_,
-                                                                     exportItems_,
-                                                                     menuTimeColumns_,
-                                                                     calendarActions()});
+    window_ = std::make_unique<MainWindow>(MainWindow::Collaborators{
+        settings_,
+        formats_,
+        gregorian_,
+        events_,
+        calendars_,
+        WindowGroups{calendarGroups_, calendarGroupsChecklist_, calendarGroupsFilter_},
+        dateInspector_,
+        eventItemView_,
+        exports(),
+        {columnLayouts_, txtSettings_},
+        appDelegate_,
+        *eventTable_,
+        *resultsPane_,
+        exportItems_,
+        menuTimeColumns_,
+        calendarActions()});
     dialogs_.setWindow(window_.get());
     updateDialogs_.setWindow(window_.get());
     connectNotices();
@@ -152,6 +156,7 @@ void Program::wake() {
     billing_.migrateHourlyRate();
     calendars_.awakeFromNib();
     calendarGroups_.awakeFromNib();
+    calendarGroupsChecklist_.awakeFromNib();
     calendarGroupsFilter_.awakeFromNib();
     dateInspector_.awakeFromNib();
     arrangeColumns();
@@ -165,6 +170,7 @@ void Program::wake() {
     txtSettings_.awakeFromNib();
     exportTxtView_.awakeFromNib();
     eventItemView_.awakeFromNib();
+    missedChanges_.awakeFromNib();
     eventsController_.awakeFromNib();
 }
 

@@ -12,7 +12,9 @@
 #include "backends/settingsfile/SettingsFile.h"
 #include "backends/updates/ReleaseListUpdater.h"
 #include "calendars/CalendarGroupsArrayController.h"
+#include "calendars/CalendarGroupsArraySelectedCalendarsArrayController.h"
 #include "calendars/CalendarGroupsController.h"
+#include "eventdata/MissedChanges.h"
 #include "eventtable/ColumnLayoutsArrayController.h"
 #include "eventtable/EventItemTableView.h"
 #include "eventtable/EventOrder.h"
@@ -97,9 +99,11 @@ private:
     ListController<Event> events_;
     CalendarsArrayController calendars_;
     CalendarGroupsArrayController calendarGroups_;
+    CalendarGroupsArraySelectedCalendarsArrayController calendarGroupsChecklist_;
     CalendarGroupsController calendarGroupsFilter_;
     std::unique_ptr<SerialQueue> fetchQueue_;
     EventsController eventsController_;
+    MissedChanges missedChanges_;
     DateInspectorController dateInspector_;
     TimeColumnActions menuTimeColumns_;
     TimeColumnActions headerTimeColumns_;

@@ -57,6 +57,10 @@ void CalendarGroupsArrayController::updateAllCalendarsGroupName() {
 }
 
 void CalendarGroupsArrayController::addCalendarGroup() {
+    if (content()->empty()) {
+        // Position 0 belongs to it, also in a list that was emptied.
+        createDefaultAllCalendarsGroup();
+    }
     std::vector<CalendarGroup> groups = *content();
     const std::size_t position = groups.size();
     groups.push_back(
@@ -96,14 +100,20 @@ std::size_t CalendarGroupsArrayController::selectionIndex() const {
 void CalendarGroupsArrayController::setCalendarGroupName(std::size_t position,
                                                          const QString& name) {
     std::vector<CalendarGroup> groups = *content();
-    groups.at(position).calendarGroupName = name;
+    if (position >= groups.size()) {
+        return;
+    }
+    groups[position].calendarGroupName = name;
     writeBack(std::move(groups));
 }
 
 void CalendarGroupsArrayController::setCalendarGroupArray(std::size_t position,
                                                           CalendarGroupEntries entries) {
     std::vector<CalendarGroup> groups = *content();
-    groups.at(position).calendarGroupArray = std::move(entries);
+    if (position >= groups.size()) {
+        return;
+    }
+    groups[position].calendarGroupArray = std::move(entries);
     writeBack(std::move(groups));
 }
 

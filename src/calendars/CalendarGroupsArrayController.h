@@ -23,13 +23,14 @@ public:
     /// Gives the group at position 0 its name in the user's language again.
     void updateAllCalendarsGroupName();
     /// Appends "New Group" with the number of groups so far and a checklist of every stored
-    /// calendar, none ticked, and selects it.
+    /// calendar, none ticked, and selects it. An empty list gets "All Calendars" first.
     void addCalendarGroup();
     /// Removes the selected group after asking; refuses for the one at position 0.
     void removeCalendarGroup();
 
     /// The position of the selected group; 0 while there is none.
     [[nodiscard]] std::size_t selectionIndex() const;
+    /// A position beyond the list changes nothing, here and below.
     void setCalendarGroupName(std::size_t position, const QString& name);
     void setCalendarGroupArray(std::size_t position, CalendarGroupEntries entries);
 

@@ -52,6 +52,10 @@ CalendarPane::CalendarPane(CalendarsArrayController& calendars, CalendarListMode
 
 CalendarPane::~CalendarPane() = default;
 
+void CalendarPane::setHeader(QWidget& header) {
+    static_cast<QVBoxLayout*>(layout())->insertWidget(0, &header);
+}
+
 void CalendarPane::showProblems(const QStringList& problems) {
     foot_->setText(problems.join(u'\n'));
     foot_->setVisible(!problems.isEmpty());

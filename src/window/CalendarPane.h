@@ -19,6 +19,8 @@ public:
     ~CalendarPane() override;
     Q_DISABLE_COPY_MOVE(CalendarPane)
 
+    /// Puts a widget above the list, whose it becomes.
+    void setHeader(QWidget& header);
     /// One line for each, plain text; none hides the foot.
     void showProblems(const QStringList& problems);
     /// Draws the calendars' colours anew.

@@ -54,7 +54,6 @@ ExportPane::ExportPane(const QString& title, QWidget& view, Actions actions, QWi
     auto* escape = new QShortcut(Qt::Key_Escape, this);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
     connect(escape, &QShortcut::activated, this, std::move(actions.close));
-    orderTabs();
 }
 
 ExportPane::~ExportPane() = default;
@@ -64,23 +63,10 @@ void ExportPane::addButton(QBoxLayout& row, const QString& text, std::function<v
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, std::move(action));
     row.addWidget(button);
-    controls_.append(button);
-}
-
-void ExportPane::orderTabs() {
-    QWidget* previous = nullptr;
-    for (QWidget* control : controls_ + QList<QWidget*>{&view_}) {
-        if (previous != nullptr) {
-            setTabOrder(previous, control);
-        }
-        previous = control;
-    }
 }
 
 void ExportPane::addTool(QWidget& control) {
     tools_->addWidget(&control);
-    controls_.insert(toolCount_++, &control);
-    orderTabs();
 }
 
 void ExportPane::addSwitch(QWidget& control) {
@@ -91,8 +77,6 @@ void ExportPane::addSwitch(QWidget& control) {
         switches_->addStretch();
     }
     switches_->insertWidget(switches_->count() - 1, &control);
-    controls_.append(&control);
-    orderTabs();
 }
 
 void ExportPane::setRemark(const QString& remark) {

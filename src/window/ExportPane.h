@@ -39,16 +39,11 @@ protected:
 
 private:
     void addButton(QBoxLayout& row, const QString& text, std::function<void()> action);
-    /// As the eye goes: the row from its start to its end, then the view.
-    void orderTabs();
 
     QWidget& view_;
     QLabel* remark_;
     QBoxLayout* tools_;
     QBoxLayout* switches_;
-    /// The tools, the buttons, then the switches.
-    QList<QWidget*> controls_;
-    qsizetype toolCount_ = 0;
 };
 
 } // namespace quillet

@@ -2,34 +2,67 @@
 
 #include <QWidget>
 
+#include <algorithm>
+
 namespace quillet {
 
 namespace {
 
-QList<QWidget*> controlsInOrder(QWidget& area) {
+bool takesTab(const QWidget& control) {
+    return control.isVisible() && control.isEnabled() && control.focusProxy() == nullptr &&
+           (control.focusPolicy() & Qt::TabFocus) != 0;
+}
+
+QPoint centreOf(const QWidget& control) {
+    return control.mapTo(control.window(), control.rect().center());
+}
+
+/// Controls of one row are centred on one line, whatever their heights.
+void sortAsRead(QList<QWidget*>& controls, const QWidget& area) {
+    const auto isHigher = [](const QWidget* one, const QWidget* other) {
+        return centreOf(*one).y() < centreOf(*other).y();
+    };
+    const bool isFromRight = area.isRightToLeft();
+    const auto isEarlierInRow = [isFromRight](const QWidget* one, const QWidget* other) {
+        return isFromRight ? centreOf(*other).x() < centreOf(*one).x()
+                           : centreOf(*one).x() < centreOf(*other).x();
+    };
+    std::ranges::stable_sort(controls, isHigher);
+    const int tolerance = area.fontMetrics().height() / 2;
+    for (auto row = controls.begin(); row != controls.end();) {
+        const int centre = centreOf(**row).y();
+        const auto end = std::find_if(row, controls.end(), [&](const QWidget* control) {
+            return centreOf(*control).y() > centre + tolerance;
+        });
+        std::stable_sort(row, end, isEarlierInRow);
+        row = end;
+    }
+}
+
+QList<QWidget*> controlsOf(QWidget& area, const QWidget* current) {
     QList<QWidget*> controls;
-    QWidget* const first = area.window();
-    for (QWidget* control = first->nextInFocusChain(); control != first;
-         control = control->nextInFocusChain()) {
-        const bool isInArea = control == &area || area.isAncestorOf(control);
-        // What takes no focus, or hands it on, ends a chain that is tied to it.
-        if (isInArea && control->focusPolicy() != Qt::NoFocus && control->focusProxy() == nullptr) {
+    for (QWidget* control : area.findChildren<QWidget*>()) {
+        if (control->window() == area.window() && (control == current || takesTab(*control))) {
             controls.append(control);
         }
     }
+    sortAsRead(controls, area);
     return controls;
 }
 
 } // namespace
 
-void orderFocus(const QList<QWidget*>& areas) {
+QWidget* neighbourInFocusOrder(const QList<QWidget*>& areas, QWidget* current, FocusStep step) {
     QList<QWidget*> controls;
     for (QWidget* area : areas) {
-        controls += controlsInOrder(*area);
+        controls += controlsOf(*area, current);
     }
-    for (qsizetype index = 1; index < controls.size(); ++index) {
-        QWidget::setTabOrder(controls[index - 1], controls[index]);
+    const qsizetype position = controls.indexOf(current);
+    if (position < 0) {
+        return nullptr;
     }
+    const qsizetype count = controls.size();
+    return controls[(position + (step == FocusStep::Next ? 1 : count - 1)) % count];
 }
 
 } // namespace quillet

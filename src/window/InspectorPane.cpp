@@ -1,7 +1,6 @@
 #include "window/InspectorPane.h"
 
 #include "platform/Localized.h"
-#include "window/FocusOrder.h"
 #include "window/SettingsBinding.h"
 #include "window/SymbolIcon.h"
 
@@ -48,8 +47,7 @@ InspectorPane::InspectorPane(DateInspectorController& inspector, SettingsStore& 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(space, space, space, space);
     layout->setSpacing(space);
-    QWidget* kindChooser = makeKindChooser();
-    layout->addWidget(kindChooser);
+    layout->addWidget(makeKindChooser());
     layout->addSpacing(space);
     layout->addWidget(heading(localized("Start Date"), startPicker_));
     layout->addWidget(startPicker_);
@@ -57,7 +55,6 @@ InspectorPane::InspectorPane(DateInspectorController& inspector, SettingsStore& 
     layout->addLayout(endHeading);
     layout->addWidget(endPicker_);
     layout->addStretch();
-    orderFocus({kindChooser, startPicker_, lock_, endPicker_});
 
     connect(startPicker_, &QCalendarWidget::clicked, this,
             [this](QDate date) { inspector_.pickStartDate(noonOf(date)); });
@@ -93,7 +90,7 @@ QWidget* InspectorPane::makeKindChooser() {
         button->setAccessibleName(button->text());
         button->setCheckable(true);
         button->setAutoRaise(false);
-        button->setFocusPolicy(Qt::StrongFocus);
+        button->setFocusPolicy(Qt::ClickFocus);
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         // Pressed or not is hard to tell in dark colours; the selection's colour is not.
         connect(button, &QToolButton::toggled, button, [button](bool isChecked) {
@@ -103,6 +100,8 @@ QWidget* InspectorPane::makeKindChooser() {
                 palette.setColor(QPalette::ButtonText, palette.color(QPalette::HighlightedText));
             }
             button->setPalette(palette);
+            // Tab goes to the chosen kind, the arrow keys go on from there.
+            button->setFocusPolicy(isChecked ? Qt::StrongFocus : Qt::ClickFocus);
         });
         kinds_->addButton(button, kind);
         layout->addWidget(button);

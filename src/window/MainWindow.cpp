@@ -64,7 +64,6 @@ MainWindow::MainWindow(Collaborators collaborators, QWidget* parent)
         with_.settings, *panes_, items.text, items.csv, items.tsv, items.notes});
     views_->awakeFromNib();
     followExportPanes();
-    orderTabs();
 }
 
 MainWindow::~MainWindow() = default;
@@ -72,6 +71,8 @@ MainWindow::~MainWindow() = default;
 void MainWindow::makePanes() {
     calendarPane_ =
         new CalendarPane(with_.calendarsArrayController, with_.calendarActions.colorOf, this);
+    groupChooser_ = new GroupChooser(with_.calendarGroups, with_.settings, *this);
+    calendarPane_->setHeader(*groupChooser_);
     auto* inspector =
         new InspectorPane(with_.dateInspectorController, with_.settings, with_.calendar, this);
     auto* rate = new RatePane(with_.calendarsArrayController, with_.eventItemViewController,
@@ -149,7 +150,7 @@ QWidget* MainWindow::makeCentre() {
     return centre;
 }
 
-void MainWindow::orderTabs() {
+bool MainWindow::focusNextPrevChild(bool next) {
     QList<QWidget*> areas{findChild<QToolBar*>(), panes_->container(Pane::List),
                           panes_->container(Pane::Item)};
     for (ExportPane* pane : findChildren<ExportPane*>()) {
@@ -157,7 +158,13 @@ void MainWindow::orderTabs() {
     }
     areas << panes_->container(Pane::Rate) << &with_.resultsPane
           << panes_->container(Pane::Inspector);
-    orderFocus(areas);
+    QWidget* const neighbour =
+        neighbourInFocusOrder(areas, focusWidget(), next ? FocusStep::Next : FocusStep::Previous);
+    if (neighbour == nullptr) {
+        return QMainWindow::focusNextPrevChild(next);
+    }
+    neighbour->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void MainWindow::followState() {
@@ -196,6 +203,11 @@ void MainWindow::showTableOrReason() {
         emptyState_->show(localized("Quillet may not read your calendars yet"),
                           localized("Your events appear here once you allow it."),
                           localized("Allow Calendar Access…"), with_.calendarActions.allowAccess);
+    } else if (calendars.arrangedCount() == 0 && !calendars.content()->empty()) {
+        emptyState_->show(localized("No calendar in this group"),
+                          localized("Tick the calendars that belong to it."),
+                          localized("Edit Calendar Groups…"),
+                          [this] { groupChooser_->openSheet(); });
     } else if (calendars.arrangedCount() == 0) {
         emptyState_->show(localized("No calendars"),
                           localized("Add a folder or a file of calendars, or drop one here."),

@@ -14,6 +14,7 @@
 #include "results/SearchFieldController.h"
 #include "window/CalendarListModel.h"
 #include "window/ColumnLayoutsPopoverController.h"
+#include "window/GroupChooser.h"
 #include "window/InterfaceActions.h"
 #include "window/PreferencesPanes.h"
 #include "window/ReportPane.h"
@@ -79,6 +80,7 @@ public:
         const CalendarArithmetic& calendar;
         ListController<Event>& eventsArrayController;
         CalendarsArrayController& calendarsArrayController;
+        WindowGroups calendarGroups;
         DateInspectorController& dateInspectorController;
         EventItemViewController& eventItemViewController;
         WindowExports exports;
@@ -105,6 +107,8 @@ public:
     void refreshProblems();
 
 protected:
+    /// Tab follows the eye.
+    bool focusNextPrevChild(bool next) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
 
@@ -132,7 +136,6 @@ private:
                              const QKeySequence& shortcut);
     void makeStepActions();
     /// Tab goes as the eye does: the toolbar, then the panes from the start to the end.
-    void orderTabs();
     void followState();
     void followExportPanes();
     void showPeriodTitle();
@@ -145,6 +148,7 @@ private:
 
     Collaborators with_;
     CalendarPane* calendarPane_ = nullptr;
+    GroupChooser* groupChooser_ = nullptr;
     QLabel* periodTitle_ = nullptr;
     QStackedWidget* centreStack_ = nullptr;
     EmptyState* emptyState_ = nullptr;

@@ -212,6 +212,8 @@ void MainWindow::makeCalendarsMenu() {
               [this] { chooseCalendarToAdd(); });
     addAction(menu, localized("Allow Calendar A&ccess…"), "requestEventCalendarsAccess", {},
               with_.calendarActions.allowAccess);
+    addAction(menu, localized("Edit Calendar &Groups…"), "openCalendarGroupsSheet",
+              QKeySequence(Qt::CTRL | Qt::Key_G), [this] { groupChooser_->openSheet(); });
     addAction(menu, localized("&Tick or Clear All"), "calendarTableViewClicked",
               QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A), [this] {
                   auto& calendars = with_.calendarsArrayController;

@@ -1,51 +1,23 @@
 #include "window/NameListEditor.h"
 
 #include "platform/Localized.h"
+#include "window/NameListView.h"
 
-#include <QAbstractItemDelegate>
 #include <QHBoxLayout>
-#include <QListView>
 #include <QPushButton>
 #include <QShortcut>
-#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 namespace quillet {
-
-namespace {
-
-/// Gives names the room of the rows in the window's tables, and their editors with them.
-class RowHeight final : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
-                                 const QModelIndex& index) const override {
-        const QSize size = QStyledItemDelegate::sizeHint(option, index);
-        return {size.width(), std::max(size.height(), option.fontMetrics.height() * 7 / 4)};
-    }
-    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
-                              const QModelIndex& /*index*/) const override {
-        editor->setGeometry(option.rect);
-    }
-};
-
-} // namespace
 
 NameListEditor::NameListEditor(NameList list, const QString& accessibleName, QWidget* parent)
     : QWidget(parent)
     , list_(list)
     , model_(new NameListModel(std::move(list), this))
-    , view_(new QListView(this))
+    , view_(new NameListView(*model_, this))
     , buttonRow_(new QHBoxLayout) {
-    view_->setModel(model_);
     view_->setAccessibleName(accessibleName);
     view_->setToolTip(localized("F2 or a double click renames"));
-    view_->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed);
-    view_->setSelectionMode(QAbstractItemView::SingleSelection);
-    view_->setUniformItemSizes(true);
-    view_->setItemDelegate(new RowHeight(view_));
-    view_->setTabKeyNavigation(false);
     setFocusProxy(view_);
     constexpr int shownRows = 12;
     view_->setMinimumHeight(fontMetrics().height() * shownRows);
@@ -77,10 +49,9 @@ QPushButton* NameListEditor::addButton(const QString& text, const char* name, Ne
     button->setObjectName(QString::fromLatin1(name));
     // The Return key belongs to the list.
     button->setAutoDefault(false);
-    connect(button, &QPushButton::clicked, this, [this, action = std::move(action)] {
-        commitEditing();
-        action();
-    });
+    connect(button, &QPushButton::clicked, this, &NameListEditor::commitEditing);
+    // Later: an assistive program's press must be answered before an alert waits for the user.
+    connect(button, &QPushButton::clicked, this, std::move(action), Qt::QueuedConnection);
     buttonRow_->addWidget(button);
     if (needs == Needs::Selection) {
         selectionButtons_.push_back(button);
@@ -107,13 +78,7 @@ void NameListEditor::editName(std::size_t row) {
 }
 
 void NameListEditor::commitEditing() {
-    QWidget* editor = view_->indexWidget(view_->currentIndex());
-    if (editor == nullptr) {
-        return;
-    }
-    QAbstractItemDelegate* delegate = view_->itemDelegate();
-    Q_EMIT delegate->commitData(editor);
-    Q_EMIT delegate->closeEditor(editor);
+    view_->commitEditing();
 }
 
 void NameListEditor::takeSelectionFromView() {

@@ -6,10 +6,11 @@
 
 class QAction;
 class QHBoxLayout;
-class QListView;
 class QPushButton;
 
 namespace quillet {
+
+class NameListView;
 
 /// A list of names, renamed in place, one of which is selected, over a row of buttons. Its
 /// selection and that of the records are one.
@@ -44,7 +45,7 @@ private:
 
     NameList list_;
     NameListModel* model_;
-    QListView* view_;
+    NameListView* view_;
     QHBoxLayout* buttonRow_;
     std::vector<QPushButton*> selectionButtons_;
     bool isFollowing_ = false;

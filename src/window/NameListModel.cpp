@@ -1,14 +1,23 @@
 #include "window/NameListModel.h"
 
+#include "platform/Localized.h"
+
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <utility>
 
 namespace quillet {
 
+QString shownName(const QString& name) {
+    const QString line = name.simplified();
+    return line.isEmpty() ? localized("(no name)") : line;
+}
+
 NameListModel::NameListModel(NameList list, QObject* parent)
     : QAbstractListModel(parent)
     , list_(std::move(list))
-    , names_(currentNames()) {
+    , rows_(currentRows()) {
     connect(&list_.notices, &ListControllerNotices::arrangedObjectsChanged, this,
             &NameListModel::follow);
 }
@@ -16,79 +25,90 @@ NameListModel::NameListModel(NameList list, QObject* parent)
 NameListModel::~NameListModel() = default;
 
 int NameListModel::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(names_.size());
+    return parent.isValid() ? 0 : static_cast<int>(rows_.size());
 }
 
 QVariant NameListModel::data(const QModelIndex& index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
     }
-    const QString& name = names_.at(index.row());
+    const Row& row = rows_[static_cast<std::size_t>(index.row())];
     switch (role) {
     case Qt::DisplayRole:
-        return name.simplified();
+        return shownName(row.name);
     case Qt::EditRole:
-        return name;
+        return row.name;
+    case Qt::ToolTipRole:
+        // Plain, whatever a calendar's title looks like.
+        return shownName(row.name).toHtmlEscaped();
+    case Qt::CheckStateRole:
+        return list_.tick ? QVariant(row.isTicked ? Qt::Checked : Qt::Unchecked) : QVariant();
     default:
         return {};
     }
 }
 
 bool NameListModel::setData(const QModelIndex& index, const QVariant& value, int role) {
-    if (role != Qt::EditRole || !checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return false;
     }
-    const QString name = value.toString();
-    if (name.trimmed().isEmpty() || name == names_.at(index.row())) {
+    const auto row = static_cast<std::size_t>(index.row());
+    if (role == Qt::CheckStateRole && list_.tick) {
+        list_.tick(row, value.value<Qt::CheckState>() == Qt::Checked);
+        return true;
+    }
+    static const QRegularExpression lineBreaks(QStringLiteral("[\\r\\n\\x{2028}\\x{2029}]+"));
+    const QString name = value.toString().replace(lineBreaks, QStringLiteral(" ")).trimmed();
+    if (role != Qt::EditRole || !list_.rename || name.isEmpty() || name == rows_[row].name) {
         return false;
     }
-    list_.rename(static_cast<std::size_t>(index.row()), name);
+    list_.rename(row, name);
     return true;
 }
 
 Qt::ItemFlags NameListModel::flags(const QModelIndex& index) const {
-    return index.isValid() ? QAbstractListModel::flags(index) | Qt::ItemIsEditable
-                           : QAbstractListModel::flags(index);
+    Qt::ItemFlags flags = QAbstractListModel::flags(index);
+    if (index.isValid()) {
+        flags.setFlag(Qt::ItemIsEditable, static_cast<bool>(list_.rename));
+        flags.setFlag(Qt::ItemIsUserCheckable, static_cast<bool>(list_.tick));
+    }
+    return flags;
 }
 
 void NameListModel::follow() {
-    const QStringList next = currentNames();
-    const int shorter = static_cast<int>(std::min(names_.size(), next.size()));
-    int front = 0;
-    while (front < shorter && names_.at(front) == next.at(front)) {
-        ++front;
-    }
+    std::vector<Row> next = currentRows();
+    const auto [oldFront, newFront] = std::ranges::mismatch(rows_, next);
+    const auto front = static_cast<int>(oldFront - rows_.begin());
+    const auto rest = std::min(rows_.end() - oldFront, next.end() - newFront);
     int back = 0;
-    while (back < shorter - front &&
-           names_.at(names_.size() - 1 - back) == next.at(next.size() - 1 - back)) {
+    while (back < rest && rows_.rbegin()[back] == next.rbegin()[back]) {
         ++back;
     }
-    const int oldEnd = static_cast<int>(names_.size()) - back;
+    const int oldEnd = static_cast<int>(rows_.size()) - back;
     const int newEnd = static_cast<int>(next.size()) - back;
-    const int renamedEnd = std::min(oldEnd, newEnd);
-    if (front < renamedEnd) {
-        for (int row = front; row < renamedEnd; ++row) {
-            names_[row] = next.at(row);
-        }
-        Q_EMIT dataChanged(index(front), index(renamedEnd - 1));
+    const int changedEnd = std::min(oldEnd, newEnd);
+    if (front < changedEnd) {
+        std::copy(next.begin() + front, next.begin() + changedEnd, rows_.begin() + front);
+        Q_EMIT dataChanged(index(front), index(changedEnd - 1));
     }
-    if (renamedEnd < oldEnd) {
-        beginRemoveRows({}, renamedEnd, oldEnd - 1);
-        names_.remove(renamedEnd, oldEnd - renamedEnd);
+    if (changedEnd < oldEnd) {
+        beginRemoveRows({}, changedEnd, oldEnd - 1);
+        rows_ = std::move(next);
         endRemoveRows();
-    } else if (renamedEnd < newEnd) {
-        beginInsertRows({}, renamedEnd, newEnd - 1);
-        names_ = next;
+    } else if (changedEnd < newEnd) {
+        beginInsertRows({}, changedEnd, newEnd - 1);
+        rows_ = std::move(next);
         endInsertRows();
     }
 }
 
-QStringList NameListModel::currentNames() const {
-    QStringList names;
+std::vector<NameListModel::Row> NameListModel::currentRows() const {
+    std::vector<Row> rows;
     for (std::size_t row = 0; row < list_.count(); ++row) {
-        names << list_.name(row);
+        rows.push_back(
+            {.name = list_.name(row), .isTicked = list_.isTicked && list_.isTicked(row)});
     }
-    return names;
+    return rows;
 }
 
 } // namespace quillet

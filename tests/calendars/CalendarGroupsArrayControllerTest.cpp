@@ -74,6 +74,22 @@ TEST_F(CalendarGroupsArrayControllerTest, AStoredListThatWasEmptiedGetsNoSecondD
     EXPECT_EQ(alerts.shown.back().messageText, QStringLiteral("Cannot delete All Calendars"));
 }
 
+TEST_F(CalendarGroupsArrayControllerTest, AddingToAnEmptiedListPutsAllCalendarsFirstAgain) {
+    storeGroups({});
+    wake();
+    controller->addCalendarGroup();
+    EXPECT_EQ(storedNames(), (QStringList{"All Calendars", "New Group 1"}));
+    EXPECT_EQ(controller->selectionIndex(), 1U);
+}
+
+TEST_F(CalendarGroupsArrayControllerTest, PositionsBeyondTheListChangeNothing) {
+    storeGroups({"All Calendars", "Clients"});
+    wake();
+    controller->setCalendarGroupName(2, "Nobody");
+    controller->setCalendarGroupArray(2, {CalendarGroupEntry()});
+    EXPECT_EQ(storedNames(), (QStringList{"All Calendars", "Clients"}));
+}
+
 TEST_F(CalendarGroupsArrayControllerTest, TheFirstGroupGetsItsNameBackAtEveryStart) {
     storeGroups({"Alle Kalender", "Clients"});
     wake();

@@ -156,14 +156,26 @@ class Quillet:
         type_keys(text)
         press_key("Return")
 
-    @staticmethod
-    def _focus(control):
+    def focused(self):
+        """The control that has the focus; of tabs the bar has it, whatever the chosen one says."""
+        return next((control for control in self._controls()
+                     if control.get_role() != ROLE.PAGE_TAB
+                     and has_state(control, Atspi.StateType.FOCUSED)), None)
+
+    def press_tab(self, key="Tab"):
+        """And waits until the focus has moved: keys that follow would go elsewhere."""
+        before = wait_for("a control with the focus", self.focused)
+        press_key(key)
+        wait_for(f'the focus to leave "{before.get_name()}"',
+                 lambda: not has_state(before, Atspi.StateType.FOCUSED))
+
+    def _focus(self, control):
         """Tables take the focus from keys only."""
         if not control.get_component_iface().grab_focus():
             for _ in range(60):
                 if has_state(control, Atspi.StateType.FOCUSED):
                     break
-                press_key("Tab")
+                self.press_tab()
         wait_for(f'"{control.get_name()}" to have the focus',
                  lambda: has_state(control, Atspi.StateType.FOCUSED))
 
@@ -197,6 +209,9 @@ class Quillet:
 
     def wait_for_calendars(self, titles):
         wait_for(f"the calendars {titles}", lambda: self.calendar_titles() == titles)
+
+    def focus(self, name, roles=None):
+        self._focus(self.control(name, roles))
 
     def toggle_calendar(self, title):
         """With the keyboard; tables take no action of a single cell."""

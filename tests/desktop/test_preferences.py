@@ -142,7 +142,8 @@ def main():
         check_layouts(program)
     assert program.log == "", f"the program logged:\n{program.log}"
     with Quillet() as program:
-        program.control("Column Layouts", {ROLE.LIST})
+        program.wait_for_titles(titles(entries(0)))
+        press_key("ctrl+l")
         assert names(program, "Column Layouts") == ["Default", "Wide"], "kept for the next start"
 
 

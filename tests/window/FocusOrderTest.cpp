@@ -21,37 +21,68 @@ protected:
         }
         return named->accessibleName();
     }
-    /// The controls that Tab reaches, from the first on.
-    QStringList walk(const QString& first) {
+    /// The controls that the key reaches, from where the focus is until it is there again.
+    QStringList walk(Qt::Key key) {
         QStringList names;
-        for (QWidget* control = window->nextInFocusChain(); control != window.get();
-             control = control->nextInFocusChain()) {
-            if (control->isVisible() && control->isEnabled() &&
-                (control->focusPolicy() & Qt::TabFocus) != 0 && control->focusProxy() == nullptr) {
-                names << nameOf(*control);
+        QWidget* const first = window->focusWidget();
+        constexpr int moreThanThereAre = 200;
+        do {
+            names << nameOf(*window->focusWidget());
+            QTest::keyClick(window->focusWidget(), key);
+        } while (window->focusWidget() != first && names.size() < moreThanThereAre);
+        return names;
+    }
+    void openWithPane(ActionToolbarItem& pane) {
+        open();
+        pane.action().trigger();
+        fetch();
+        for (QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
+            if (nameOf(*button) == QStringLiteral("Previous")) {
+                button->setFocus();
             }
         }
-        std::ranges::rotate(names, std::ranges::find(names, first));
-        return names;
+        ASSERT_EQ(nameOf(*window->focusWidget()), QStringLiteral("Previous"));
+    }
+    void expectWalk(const QStringList& expected) {
+        const QStringList names = walk(Qt::Key_Tab);
+        qsizetype last = -1;
+        for (const QString& name : expected) {
+            const qsizetype at = names.indexOf(name);
+            EXPECT_GT(at, last) << name.toStdString() << " in " << names.join(", ").toStdString();
+            last = at;
+        }
     }
 };
 
 } // namespace
 
-TEST_F(FocusOrderTest, TabFollowsTheEye) {
-    open();
-    exportItems.notes.action().trigger();
-    fetch();
-    const QStringList names = walk("Previous");
-    qsizetype last = -1;
-    for (const char* name :
-         {"Previous", "Current", "Next", "Calendars", "Events", "Save…", "Close", "Calendar",
-          "Location", "Event Notes", "Hourly Rate", "One rate for all calendars", "Results", "Day",
-          "Custom", "Start Date", "Locked", "End Date"}) {
-        const qsizetype at = names.indexOf(QString::fromUtf8(name));
-        EXPECT_GT(at, last) << name << " in " << names.join(", ").toStdString();
-        last = at;
-    }
+TEST_F(FocusOrderTest, TabFollowsTheEyeAndComesRound) {
+    openWithPane(exportItems.text);
+    expectWalk({"Previous", "Current", "Next", "Search Events", "Calendar Group", "Calendars",
+                "Layouts", "Events", "Options…", "Save…", "Close", "Text Report", "Hourly Rate",
+                "One rate for all calendars", "Results", "Month", "Start Date", "Locked",
+                "End Date"});
+}
+
+TEST_F(FocusOrderTest, SwitchesBelowTheButtonsComeAfterThem) {
+    openWithPane(exportItems.notes);
+    expectWalk({"Events", "Save…", "Close", "Calendar", "Location", "Event Notes", "Hourly Rate"});
+}
+
+TEST_F(FocusOrderTest, BacktabGoesTheSameWayBack) {
+    openWithPane(exportItems.text);
+    QStringList names = walk(Qt::Key_Tab);
+    std::reverse(names.begin() + 1, names.end());
+    EXPECT_EQ(walk(Qt::Key_Backtab), names);
+}
+
+TEST_F(FocusOrderTest, RowsAreReadFromTheRightWhereTheLanguageIs) {
+    openWithPane(exportItems.text);
+    window->setLayoutDirection(Qt::RightToLeft);
+    QApplication::processEvents();
+    const QStringList names = walk(Qt::Key_Tab);
+    EXPECT_LT(names.indexOf("Previous"), names.indexOf("Next"));
+    EXPECT_LT(names.indexOf("Save…"), names.indexOf("Close"));
 }
 
 } // namespace quillet

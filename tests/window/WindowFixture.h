@@ -3,6 +3,7 @@
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuCollator.h"
 #include "backends/icu/IcuLocaleFormats.h"
+#include "eventdata/MissedChanges.h"
 #include "eventtable/ColumnLayout.h"
 #include "eventtable/EventItemTableView.h"
 #include "eventtable/EventOrder.h"
@@ -58,6 +59,9 @@ protected:
 
     void open() {
         calendars.awakeFromNib();
+        groups.awakeFromNib();
+        checklist.awakeFromNib();
+        groupsFilter.awakeFromNib();
         inspector.awakeFromNib();
         applyPlacements(defaultColumnPlacements(), *table);
         table->follow(copying);
@@ -70,6 +74,7 @@ protected:
         txtSettings.awakeFromNib();
         report.awakeFromNib();
         itemView.awakeFromNib();
+        missedChanges.awakeFromNib();
         eventsController.awakeFromNib();
         window = std::make_unique<MainWindow>(MainWindow::Collaborators{
             settings,
@@ -77,6 +82,7 @@ protected:
             gregorian,
             events,
             calendars,
+            WindowGroups{groups, checklist, groupsFilter},
             inspector,
             itemView,
             WindowExports{exportCSV,
@@ -141,8 +147,12 @@ protected:
     EventFields fields{billing, formats, gregorian, gregorian};
     ListController<Event> events{eventIdentityHash, isSameEvent};
     CalendarsArrayController calendars{settings, manager, formats, timer};
+    CalendarGroupsArrayController groups{settings, alerts};
+    CalendarGroupsArraySelectedCalendarsArrayController checklist{settings, groups};
+    CalendarGroupsController groupsFilter{{settings, calendars, groups, timer}};
     EventsController eventsController{
         {manager, settings, billing, gregorian, events, calendars, background, main}};
+    MissedChanges missedChanges{{settings, manager, calendars, main}};
     DateInspectorController inspector{{settings, clock, gregorian, gregorian, formats}};
     TimeColumnActions menuTimeColumns;
     TimeColumnActions headerTimeColumns;

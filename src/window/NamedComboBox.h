@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QComboBox>
+
+namespace quillet {
+
+/// A combo box that assistive programs know by its accessible name, with the chosen entry as its
+/// value and description. The toolkit's own goes by the chosen entry.
+class NamedComboBox : public QComboBox {
+    Q_OBJECT
+
+public:
+    explicit NamedComboBox(QWidget* parent = nullptr);
+    ~NamedComboBox() override;
+    Q_DISABLE_COPY_MOVE(NamedComboBox)
+};
+
+} // namespace quillet
