@@ -16,6 +16,10 @@
         <translation>%1 Termine ohne Anfang</translation>
     </message>
     <message>
+        <source>(no name)</source>
+        <translation>(ohne Namen)</translation>
+    </message>
+    <message>
         <source>A folder holds a calendar with one file an event; a file holds a whole calendar.</source>
         <translation>Ein Ordner enthält einen Kalender mit einer Datei je Termin, eine Datei einen ganzen Kalender.</translation>
     </message>
@@ -164,6 +168,14 @@
         <translation>Kalender</translation>
     </message>
     <message>
+        <source>Calendar Group</source>
+        <translation>Kalendergruppe</translation>
+    </message>
+    <message>
+        <source>Calendar Groups</source>
+        <translation>Kalendergruppen</translation>
+    </message>
+    <message>
         <source>&amp;Calendars</source>
         <translation>&amp;Kalender</translation>
     </message>
@@ -178,6 +190,14 @@
     <message>
         <source>Calendars (*.ics)</source>
         <translation>Kalender (*.ics)</translation>
+    </message>
+    <message>
+        <source>&amp;Calendars in Group</source>
+        <translation>&amp;Kalender der Gruppe</translation>
+    </message>
+    <message>
+        <source>Calendars in Group</source>
+        <translation>Kalender der Gruppe</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -356,6 +376,22 @@
         <translation>&amp;Bearbeiten</translation>
     </message>
     <message>
+        <source>Edit Calendar Groups</source>
+        <translation>Kalendergruppen bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit calendar groups</source>
+        <translation>Kalendergruppen bearbeiten</translation>
+    </message>
+    <message>
+        <source>Edit Calendar &amp;Groups…</source>
+        <translation>Kalender&amp;gruppen bearbeiten…</translation>
+    </message>
+    <message>
+        <source>Edit Calendar Groups…</source>
+        <translation>Kalendergruppen bearbeiten…</translation>
+    </message>
+    <message>
         <source>&amp;Encoding of saved files:</source>
         <translation>&amp;Kodierung gespeicherter Dateien:</translation>
     </message>
@@ -438,6 +474,10 @@
     <message>
         <source>Gives every column its first title back</source>
         <translation>Gibt jeder Spalte ihren ursprünglichen Titel zurück</translation>
+    </message>
+    <message>
+        <source>&amp;Groups</source>
+        <translation>&amp;Gruppen</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -634,6 +674,10 @@
     <message>
         <source>Next</source>
         <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>No calendar in this group</source>
+        <translation>Kein Kalender in dieser Gruppe</translation>
     </message>
     <message>
         <source>No calendar is ticked</source>
@@ -926,6 +970,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Wählen Sie einen Kalender, um seinen Stundensatz festzulegen</translation>
     </message>
     <message>
+        <source>Select a group to choose its calendars.</source>
+        <translation>Wählen Sie eine Gruppe, um ihre Kalender festzulegen.</translation>
+    </message>
+    <message>
         <source>Select &amp;All</source>
         <translation>&amp;Alles auswählen</translation>
     </message>
@@ -1058,6 +1106,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Die Kennung, die der Kalender der Erinnerung gibt</translation>
     </message>
     <message>
+        <source>The calendars of the chosen group are listed</source>
+        <translation>Aufgeführt sind die Kalender der gewählten Gruppe</translation>
+    </message>
+    <message>
         <source>The first column is the calendar's own identifier of the event</source>
         <translation>Die erste Spalte ist die Kennung, die der Kalender dem Termin gibt</translation>
     </message>
@@ -1150,6 +1202,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Dies gilt für CSV- und TSV-Dateien gleichermaßen.</translation>
     </message>
     <message>
+        <source>This group stands for all calendars.</source>
+        <translation>Diese Gruppe steht für alle Kalender.</translation>
+    </message>
+    <message>
         <source>This version lists events only. What you choose here is kept for exports of reminders.</source>
         <translation>Diese Version listet nur Termine auf. Was Sie hier wählen, wird für Exporte von Erinnerungen aufbewahrt.</translation>
     </message>
@@ -1160,6 +1216,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     <message>
         <source>&amp;Tick or Clear All</source>
         <translation>&amp;Alle aus- oder abwählen</translation>
+    </message>
+    <message>
+        <source>Tick the calendars that belong to it.</source>
+        <translation>Kreuzen Sie die Kalender an, die dazugehören.</translation>
     </message>
     <message>
         <source>Tick the calendars whose time counts.</source>

@@ -16,6 +16,10 @@
         <translation>%1 eventos sin inicio</translation>
     </message>
     <message>
+        <source>(no name)</source>
+        <translation>(sin nombre)</translation>
+    </message>
+    <message>
         <source>A folder holds a calendar with one file an event; a file holds a whole calendar.</source>
         <translation>Una carpeta contiene un calendario con un archivo por evento; un archivo contiene un calendario entero.</translation>
     </message>
@@ -164,6 +168,14 @@
         <translation>Calendario</translation>
     </message>
     <message>
+        <source>Calendar Group</source>
+        <translation>Grupo de calendarios</translation>
+    </message>
+    <message>
+        <source>Calendar Groups</source>
+        <translation>Grupos de calendarios</translation>
+    </message>
+    <message>
         <source>&amp;Calendars</source>
         <translation>&amp;Calendarios</translation>
     </message>
@@ -178,6 +190,14 @@
     <message>
         <source>Calendars (*.ics)</source>
         <translation>Calendarios (*.ics)</translation>
+    </message>
+    <message>
+        <source>&amp;Calendars in Group</source>
+        <translation>&amp;Calendarios del grupo</translation>
+    </message>
+    <message>
+        <source>Calendars in Group</source>
+        <translation>Calendarios del grupo</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -356,6 +376,22 @@
         <translation>&amp;Editar</translation>
     </message>
     <message>
+        <source>Edit Calendar Groups</source>
+        <translation>Editar grupos de calendarios</translation>
+    </message>
+    <message>
+        <source>Edit calendar groups</source>
+        <translation>Editar los grupos de calendarios</translation>
+    </message>
+    <message>
+        <source>Edit Calendar &amp;Groups…</source>
+        <translation>Editar &amp;grupos de calendarios…</translation>
+    </message>
+    <message>
+        <source>Edit Calendar Groups…</source>
+        <translation>Editar grupos de calendarios…</translation>
+    </message>
+    <message>
         <source>&amp;Encoding of saved files:</source>
         <translation>&amp;Codificación de los archivos guardados:</translation>
     </message>
@@ -438,6 +474,10 @@
     <message>
         <source>Gives every column its first title back</source>
         <translation>Devuelve a cada columna su título original</translation>
+    </message>
+    <message>
+        <source>&amp;Groups</source>
+        <translation>&amp;Grupos</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -634,6 +674,10 @@
     <message>
         <source>Next</source>
         <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>No calendar in this group</source>
+        <translation>Ningún calendario en este grupo</translation>
     </message>
     <message>
         <source>No calendar is ticked</source>
@@ -926,6 +970,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Seleccione un calendario para fijar su tarifa por hora</translation>
     </message>
     <message>
+        <source>Select a group to choose its calendars.</source>
+        <translation>Seleccione un grupo para elegir sus calendarios.</translation>
+    </message>
+    <message>
         <source>Select &amp;All</source>
         <translation>Seleccionar &amp;todo</translation>
     </message>
@@ -1058,6 +1106,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>El identificador que el calendario da al recordatorio</translation>
     </message>
     <message>
+        <source>The calendars of the chosen group are listed</source>
+        <translation>Se muestran los calendarios del grupo elegido</translation>
+    </message>
+    <message>
         <source>The first column is the calendar's own identifier of the event</source>
         <translation>La primera columna es el identificador que el calendario da al evento</translation>
     </message>
@@ -1150,6 +1202,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Esto vale tanto para los archivos CSV como para los TSV.</translation>
     </message>
     <message>
+        <source>This group stands for all calendars.</source>
+        <translation>Este grupo representa todos los calendarios.</translation>
+    </message>
+    <message>
         <source>This version lists events only. What you choose here is kept for exports of reminders.</source>
         <translation>Esta versión solo muestra eventos. Lo que elija aquí se guarda para exportaciones de recordatorios.</translation>
     </message>
@@ -1160,6 +1216,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>&amp;Tick or Clear All</source>
         <translation>&amp;Marcar o desmarcar todos</translation>
+    </message>
+    <message>
+        <source>Tick the calendars that belong to it.</source>
+        <translation>Marque los calendarios que pertenecen a él.</translation>
     </message>
     <message>
         <source>Tick the calendars whose time counts.</source>

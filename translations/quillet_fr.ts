@@ -16,6 +16,10 @@
         <translation>%1 événements sans début</translation>
     </message>
     <message>
+        <source>(no name)</source>
+        <translation>(sans nom)</translation>
+    </message>
+    <message>
         <source>A folder holds a calendar with one file an event; a file holds a whole calendar.</source>
         <translation>Un dossier contient un calendrier avec un fichier par événement ; un fichier contient un calendrier entier.</translation>
     </message>
@@ -164,6 +168,14 @@
         <translation>Calendrier</translation>
     </message>
     <message>
+        <source>Calendar Group</source>
+        <translation>Groupe de calendriers</translation>
+    </message>
+    <message>
+        <source>Calendar Groups</source>
+        <translation>Groupes de calendriers</translation>
+    </message>
+    <message>
         <source>&amp;Calendars</source>
         <translation>&amp;Calendriers</translation>
     </message>
@@ -178,6 +190,14 @@
     <message>
         <source>Calendars (*.ics)</source>
         <translation>Calendriers (*.ics)</translation>
+    </message>
+    <message>
+        <source>&amp;Calendars in Group</source>
+        <translation>&amp;Calendriers du groupe</translation>
+    </message>
+    <message>
+        <source>Calendars in Group</source>
+        <translation>Calendriers du groupe</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -356,6 +376,22 @@
         <translation>É&amp;dition</translation>
     </message>
     <message>
+        <source>Edit Calendar Groups</source>
+        <translation>Modifier les groupes de calendriers</translation>
+    </message>
+    <message>
+        <source>Edit calendar groups</source>
+        <translation>Modifier les groupes de calendriers</translation>
+    </message>
+    <message>
+        <source>Edit Calendar &amp;Groups…</source>
+        <translation>Modifier les &amp;groupes de calendriers…</translation>
+    </message>
+    <message>
+        <source>Edit Calendar Groups…</source>
+        <translation>Modifier les groupes de calendriers…</translation>
+    </message>
+    <message>
         <source>&amp;Encoding of saved files:</source>
         <translation>&amp;Encodage des fichiers enregistrés :</translation>
     </message>
@@ -438,6 +474,10 @@
     <message>
         <source>Gives every column its first title back</source>
         <translation>Rend à chaque colonne son titre d’origine</translation>
+    </message>
+    <message>
+        <source>&amp;Groups</source>
+        <translation>&amp;Groupes</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -634,6 +674,10 @@
     <message>
         <source>Next</source>
         <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>No calendar in this group</source>
+        <translation>Aucun calendrier dans ce groupe</translation>
     </message>
     <message>
         <source>No calendar is ticked</source>
@@ -926,6 +970,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Sélectionnez un calendrier pour définir son taux horaire</translation>
     </message>
     <message>
+        <source>Select a group to choose its calendars.</source>
+        <translation>Sélectionnez un groupe pour choisir ses calendriers.</translation>
+    </message>
+    <message>
         <source>Select &amp;All</source>
         <translation>&amp;Tout sélectionner</translation>
     </message>
@@ -1058,6 +1106,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>L’identifiant que le calendrier donne au rappel</translation>
     </message>
     <message>
+        <source>The calendars of the chosen group are listed</source>
+        <translation>Les calendriers du groupe choisi sont affichés</translation>
+    </message>
+    <message>
         <source>The first column is the calendar's own identifier of the event</source>
         <translation>La première colonne est l’identifiant que le calendrier donne à l’événement</translation>
     </message>
@@ -1150,6 +1202,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Ces réglages valent pour les fichiers CSV comme pour les fichiers TSV.</translation>
     </message>
     <message>
+        <source>This group stands for all calendars.</source>
+        <translation>Ce groupe représente tous les calendriers.</translation>
+    </message>
+    <message>
         <source>This version lists events only. What you choose here is kept for exports of reminders.</source>
         <translation>Cette version n’affiche que des événements. Vos choix sont conservés ici pour les exportations de rappels.</translation>
     </message>
@@ -1160,6 +1216,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>&amp;Tick or Clear All</source>
         <translation>&amp;Tout cocher ou décocher</translation>
+    </message>
+    <message>
+        <source>Tick the calendars that belong to it.</source>
+        <translation>Cochez les calendriers qui en font partie.</translation>
     </message>
     <message>
         <source>Tick the calendars whose time counts.</source>

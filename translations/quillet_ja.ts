@@ -16,6 +16,10 @@
         <translation>開始のない予定が %1 件</translation>
     </message>
     <message>
+        <source>(no name)</source>
+        <translation>（名前なし）</translation>
+    </message>
+    <message>
         <source>A folder holds a calendar with one file an event; a file holds a whole calendar.</source>
         <translation>フォルダーは 1 予定 1 ファイルのカレンダー、ファイルは 1 つのカレンダー全体です。</translation>
     </message>
@@ -164,6 +168,14 @@
         <translation>カレンダー</translation>
     </message>
     <message>
+        <source>Calendar Group</source>
+        <translation>カレンダーグループ</translation>
+    </message>
+    <message>
+        <source>Calendar Groups</source>
+        <translation>カレンダーグループ</translation>
+    </message>
+    <message>
         <source>&amp;Calendars</source>
         <translation>カレンダー(&amp;C)</translation>
     </message>
@@ -178,6 +190,14 @@
     <message>
         <source>Calendars (*.ics)</source>
         <translation>カレンダー (*.ics)</translation>
+    </message>
+    <message>
+        <source>&amp;Calendars in Group</source>
+        <translation>グループのカレンダー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Calendars in Group</source>
+        <translation>グループのカレンダー</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -356,6 +376,22 @@
         <translation>編集(&amp;E)</translation>
     </message>
     <message>
+        <source>Edit Calendar Groups</source>
+        <translation>カレンダーグループを編集</translation>
+    </message>
+    <message>
+        <source>Edit calendar groups</source>
+        <translation>カレンダーグループを編集します</translation>
+    </message>
+    <message>
+        <source>Edit Calendar &amp;Groups…</source>
+        <translation>カレンダーグループを編集(&amp;G)…</translation>
+    </message>
+    <message>
+        <source>Edit Calendar Groups…</source>
+        <translation>カレンダーグループを編集…</translation>
+    </message>
+    <message>
         <source>&amp;Encoding of saved files:</source>
         <translation>保存するファイルのエンコーディング(&amp;E):</translation>
     </message>
@@ -438,6 +474,10 @@
     <message>
         <source>Gives every column its first title back</source>
         <translation>すべての列を最初のタイトルに戻します</translation>
+    </message>
+    <message>
+        <source>&amp;Groups</source>
+        <translation>グループ(&amp;G)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -634,6 +674,10 @@
     <message>
         <source>Next</source>
         <translation>次へ</translation>
+    </message>
+    <message>
+        <source>No calendar in this group</source>
+        <translation>このグループにカレンダーはありません</translation>
     </message>
     <message>
         <source>No calendar is ticked</source>
@@ -926,6 +970,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>時間単価を設定するカレンダーを選択してください</translation>
     </message>
     <message>
+        <source>Select a group to choose its calendars.</source>
+        <translation>グループを選ぶと、そのカレンダーを指定できます。</translation>
+    </message>
+    <message>
         <source>Select &amp;All</source>
         <translation>すべて選択(&amp;A)</translation>
     </message>
@@ -1058,6 +1106,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>カレンダーがリマインダーに付けた識別子</translation>
     </message>
     <message>
+        <source>The calendars of the chosen group are listed</source>
+        <translation>選んだグループのカレンダーが表示されます</translation>
+    </message>
+    <message>
         <source>The first column is the calendar's own identifier of the event</source>
         <translation>最初の列は、カレンダーが予定に付けた識別子です</translation>
     </message>
@@ -1150,6 +1202,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>CSV ファイルと TSV ファイルの両方に適用されます。</translation>
     </message>
     <message>
+        <source>This group stands for all calendars.</source>
+        <translation>このグループはすべてのカレンダーを表します。</translation>
+    </message>
+    <message>
         <source>This version lists events only. What you choose here is kept for exports of reminders.</source>
         <translation>このバージョンが一覧にするのは予定だけです。ここでの選択は、リマインダーのエクスポートのために保存されます。</translation>
     </message>
@@ -1160,6 +1216,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>&amp;Tick or Clear All</source>
         <translation>すべてのチェックを切り替え(&amp;T)</translation>
+    </message>
+    <message>
+        <source>Tick the calendars that belong to it.</source>
+        <translation>このグループに入れるカレンダーにチェックを付けてください。</translation>
     </message>
     <message>
         <source>Tick the calendars whose time counts.</source>

@@ -104,6 +104,7 @@ void NameListModel::follow() {
 
 std::vector<NameListModel::Row> NameListModel::currentRows() const {
     std::vector<Row> rows;
+    rows.reserve(list_.count());
     for (std::size_t row = 0; row < list_.count(); ++row) {
         rows.push_back(
             {.name = list_.name(row), .isTicked = list_.isTicked && list_.isTicked(row)});
