@@ -37,6 +37,11 @@ void StyledTextView::show(StyledText text) {
     fillIn();
 }
 
+void StyledTextView::keyPressEvent(QKeyEvent* event) {
+    scrollPosition_.reset();
+    QPlainTextEdit::keyPressEvent(event);
+}
+
 void StyledTextView::fillIn() {
     QElapsedTimer slice;
     slice.start();

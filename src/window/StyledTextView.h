@@ -22,6 +22,9 @@ public:
     /// Replaces the text; what was scrolled to stays where the new text reaches as far.
     void show(StyledText text);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void fillIn();
 
