@@ -53,43 +53,57 @@ bool EventNotesViewController::isOn(const char* key) const {
     return boolForKey(with_.settings, QString::fromLatin1(key));
 }
 
-std::optional<QString> EventNotesViewController::heading(const Event& event) const {
+EventNotesViewController::HeadingItems EventNotesViewController::headingItems() const {
+    return {.hasCalendar = isOn("isEventNotesCalendar"),
+            .hasDate = isOn("isEventNotesDate"),
+            .hasTitle = isOn("isEventNotesTitle"),
+            .hasLocation = isOn("isEventNotesLocation")};
+}
+
+std::optional<QString> EventNotesViewController::heading(const Event& event,
+                                                         const HeadingItems& wanted) const {
     const EventDetails& details = *event.details;
-    QStringList items;
-    if (isOn("isEventNotesCalendar")) {
-        items << details.calendar->title;
+    std::optional<QString> heading;
+    const auto append = [&heading](const QString& item) {
+        heading = heading ? *heading + QStringLiteral(" - ") + item : item;
+    };
+    if (wanted.hasCalendar) {
+        append(details.calendar->title);
     }
-    if (isOn("isEventNotesDate")) {
-        items << with_.formats.shortDate(event.startDate);
+    if (wanted.hasDate) {
+        append(with_.formats.shortDate(event.startDate));
     }
-    if (isOn("isEventNotesTitle") && !details.title.isEmpty()) {
-        items << details.title;
+    if (wanted.hasTitle && !details.title.isEmpty()) {
+        append(details.title);
     }
-    if (isOn("isEventNotesLocation") && !details.location.isEmpty()) {
-        items << details.location;
+    if (wanted.hasLocation && !details.location.isEmpty()) {
+        append(details.location);
     }
-    return items.isEmpty() ? std::nullopt : std::optional(items.join(" - "));
+    return heading;
 }
 
 StyledText EventNotesViewController::notes() const {
     using enum StyledText::Style;
+    const QString lineFeed = QStringLiteral("\n");
+    const QString behindNotes = QStringLiteral("\n\n\n");
     StyledText digest;
-    digest.parts.push_back({"\n", Plain});
+    digest.parts.push_back({lineFeed, Plain});
     const auto& list = with_.eventsArrayController;
     if (list.arrangedCount() == 0) {
         return digest;
     }
+    const HeadingItems wanted = headingItems();
     for (std::size_t row = 0; row < list.arrangedCount(); ++row) {
         const Event& event = list.arranged(row);
         if (event.details->notes.isNull()) {
             continue;
         }
-        if (const auto items = heading(event)) {
+        if (const auto items = heading(event, wanted)) {
             digest.parts.push_back({*items, Bold});
-            digest.parts.push_back({"\n", Plain});
+            digest.parts.push_back({lineFeed, Plain});
         }
         digest.parts.push_back({event.details->notes, Regular});
-        digest.parts.push_back({"\n\n\n", Plain});
+        digest.parts.push_back({behindNotes, Plain});
     }
     digest.hasTextColor = true;
     return digest;

@@ -51,8 +51,16 @@ private:
     void listChanged();
     void refresh();
     [[nodiscard]] bool isOn(const char* key) const;
+    struct HeadingItems {
+        bool hasCalendar;
+        bool hasDate;
+        bool hasTitle;
+        bool hasLocation;
+    };
+    [[nodiscard]] HeadingItems headingItems() const;
     /// Nothing where no item is to be written; a calendar's empty title is an item.
-    [[nodiscard]] std::optional<QString> heading(const Event& event) const;
+    [[nodiscard]] std::optional<QString> heading(const Event& event,
+                                                 const HeadingItems& wanted) const;
 
     Collaborators with_;
     ListController<Event>::Content content_;
