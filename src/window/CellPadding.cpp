@@ -10,6 +10,10 @@ CellPadding::CellPadding(QObject* parent)
 
 CellPadding::~CellPadding() = default;
 
+int CellPadding::distance(const QFontMetrics& metrics) {
+    return metrics.averageCharWidth() / 2;
+}
+
 void CellPadding::paint(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
     QStyleOptionViewItem whole = option;
@@ -18,8 +22,8 @@ void CellPadding::paint(QPainter* painter, const QStyleOptionViewItem& option,
     // The background fills the cell; what stands in it keeps its distance from the edges.
     style->drawPrimitive(QStyle::PE_PanelItemViewItem, &whole, painter, whole.widget);
     QStyleOptionViewItem inner = option;
-    const int distance = option.fontMetrics.averageCharWidth() / 2;
-    inner.rect.adjust(distance, 0, -distance, 0);
+    const int room = distance(option.fontMetrics);
+    inner.rect.adjust(room, 0, -room, 0);
     inner.features &= ~QStyleOptionViewItem::Alternate;
     QStyledItemDelegate::paint(painter, inner, index);
 }

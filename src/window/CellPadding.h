@@ -14,6 +14,9 @@ public:
     ~CellPadding() override;
     Q_DISABLE_COPY_MOVE(CellPadding)
 
+    /// What a text keeps from each side of its cell, in pixels.
+    [[nodiscard]] static int distance(const QFontMetrics& metrics);
+
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
 };

@@ -14,16 +14,21 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 
+#include <algorithm>
+#include <cmath>
+
 namespace quillet {
 
-/// A header section, which forgets its width while it is hidden: it is remembered here.
+/// A header section, which forgets its width while it is hidden: it is remembered here. A point is
+/// as wide as in the text report, where a character takes 7.2 of them: whatever the font, the table
+/// shows about as much of a text as the report does.
 class EventTableView::HeaderColumn final : public TableColumn {
 public:
     HeaderColumn(QHeaderView& header, int logicalIndex, const EventColumn& column)
         : header_(header)
         , logicalIndex_(logicalIndex)
         , column_(column)
-        , width_(header.sectionSize(logicalIndex)) {}
+        , width_(pointsOf(header.sectionSize(logicalIndex))) {}
 
     [[nodiscard]] QString identifier() const override {
         return QString::fromLatin1(column_.identifier);
@@ -35,19 +40,40 @@ public:
     void setWidthPoints(double width) override {
         width_ = width;
         if (!isHidden()) {
-            header_.resizeSection(logicalIndex_, static_cast<int>(width));
+            header_.resizeSection(logicalIndex_, pixelsOf(width));
         }
     }
     [[nodiscard]] bool isHidden() const override { return header_.isSectionHidden(logicalIndex_); }
     void setHidden(bool isHidden) override {
         header_.setSectionHidden(logicalIndex_, isHidden);
         if (!isHidden) {
-            header_.resizeSection(logicalIndex_, static_cast<int>(width_));
+            header_.resizeSection(logicalIndex_, pixelsOf(width_));
         }
     }
-    void userResized(int width) { width_ = width; }
+    void userResized(int pixels) {
+        // Its own echo is no news, and would cost the fractions of the width.
+        if (pixels != pixelsOf(width_)) {
+            width_ = pointsOf(pixels);
+        }
+    }
 
 private:
+    [[nodiscard]] double pixelsPerPoint() const {
+        constexpr double pointsPerCharacter = 7.2;
+        return header_.fontMetrics().horizontalAdvance(u'0') / pointsPerCharacter;
+    }
+    [[nodiscard]] int padding() const { return 2 * CellPadding::distance(header_.fontMetrics()); }
+    /// Upwards, so that whole points survive the way to pixels and back.
+    [[nodiscard]] int pixelsOf(double points) const {
+        constexpr double imprecision = 1e-6;
+        return padding() + static_cast<int>(std::ceil(points * pixelsPerPoint() - imprecision));
+    }
+    [[nodiscard]] double pointsOf(int pixels) const {
+        const double points = std::max(pixels - padding(), 1) / pixelsPerPoint();
+        const double wholePoints = std::floor(points);
+        return pixelsOf(wholePoints) == pixels ? wholePoints : points;
+    }
+
     QHeaderView& header_;
     int logicalIndex_;
     const EventColumn& column_;
@@ -188,7 +214,16 @@ QByteArray EventTableView::columnState() const {
 }
 
 bool EventTableView::restoreColumnState(const QByteArray& state) {
-    return horizontalHeader()->restoreState(state);
+    if (!horizontalHeader()->restoreState(state)) {
+        return false;
+    }
+    // The header says nothing of the sizes that it has restored.
+    for (std::size_t index = 0; index < columns_.size(); ++index) {
+        if (!columns_[index]->isHidden()) {
+            columns_[index]->userResized(horizontalHeader()->sectionSize(static_cast<int>(index)));
+        }
+    }
+    return true;
 }
 
 void EventTableView::showHeaderMenu(const QPoint& position) {

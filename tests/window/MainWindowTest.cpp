@@ -58,11 +58,41 @@ TEST_F(MainWindowTest, AHiddenColumnKeepsItsWidth) {
     open();
     TableColumn& title = table->columnAt(table->positionOf("title"));
     title.setWidthPoints(333);
+    const int pixels = table->horizontalHeader()->sectionSize(2);
     settings.setObject("isTitleColumn", false);
     EXPECT_TRUE(title.isHidden());
     EXPECT_EQ(title.widthPoints(), 333);
     settings.setObject("isTitleColumn", true);
-    EXPECT_EQ(table->horizontalHeader()->sectionSize(2), 333);
+    EXPECT_EQ(title.widthPoints(), 333);
+    EXPECT_EQ(table->horizontalHeader()->sectionSize(2), pixels);
+}
+
+TEST_F(MainWindowTest, AColumnShowsAsManyCharactersAsTheReportHas) {
+    open();
+    TableColumn& date = table->columnAt(table->positionOf("date"));
+    date.setWidthPoints(80);
+    for (const int pointSize : {7, 10, 20}) {
+        QFont font = table->font();
+        font.setPointSize(pointSize);
+        table->horizontalHeader()->setFont(font);
+        date.setWidthPoints(80);
+        const QFontMetrics metrics = table->horizontalHeader()->fontMetrics();
+        EXPECT_GT(table->horizontalHeader()->sectionSize(0),
+                  metrics.horizontalAdvance("12/31/2026"));
+        EXPECT_LT(table->horizontalHeader()->sectionSize(0), metrics.horizontalAdvance("0") * 13);
+    }
+}
+
+TEST_F(MainWindowTest, WidthsSurviveTheNextStart) {
+    open();
+    TableColumn& title = table->columnAt(table->positionOf("title"));
+    for (const double points : {72.0, 115.0, 240.0, 333.0}) {
+        title.setWidthPoints(points);
+        const QByteArray state = table->columnState();
+        title.setWidthPoints(50);
+        ASSERT_TRUE(table->restoreColumnState(state));
+        EXPECT_EQ(title.widthPoints(), points);
+    }
 }
 
 TEST_F(MainWindowTest, HeadersFollowTheirTitles) {
