@@ -1,6 +1,7 @@
 #include "window/ExportPane.h"
 
 #include "platform/Localized.h"
+#include "window/ElidedLabel.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -12,18 +13,16 @@ namespace quillet {
 ExportPane::ExportPane(const QString& title, QWidget& view, Actions actions, QWidget* parent)
     : QWidget(parent)
     , view_(view)
-    , remark_(new QLabel(this))
+    , remark_(new ElidedLabel(this))
     , tools_(new QHBoxLayout)
     , switches_(new QHBoxLayout) {
     auto* name = new QLabel(title, this);
     QFont font = name->font();
     font.setBold(true);
     name->setFont(font);
-    remark_->setTextFormat(Qt::PlainText);
     remark_->setForegroundRole(QPalette::PlaceholderText);
     // In a narrow window the texts give way, not the neighbours of the pane.
     name->setMinimumWidth(1);
-    remark_->setMinimumWidth(1);
     view_.setAccessibleName(title);
     setAccessibleName(title);
 

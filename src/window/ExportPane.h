@@ -5,9 +5,10 @@
 #include <functional>
 
 class QBoxLayout;
-class QLabel;
 
 namespace quillet {
+
+class ElidedLabel;
 
 /// A pane in which what is about to leave the program is read first: its view, and above it its
 /// name, a remark, its switches and its buttons. Escape closes it.
@@ -41,7 +42,7 @@ private:
     void addButton(QBoxLayout& row, const QString& text, std::function<void()> action);
 
     QWidget& view_;
-    QLabel* remark_;
+    ElidedLabel* remark_;
     QBoxLayout* tools_;
     QBoxLayout* switches_;
 };

@@ -2,6 +2,7 @@
 
 #include "platform/Localized.h"
 #include "window/CalendarPane.h"
+#include "window/ElidedLabel.h"
 #include "window/EmptyState.h"
 #include "window/EventTableView.h"
 #include "window/FocusOrder.h"
@@ -13,7 +14,6 @@
 #include "window/SymbolIcon.h"
 
 #include <QDragEnterEvent>
-#include <QLabel>
 #include <QMimeData>
 #include <QScreen>
 #include <QSettings>
@@ -97,8 +97,7 @@ void MainWindow::makePanes() {
 }
 
 QWidget* MainWindow::makeEventItemView() {
-    periodTitle_ = new QLabel(this);
-    periodTitle_->setTextFormat(Qt::PlainText);
+    periodTitle_ = new ElidedLabel(this);
     periodTitle_->setObjectName(QStringLiteral("reportingPeriod"));
     const int space = fontMetrics().height() / 2;
     periodTitle_->setContentsMargins(space, space, space, space);
@@ -107,6 +106,7 @@ QWidget* MainWindow::makeEventItemView() {
     font.setPointSizeF(font.pointSizeF() * titleScale);
     font.setBold(true);
     periodTitle_->setFont(font);
+    periodTitle_->setSmallestScale(1 / titleScale);
     emptyState_ = new EmptyState(this);
     centreStack_ = new QStackedWidget(this);
     centreStack_->addWidget(&with_.eventTable);

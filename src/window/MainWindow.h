@@ -27,7 +27,6 @@
 #include <functional>
 #include <memory>
 
-class QLabel;
 class QSplitter;
 class QStackedWidget;
 class QToolBar;
@@ -36,6 +35,7 @@ class QToolButton;
 namespace quillet {
 
 class CalendarPane;
+class ElidedLabel;
 class EmptyState;
 class EventTableView;
 class ResultsPane;
@@ -149,7 +149,7 @@ private:
     Collaborators with_;
     CalendarPane* calendarPane_ = nullptr;
     GroupChooser* groupChooser_ = nullptr;
-    QLabel* periodTitle_ = nullptr;
+    ElidedLabel* periodTitle_ = nullptr;
     QStackedWidget* centreStack_ = nullptr;
     EmptyState* emptyState_ = nullptr;
     SearchBox* searchBox_ = nullptr;

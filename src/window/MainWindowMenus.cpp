@@ -4,6 +4,7 @@
 #include "window/ColumnsMenu.h"
 #include "window/CopyCommand.h"
 #include "window/EventTableView.h"
+#include "window/FittingToolBar.h"
 #include "window/SearchBox.h"
 #include "window/SettingsBinding.h"
 #include "window/SymbolIcon.h"
@@ -14,7 +15,6 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QToolBar>
 #include <QToolButton>
 
 #include <array>
@@ -64,10 +64,10 @@ void MainWindow::makeStepActions() {
 }
 
 void MainWindow::makeToolBar() {
-    auto* bar = addToolBar(localized("Toolbar"));
+    auto* bar = new FittingToolBar(localized("Toolbar"), this);
+    addToolBar(bar);
     bar->setObjectName(QStringLiteral("toolbar"));
     bar->setMovable(false);
-    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     ExportItems& items = with_.exportItems;
     bar->addActions({&items.text.action(), &items.notes.action()});
     bar->addSeparator();

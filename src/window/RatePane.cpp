@@ -1,11 +1,11 @@
 #include "window/RatePane.h"
 
 #include "platform/Localized.h"
+#include "window/ElidedLabel.h"
 #include "window/SettingsBinding.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QLineEdit>
 
 namespace quillet {
@@ -24,18 +24,17 @@ RatePane::RatePane(CalendarsArrayController& calendars, EventItemViewController&
     , labels_(labels)
     , settings_(settings)
     , formats_(formats)
-    , label_(new QLabel(this))
+    , label_(new ElidedLabel(this))
     , field_(new QLineEdit(this))
-    , complaint_(new QLabel(this)) {
+    , complaint_(new ElidedLabel(this)) {
     auto* single = new QCheckBox(localized("&One rate for all calendars"), this);
     bindCheckBox(*single, settings_, singleRateKey);
     field_->setObjectName(hourlyRateKey);
     field_->setAccessibleName(localized("Hourly Rate"));
     field_->setAlignment(Qt::AlignRight);
-    field_->setMaximumWidth(fontMetrics().averageCharWidth() * 16);
-    label_->setBuddy(field_);
-    label_->setTextFormat(Qt::PlainText);
-    complaint_->setTextFormat(Qt::PlainText);
+    const int unit = fontMetrics().averageCharWidth();
+    field_->setMinimumWidth(unit * 10);
+    field_->setMaximumWidth(unit * 16);
     complaint_->setObjectName(QStringLiteral("hourlyRateProblem"));
 
     const int space = fontMetrics().height() / 2;

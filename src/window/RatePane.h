@@ -5,10 +5,11 @@
 
 #include <QWidget>
 
-class QLabel;
 class QLineEdit;
 
 namespace quillet {
+
+class ElidedLabel;
 
 /// The hourly rates: one for all calendars, or that of the calendars selected in the list.
 class RatePane : public QWidget {
@@ -32,9 +33,9 @@ private:
     EventItemViewController& labels_;
     SettingsStore& settings_;
     const LocaleFormats& formats_;
-    QLabel* label_;
+    ElidedLabel* label_;
     QLineEdit* field_;
-    QLabel* complaint_;
+    ElidedLabel* complaint_;
     /// What the field shows unless somebody has put in something else.
     QString shownText_;
 };

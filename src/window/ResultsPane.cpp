@@ -27,10 +27,13 @@ ResultsPane::ResultsPane(SettingsStore& settings, QWidget* parent)
     const int space = fontMetrics().height() / 2;
     auto* row = new QHBoxLayout;
     row->setContentsMargins(space, space, space, space);
-    row->setSpacing(space * 4);
+    row->setSpacing(space);
     for (int position = 0; position < PositionCount; ++position) {
         if (position == Cost) {
             row->addStretch();
+        } else if (position > 0) {
+            // Gives way on a small screen.
+            row->addSpacerItem(new QSpacerItem(space * 2, 0, QSizePolicy::Maximum));
         }
         auto* column = new QVBoxLayout;
         column->setSpacing(0);
