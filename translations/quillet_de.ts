@@ -967,7 +967,7 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     </message>
     <message>
         <source>Select a calendar to set its hourly rate</source>
-        <translation>Wählen Sie einen Kalender, um seinen Stundensatz festzulegen</translation>
+        <translation>Kalender für Stundensatz auswählen</translation>
     </message>
     <message>
         <source>Select a group to choose its calendars.</source>

@@ -433,7 +433,7 @@
     </message>
     <message>
         <source>Events with notes: %1</source>
-        <translation>Événements avec notes : %1</translation>
+        <translation>Avec notes : %1</translation>
     </message>
     <message>
         <source>Export as:</source>
@@ -605,7 +605,7 @@
     </message>
     <message>
         <source>&amp;Mail</source>
-        <translation>Cou&amp;rriel</translation>
+        <translation>Courrie&amp;l</translation>
     </message>
     <message>
         <source>Mail</source>
