@@ -31,9 +31,15 @@ def write_event(folder, uid, title, start, end, extra=()):
 
 class Quillet:
     """with Quillet() as program: … starts the program, and quits it as a user does. What it wrote
-    to its standard output and error is in `log`."""
+    to its standard output and error is in `log`. In another locale than the neutral one, the words
+    say what stands there for the English ones of this file."""
 
-    def __init__(self):
+    def __init__(self, locale=None, words=None):
+        self._environment = dict(os.environ)
+        if locale:
+            del self._environment["LC_ALL"]
+            self._environment["LANG"] = locale
+        self._words = words or {}
         self._process = None
         self._application = None
         self._is_left = False
@@ -53,7 +59,8 @@ class Quillet:
 
     def __enter__(self):
         with LOG.open("w") as log:
-            self._process = subprocess.Popen([sys.argv[1]], stdout=log, stderr=log)
+            self._process = subprocess.Popen([sys.argv[1]], stdout=log, stderr=log,
+                                             env=self._environment)
         try:
             self._application = wait_for("the program on the accessibility bus", self._started)
         except AssertionError:
@@ -68,7 +75,7 @@ class Quillet:
         if self._is_left:
             return
         try:
-            self.press_menu_item("Quit")
+            self.press_menu_item(self._word("Quit"))
             code = self._process.wait(timeout=30)
         except (AssertionError, subprocess.TimeoutExpired):
             self._give_up()
@@ -82,6 +89,9 @@ class Quillet:
 
     def wait_for_end(self):
         return self._process.wait(timeout=30)
+
+    def _word(self, english):
+        return self._words.get(english, english)
 
     def _started(self):
         if self._process.poll() is not None:
@@ -138,6 +148,10 @@ class Quillet:
             (control for control in self._controls()
              if control.get_role() in items and control.get_name() == name), None)))
 
+    def menus(self):
+        bar = next(control for control in self._controls() if control.get_role() == ROLE.MENU_BAR)
+        return [menu.get_name() for menu in children(bar)]
+
     def texts(self):
         """Every name that is shown outside tables."""
         return [control.get_name() for control in self._controls()
@@ -186,12 +200,12 @@ class Quillet:
         return column_titles(self.control(table, TABLES))
 
     def _events(self):
-        return self.control("Events", TABLES)
+        return self.control(self._word("Events"), TABLES)
 
     def _titles(self):
         """Of the events that are shown; none while something else stands in the table's place."""
-        events = self.find("Events", TABLES)
-        return cell_names(events, column_titles(events).index("Title")) if events else []
+        events = self.find(self._word("Events"), TABLES)
+        return cell_names(events, column_titles(events).index(self._word("Title"))) if events else []
 
     def wait_for_titles(self, titles, seconds=30):
         """Until the table shows just these events, in this order."""
@@ -227,13 +241,13 @@ class Quillet:
                      if control.get_role() == ROLE.TEXT
                      and has_state(control, Atspi.StateType.EDITABLE))
         type_text(field, str(path))
-        press(next(control for control in below(dialog) if control.get_name() == "Save"))
+        press(next(control for control in below(dialog) if control.get_name() == self._word("Save")))
         wait_for("the save dialog to close", lambda: not self._file_dialog())
 
     def _file_dialog(self):
         for window in children(self._application):
             if (window.get_role() in (ROLE.DIALOG, ROLE.FILE_CHOOSER)
                     and has_state(window, Atspi.StateType.SHOWING)):
-                if any(control.get_name() == "Save" for control in below(window)):
+                if any(control.get_name() == self._word("Save") for control in below(window)):
                     return window
         return None
