@@ -1,5 +1,6 @@
 #include "Program.h"
 
+#include "CalendarService.h"
 #include "backends/activation/WindowFront.h"
 #include "eventtable/ColumnLayout.h"
 #include "platform/Localized.h"
@@ -18,6 +19,11 @@ const QString windowStateFile = QStringLiteral("/window.ini");
 
 EventItemViewController::TimeMenuItems items(TimeColumnActions& actions) {
     return {actions.hours, actions.minutes, actions.duration};
+}
+
+std::vector<std::reference_wrapper<EventStore>> present(EventStore& folder, EventStore* service) {
+    return service == nullptr ? std::vector{std::ref(folder)}
+                              : std::vector{std::ref(folder), std::ref(*service)};
 }
 
 std::vector<ToolbarItem*> toolbarItems(ExportItems& items) {
@@ -42,7 +48,10 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
           paths.stateFolder,
           [this](const CalendarAccess::Answer& answer) { answer(dialogs_.askForCalendarAccess()); })
     , folderStore_(paths.calendarsFolder, access_)
-    , store_({folderStore_})
+    , calendarService_(
+          makeCalendarService(access_, paths.stateFolder,
+                              [this](Instant instant) { return formats_.shortTime(instant); }))
+    , store_(present(folderStore_, calendarService_.get()))
     , mainQueue_(makeMainQueue())
     , timer_(makeOneShotTimer())
     , eventKitManager_(store_, settings_, dialogs_, *mainQueue_)

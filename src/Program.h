@@ -90,6 +90,8 @@ private:
     DesktopScriptRunner scriptRunner_;
     CalendarAccess access_;
     IcsFolderStore folderStore_;
+    /// Null in a build without the desktop's calendar service.
+    std::unique_ptr<EventStore> calendarService_;
     CombinedEventStore store_;
     std::unique_ptr<SerialQueue> mainQueue_;
     std::unique_ptr<OneShotTimer> timer_;

@@ -9,6 +9,9 @@ namespace quillet {
 
 namespace {
 
+/// What the recurrences of one query may cost: about half a second.
+constexpr std::int64_t queryBudget = 20'000'000;
+
 void sortForDelivery(EventList& events) {
     if (!std::ranges::is_sorted(events, isDeliveredBefore)) {
         std::ranges::stable_sort(events, isDeliveredBefore);
@@ -80,6 +83,22 @@ void CalendarContents::computeLatestEnds() {
         latest = std::max(latest, event.endDate);
         latestEnds_.push_back(latest);
     }
+}
+
+CalendarsAnswer eventsOf(const std::vector<std::shared_ptr<const CalendarContents>>& calendars,
+                         Instant from, Instant to) {
+    // Recurrences need dates that the calendar has.
+    const Instant earliest = std::chrono::sys_days(std::chrono::year(1) / 1 / 10);
+    const Instant latest = std::chrono::sys_days(std::chrono::year(9990) / 1 / 1);
+    from = std::clamp(from, earliest, latest);
+    to = std::clamp(to, earliest, latest);
+    CalendarsAnswer answer;
+    WorkBudget budget(queryBudget);
+    for (const auto& calendar : calendars) {
+        mergeDelivered(answer.events, calendar->events(from, to, budget));
+    }
+    answer.isComplete = !budget.isExhausted();
+    return answer;
 }
 
 } // namespace quillet

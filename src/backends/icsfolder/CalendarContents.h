@@ -31,4 +31,16 @@ private:
     std::vector<std::shared_ptr<const Series>> series_;
 };
 
+struct CalendarsAnswer {
+    EventList events;
+    /// False when there are so many repetitions that some were left out.
+    bool isComplete = true;
+};
+
+/// The events of several calendars that overlap [from, to), in the order of delivery. Takes half a
+/// second at the most for repetitions.
+[[nodiscard]] CalendarsAnswer
+eventsOf(const std::vector<std::shared_ptr<const CalendarContents>>& calendars, Instant from,
+         Instant to);
+
 } // namespace quillet

@@ -1,17 +1,8 @@
 #include "backends/icsfolder/FolderLoader.h"
 
-#include "backends/combined/EventOrder.h"
 #include "platform/Localized.h"
 
-#include <algorithm>
-
 namespace quillet {
-
-namespace {
-
-/// What the recurrences of one query may cost: about half a second.
-constexpr std::int64_t queryBudget = 20'000'000;
-} // namespace
 
 FolderLoader::FolderLoader(std::string rootPath, const QTimeZone& zone,
                            std::function<void()> changed)
@@ -47,25 +38,20 @@ EventList FolderLoader::events(const CalendarList& calendars, Instant from, Inst
         loadEnded_.wait(lock, [this] { return isStopped_ || picture_->isLoaded; });
         current = picture_;
     }
-    // Recurrences need dates that the calendar has.
-    const Instant earliest = std::chrono::sys_days(std::chrono::year(1) / 1 / 10);
-    const Instant latest = std::chrono::sys_days(std::chrono::year(9990) / 1 / 1);
-    from = std::clamp(from, earliest, latest);
-    to = std::clamp(to, earliest, latest);
-    EventList found;
-    WorkBudget budget(queryBudget);
+    std::vector<std::shared_ptr<const CalendarContents>> wanted;
     std::set<QString> asked;
     for (const auto& calendar : calendars) {
         const auto contents = current->contents.constFind(calendar->calendarIdentifier);
         if (contents != current->contents.constEnd() &&
             asked.insert(calendar->calendarIdentifier).second) {
-            mergeDelivered(found, (*contents)->events(from, to, budget));
+            wanted.push_back(*contents);
         }
     }
-    if (budget.isExhausted()) {
+    CalendarsAnswer answer = eventsOf(wanted, from, to);
+    if (!answer.isComplete) {
         hasTooMany_ = true;
     }
-    return found;
+    return std::move(answer.events);
 }
 
 std::vector<StoreProblem> FolderLoader::problems() const {

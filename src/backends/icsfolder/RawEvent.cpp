@@ -266,7 +266,11 @@ std::optional<RawEvent> readEvent(const char* block, ReadingContext& context) {
     if (!component || icalcomponent_isa(component.get()) != ICAL_VEVENT_COMPONENT) {
         return std::nullopt;
     }
-    return EventReader(context).read(component.get());
+    return readEvent(*component, context);
+}
+
+RawEvent readEvent(icalcomponent_impl& component, ReadingContext& context) {
+    return EventReader(context).read(&component);
 }
 
 } // namespace quillet

@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+struct icalcomponent_impl;
+
 namespace quillet {
 
 /// A time as a file gives it.
@@ -68,5 +70,7 @@ struct ReadingContext {
 /// One null-terminated event block. Nothing when the parser makes nothing of it. An event without
 /// a usable start has none.
 [[nodiscard]] std::optional<RawEvent> readEvent(const char* block, ReadingContext& context);
+/// The same for a VEVENT that was parsed already.
+[[nodiscard]] RawEvent readEvent(icalcomponent_impl& component, ReadingContext& context);
 
 } // namespace quillet

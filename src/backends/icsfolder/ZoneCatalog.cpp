@@ -2,6 +2,7 @@
 
 #include "backends/icsfolder/IcalValues.h"
 
+#include <QFileInfo>
 #include <QHash>
 #include <QRegularExpression>
 
@@ -142,9 +143,16 @@ bool isZoneName(const QByteArray& name) {
     return pattern.match(QString::fromLatin1(name)).hasMatch();
 }
 
+/// Whether there may be such a zone. A word that names none would be read as the short name of a
+/// zone without an offset, that is, as UTC.
+bool isInDatabase(const QByteArray& name) {
+    return name.contains('/') ||
+           QFileInfo::exists(QStringLiteral("/usr/share/zoneinfo/") + QString::fromLatin1(name));
+}
+
 QTimeZone zoneWithName(const QByteArray& name) {
     // The list of available zones lacks the older names of many ("Asia/Calcutta").
-    if (isZoneName(name)) {
+    if (isZoneName(name) && isInDatabase(name)) {
         if (QTimeZone zone(name); zone.isValid()) {
             return zone;
         }

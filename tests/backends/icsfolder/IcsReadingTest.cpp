@@ -193,6 +193,23 @@ TEST_F(IcsReadingTest, readsAnUnknownZoneAsLocalTimeAndSaysSo) {
                       QStringLiteral("unknown time zone “Middle Earth”, taken as local time")}));
 }
 
+TEST_F(IcsReadingTest, takesNoWordForTheNameOfAZoneThatIsNone) {
+    for (const char* word : {"Berlin", "Customized", "Local", "Moon/Tycho", "ABC5"}) {
+        write(QStringLiteral("a.ics"),
+              eventFile("DTSTART;TZID=" + QByteArray(word) + ":20240701T120000"));
+        store.reset();
+        EXPECT_EQ(starts(), Instants({utc(2024, 7, 1, 10)})) << word;
+        EXPECT_EQ(store->problems().size(), 1U) << word;
+    }
+    for (const char* zone : {"Japan", "EST5EDT", "UTC", "GMT"}) {
+        write(QStringLiteral("a.ics"),
+              eventFile("DTSTART;TZID=" + QByteArray(zone) + ":20240701T120000"));
+        store.reset();
+        EXPECT_EQ(starts().size(), 1U) << zone;
+        EXPECT_TRUE(store->problems().empty()) << zone;
+    }
+}
+
 TEST_F(IcsReadingTest, readsTimesThatTheClockSkipsOrRepeatsAsTheStandardWants) {
     write(QStringLiteral("a.ics"), eventFile("DTSTART;TZID=Europe/Berlin:20240331T023000"));
     write(QStringLiteral("b.ics"), eventFile("DTSTART;TZID=Europe/Berlin:20241027T023000"));

@@ -2,13 +2,11 @@
 
 #include "backends/icsfolder/IcsFolderStore.h"
 #include "support/Fakes.h"
+#include "support/WaitUntil.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
-#include <QThread>
 
 #include <gtest/gtest.h>
 
@@ -16,19 +14,6 @@
 #include <memory>
 
 namespace quillet::test {
-
-/// Lets the event loop run until the condition holds; false when it does not in time.
-inline bool waitUntil(const std::function<bool()>& condition, int longestMilliseconds = 10000) {
-    const QDeadlineTimer deadline(longestMilliseconds);
-    while (!condition()) {
-        if (deadline.hasExpired()) {
-            return false;
-        }
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-        QThread::msleep(1);
-    }
-    return true;
-}
 
 /// A store over a scratch folder in the zone of Berlin, with access granted.
 class StoreFixture : public testing::Test {

@@ -1,0 +1,14 @@
+#include "CalendarService.h"
+
+#include "backends/evolution/EvolutionStore.h"
+
+namespace quillet {
+
+std::unique_ptr<EventStore> makeCalendarService(CalendarAccess& access, const QString& stateFolder,
+                                                std::function<QString(Instant)> shortTime) {
+    return std::make_unique<EvolutionStore>(
+        access,
+        EvolutionStore::Setup{.stateFolder = stateFolder, .shortTime = std::move(shortTime)});
+}
+
+} // namespace quillet

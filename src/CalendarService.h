@@ -1,0 +1,17 @@
+#pragma once
+
+#include "backends/combined/CalendarAccess.h"
+#include "platform/EventStore.h"
+
+#include <functional>
+#include <memory>
+
+namespace quillet {
+
+/// The desktop's calendar service as a store; null in a build without it. `shortTime` tells a time
+/// to the user. `access` must outlive the store.
+[[nodiscard]] std::unique_ptr<EventStore>
+makeCalendarService(CalendarAccess& access, const QString& stateFolder,
+                    std::function<QString(Instant)> shortTime);
+
+} // namespace quillet

@@ -1,0 +1,11 @@
+#include "CalendarService.h"
+
+namespace quillet {
+
+std::unique_ptr<EventStore> makeCalendarService(CalendarAccess& /*access*/,
+                                                const QString& /*stateFolder*/,
+                                                std::function<QString(Instant)> /*shortTime*/) {
+    return nullptr;
+}
+
+} // namespace quillet

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "backends/evolution/ServiceCalendar.h"
+
+#include <QSet>
+
+namespace quillet {
+
+struct ServiceCalendar::Attempt {
+    Attempt() = default;
+    Attempt(const Attempt&) = delete;
+    Attempt& operator=(const Attempt&) = delete;
+    ~Attempt() { g_cancellable_cancel(cancellable.get()); }
+
+    ObjectPointer<GCancellable> cancellable{g_cancellable_new()};
+    ObjectPointer<ECalClient> client;
+    ObjectPointer<ECalClientView> view;
+    bool isComplete = false;
+    /// Whether a zone became known that events were read without.
+    bool hasNewZone = false;
+    int zonesAwaited = 0;
+    /// The UIDs that were asked for; those named again meanwhile are asked for once more.
+    QSet<QString> uidsAwaited;
+    QSet<QString> uidsWaiting;
+    std::vector<SignalHandler> clientHandlers;
+    std::vector<SignalHandler> viewHandlers;
+};
+
+} // namespace quillet

@@ -1,0 +1,196 @@
+#include "backends/evolution/ServiceCalendar.h"
+
+#include "backends/evolution/ServiceAttempt.h"
+
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+/// Every event, whenever it takes place.
+constexpr const char* everything = "#t";
+
+ServiceCalendar& self(gpointer data) {
+    return *static_cast<ServiceCalendar*>(data);
+}
+
+} // namespace
+
+ServiceCalendar::ServiceCalendar(std::shared_ptr<const StoreCalendar> calendar,
+                                 const Surroundings& surroundings)
+    : with_(surroundings)
+    , contents_(calendar, surroundings.zones)
+    , retryDelay_(surroundings.limits) {
+    state_.calendar = std::move(calendar);
+    patienceTimer_.start(with_.limits.patience, [this] {
+        state_.isSettled = true;
+        with_.changed();
+    });
+}
+
+ServiceCalendar::~ServiceCalendar() = default;
+
+void ServiceCalendar::follow(ESource* source, std::shared_ptr<const StoreCalendar> calendar) {
+    const bool isSame = source_.get() == source && *state_.calendar == *calendar;
+    if (isSame && (stage_ != Stage::Idle || retryTimer_.isRunning())) {
+        return;
+    }
+    source_ = newReference(source);
+    state_.calendar = calendar;
+    contents_.setCalendar(std::move(calendar));
+    connect();
+}
+
+void ServiceCalendar::loseService() {
+    fail();
+    retryTimer_.stop();
+}
+
+void ServiceCalendar::connect() {
+    retryTimer_.stop();
+    stage_ = Stage::Connecting;
+    attempt_ = std::make_shared<Attempt>();
+    expectAnswer();
+    // Waiting for the server behind the calendar would only delay what the service holds already.
+    constexpr auto withoutWaiting = static_cast<guint32>(-1);
+    e_cal_client_connect(
+        source_.get(), E_CAL_CLIENT_SOURCE_TYPE_EVENTS, withoutWaiting, attempt_->cancellable.get(),
+        finishCall, callOf([this](Attempt* attempt, GObject*, GAsyncResult* result) {
+            CallError error;
+            EClient* client = e_cal_client_connect_finish(result, error.slot());
+            ObjectPointer<ECalClient> owner(client == nullptr ? nullptr : E_CAL_CLIENT(client));
+            if (attempt != nullptr && owner) {
+                connected(*attempt, std::move(owner));
+            } else if (attempt != nullptr) {
+                fail();
+            }
+        }));
+}
+
+void ServiceCalendar::connected(Attempt& attempt, ObjectPointer<ECalClient> client) {
+    attempt.client = std::move(client);
+    attempt.clientHandlers.emplace_back(
+        attempt.client.get(), "backend-died",
+        G_CALLBACK(+[](EClient*, gpointer data) { self(data).fail(); }), this);
+    askForView(attempt);
+}
+
+void ServiceCalendar::askForView(Attempt& attempt) {
+    expectAnswer();
+    e_cal_client_get_view(attempt.client.get(), everything, attempt.cancellable.get(), finishCall,
+                          callOf([this](Attempt* present, GObject* client, GAsyncResult* result) {
+                              CallError error;
+                              ECalClientView* view = nullptr;
+                              e_cal_client_get_view_finish(E_CAL_CLIENT(client), result, &view,
+                                                           error.slot());
+                              ObjectPointer<ECalClientView> owner(view);
+                              if (present != nullptr && owner) {
+                                  viewCame(*present, std::move(owner));
+                              } else if (present != nullptr) {
+                                  fail();
+                              }
+                          }));
+}
+
+void ServiceCalendar::viewCame(Attempt& attempt, ObjectPointer<ECalClientView> view) {
+    expectAnswer();
+    stage_ = Stage::Reading;
+    contents_.beginReading();
+    attempt.isComplete = false;
+    attempt.hasNewZone = false;
+    attempt.viewHandlers.clear();
+    attempt.view = std::move(view);
+    const auto handle = [&](const char* signal, GCallback callback) {
+        attempt.viewHandlers.emplace_back(attempt.view.get(), signal, callback, this);
+    };
+    const auto changed = +[](ECalClientView*, const GSList* objects, gpointer data) {
+        self(data).objectsChanged(objects);
+    };
+    handle("objects-added", G_CALLBACK(changed));
+    handle("objects-modified", G_CALLBACK(changed));
+    handle("objects-removed", G_CALLBACK(+[](ECalClientView*, const GSList* gone, gpointer data) {
+               self(data).objectsRemoved(gone);
+           }));
+    handle("complete", G_CALLBACK(+[](ECalClientView*, const GError* error, gpointer data) {
+               self(data).readingEnded(error);
+           }));
+    CallError error;
+    e_cal_client_view_start(attempt.view.get(), error.slot());
+    if (error) {
+        fail();
+    }
+}
+
+void ServiceCalendar::readingEnded(const GError* error) {
+    if (stage_ != Stage::Reading) {
+        return;
+    }
+    if (error != nullptr) {
+        fail();
+        return;
+    }
+    const auto attempt = attempt_;
+    attempt->isComplete = true;
+    endReadingIfComplete(*attempt);
+}
+
+void ServiceCalendar::endReadingIfComplete(Attempt& attempt) {
+    if (stage_ != Stage::Reading || !attempt.isComplete || attempt.zonesAwaited > 0) {
+        return;
+    }
+    if (attempt.hasNewZone) {
+        // Once more, now that the zones are known in which some events were written.
+        askForView(attempt);
+        return;
+    }
+    contents_.endReading();
+    becomeLive();
+}
+
+void ServiceCalendar::becomeLive() {
+    answerTimer_.stop();
+    patienceTimer_.stop();
+    retryDelay_.succeeded();
+    stage_ = Stage::Live;
+    state_.isSettled = true;
+    state_.contents = contents_.contents();
+    state_.problems = contents_.problems();
+    setCondition(CalendarState::Condition::Fine);
+    probeTimer_.start(with_.limits.probe, [this] { probe(); });
+    // What was removed while it was being read.
+    noticesCame();
+}
+
+gpointer ServiceCalendar::callOf(AttemptCall finish) const {
+    return pendingCall([attempt = std::weak_ptr(attempt_),
+                        finish = std::move(finish)](GObject* source, GAsyncResult* result) {
+        finish(attempt.lock().get(), source, result);
+    });
+}
+
+void ServiceCalendar::expectAnswer() {
+    answerTimer_.start(with_.limits.answer, [this] { fail(); });
+}
+
+void ServiceCalendar::fail() {
+    stage_ = Stage::Idle;
+    attempt_.reset();
+    answerTimer_.stop();
+    gatheringTimer_.stop();
+    probeTimer_.stop();
+    patienceTimer_.stop();
+    state_.isSettled = true;
+    setCondition(CalendarState::Condition::Unreachable);
+    retryTimer_.start(retryDelay_.failed(), [this] { connect(); });
+}
+
+void ServiceCalendar::setCondition(CalendarState::Condition condition) {
+    if (state_.condition != condition) {
+        state_.condition = condition;
+        state_.since = with_.clock.now();
+    }
+    with_.changed();
+}
+
+} // namespace quillet

@@ -1,0 +1,203 @@
+#include "backends/evolution/ServiceSession.h"
+
+#include "backends/evolution/RememberedCalendars.h"
+#include "backends/evolution/SourceDescription.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quillet {
+
+namespace {
+
+using Service = ServicePicture::Service;
+
+bool isSame(const CalendarList& left, const CalendarList& right) {
+    return std::ranges::equal(left, right,
+                              [](const auto& one, const auto& other) { return *one == *other; });
+}
+
+} // namespace
+
+ServiceSession::ServiceSession(Setup setup)
+    : with_(std::move(setup))
+    , zones_(with_.zone)
+    , since_(clock_.now())
+    , remembered_(rememberedCalendars(with_.memoryPath))
+    , retryDelay_(with_.limits) {
+    for (const auto& calendar : remembered_) {
+        calendars_.push_back(newCalendar(calendar));
+    }
+    publish();
+    connectToBus();
+}
+
+ServiceSession::~ServiceSession() {
+    g_cancellable_cancel(cancellable_.get());
+}
+
+void ServiceSession::connectToBus() {
+    retryTimer_.stop();
+    cancellable_.reset(g_cancellable_new());
+    answerTimer_.start(with_.limits.answer, [this] { loseService(Service::Unreachable); });
+    g_bus_get(G_BUS_TYPE_SESSION, cancellable_.get(), finishCall,
+              pendingCall([this, cancellable = newReference(cancellable_.get()).release()](
+                              GObject*, GAsyncResult* result) {
+                  const ObjectPointer<GCancellable> owner(cancellable);
+                  CallError error;
+                  const ObjectPointer<GDBusConnection> bus(g_bus_get_finish(result, error.slot()));
+                  if (g_cancellable_is_cancelled(cancellable) != FALSE) {
+                      return;
+                  }
+                  if (bus) {
+                      busCame(bus.get());
+                  } else {
+                      loseService(Service::NoSessionBus);
+                  }
+              }));
+}
+
+void ServiceSession::busCame(GDBusConnection* bus) {
+    // A bus that goes away must not take the program along.
+    g_dbus_connection_set_exit_on_close(bus, FALSE);
+    bus_ = newReference(bus);
+    busHandlers_.emplace_back(
+        bus, "closed", G_CALLBACK(+[](GDBusConnection*, gboolean, GError*, gpointer data) {
+            static_cast<ServiceSession*>(data)->loseService(Service::NoSessionBus);
+        }),
+        this);
+    connectToRegistry();
+}
+
+void ServiceSession::connectToRegistry() {
+    e_source_registry_new(
+        cancellable_.get(), finishCall,
+        pendingCall([this, cancellable = newReference(cancellable_.get()).release()](
+                        GObject*, GAsyncResult* result) {
+            const ObjectPointer<GCancellable> owner(cancellable);
+            CallError error;
+            ObjectPointer<ESourceRegistry> registry(
+                e_source_registry_new_finish(result, error.slot()));
+            if (g_cancellable_is_cancelled(cancellable) != FALSE) {
+                return;
+            }
+            if (registry) {
+                registryCame(std::move(registry));
+            } else {
+                registryFailed(error);
+            }
+        }));
+}
+
+void ServiceSession::registryFailed(const CallError& error) {
+    const bool isMissing = error.is(G_DBUS_ERROR, G_DBUS_ERROR_SERVICE_UNKNOWN);
+    loseService(isMissing ? Service::Missing : Service::Unreachable);
+}
+
+void ServiceSession::registryCame(ObjectPointer<ESourceRegistry> registry) {
+    answerTimer_.stop();
+    retryDelay_.succeeded();
+    registry_ = std::move(registry);
+    service_ = Service::Running;
+    const auto changed = +[](ESourceRegistry*, ESource*, gpointer data) {
+        static_cast<ServiceSession*>(data)->sourcesChanged();
+    };
+    for (const char* signal : {"source-added", "source-changed", "source-removed", "source-enabled",
+                               "source-disabled"}) {
+        registryHandlers_.emplace_back(registry_.get(), signal, G_CALLBACK(changed), this);
+    }
+    refreshSources();
+}
+
+void ServiceSession::loseService(Service service) {
+    answerTimer_.stop();
+    sourcesTimer_.stop();
+    g_cancellable_cancel(cancellable_.get());
+    registryHandlers_.clear();
+    busHandlers_.clear();
+    registry_.reset();
+    bus_.reset();
+    if (service_ != service) {
+        service_ = service;
+        since_ = clock_.now();
+    }
+    for (const auto& calendar : calendars_) {
+        calendar->loseService();
+    }
+    publishSoon();
+    retryTimer_.start(retryDelay_.failed(), [this] { connectToBus(); });
+}
+
+void ServiceSession::sourcesChanged() {
+    if (!sourcesTimer_.isRunning()) {
+        sourcesTimer_.start(with_.limits.gathering, [this] { refreshSources(); });
+    }
+}
+
+void ServiceSession::refreshSources() {
+    GList* listed = e_source_registry_list_enabled(registry_.get(), E_SOURCE_EXTENSION_CALENDAR);
+    std::vector<ESource*> sources;
+    for (const GList* item = listed; item != nullptr; item = item->next) {
+        auto* source = static_cast<ESource*>(item->data);
+        if (isUserCalendar(source)) {
+            sources.push_back(source);
+        }
+    }
+    std::ranges::sort(sources, isListedBefore);
+    Calendars known = std::exchange(calendars_, {});
+    for (ESource* source : sources) {
+        auto calendar = std::make_shared<const StoreCalendar>(calendarFrom(source));
+        auto followed = takeKnown(known, calendar->calendarIdentifier);
+        if (!followed) {
+            followed = newCalendar(calendar);
+        }
+        followed->follow(source, calendar);
+        calendars_.push_back(std::move(followed));
+    }
+    g_list_free_full(listed, g_object_unref);
+    remember();
+    publishSoon();
+}
+
+std::unique_ptr<ServiceCalendar> ServiceSession::takeKnown(Calendars& known,
+                                                           const QString& identifier) {
+    const auto found = std::ranges::find_if(known, [&](const auto& one) {
+        return one && one->state().calendar->calendarIdentifier == identifier;
+    });
+    return found == known.end() ? nullptr : std::move(*found);
+}
+
+std::unique_ptr<ServiceCalendar>
+ServiceSession::newCalendar(std::shared_ptr<const StoreCalendar> calendar) {
+    return std::make_unique<ServiceCalendar>(
+        std::move(calendar),
+        ServiceCalendar::Surroundings{zones_, clock_, with_.limits, [this] { publishSoon(); }});
+}
+
+void ServiceSession::remember() {
+    CalendarList present;
+    for (const auto& calendar : calendars_) {
+        present.push_back(calendar->state().calendar);
+    }
+    if (!isSame(present, remembered_)) {
+        rememberCalendars(with_.memoryPath, present);
+        remembered_ = std::move(present);
+    }
+}
+
+void ServiceSession::publishSoon() {
+    if (!publishTimer_.isRunning()) {
+        publishTimer_.start(with_.limits.gathering / 2, [this] { publish(); });
+    }
+}
+
+void ServiceSession::publish() {
+    ServicePicture picture{service_, since_, {}};
+    for (const auto& calendar : calendars_) {
+        picture.calendars.push_back(calendar->state());
+    }
+    with_.board->hang(std::move(picture));
+    with_.changed();
+}
+
+} // namespace quillet
