@@ -16,6 +16,10 @@ class NotSeen(AssertionError):
     """A condition that the window never met."""
 
 
+class Vanished(Exception):
+    """A part of a table that was there a moment ago, while its rows were counted."""
+
+
 def wait_for(what, condition, seconds=PATIENCE_SECONDS):
     """The condition's first true value; controls that vanish while being looked at are looked for
     again."""
@@ -24,7 +28,7 @@ def wait_for(what, condition, seconds=PATIENCE_SECONDS):
         try:
             if value := condition():
                 return value
-        except GLib.Error:
+        except (GLib.Error, Vanished):
             pass
         if time.monotonic() > deadline:
             raise NotSeen(f"not within {seconds} seconds: {what}")
@@ -92,8 +96,14 @@ def type_keys(text):
     subprocess.run(["xdotool", "type", text], check=True)
 
 
+def present(part):
+    if part is None:
+        raise Vanished
+    return part
+
+
 def cell(table, row, column):
-    return table.get_table_iface().get_accessible_at(row, column)
+    return present(table.get_table_iface().get_accessible_at(row, column))
 
 
 def cell_names(table, column):
@@ -110,4 +120,5 @@ def row_names(table):
 
 def column_titles(table):
     cells = table.get_table_iface()
-    return [cells.get_column_header(column).get_name() for column in range(cells.get_n_columns())]
+    return [present(cells.get_column_header(column)).get_name()
+            for column in range(cells.get_n_columns())]

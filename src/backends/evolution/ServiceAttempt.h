@@ -1,5 +1,6 @@
 #pragma once
 
+#include "backends/evolution/ServerWatch.h"
 #include "backends/evolution/ServiceCalendar.h"
 
 #include <QSet>
@@ -15,6 +16,8 @@ struct ServiceCalendar::Attempt {
     ObjectPointer<GCancellable> cancellable{g_cancellable_new()};
     ObjectPointer<ECalClient> client;
     ObjectPointer<ECalClientView> view;
+    /// Of a calendar that has a server behind it.
+    std::unique_ptr<ServerWatch> serverWatch;
     bool isComplete = false;
     /// Whether a zone became known that events were read without.
     bool hasNewZone = false;

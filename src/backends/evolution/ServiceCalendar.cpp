@@ -158,8 +158,31 @@ void ServiceCalendar::becomeLive() {
     state_.problems = contents_.problems();
     setCondition(CalendarState::Condition::Fine);
     probeTimer_.start(with_.limits.probe, [this] { probe(); });
+    watchServer(*attempt_);
     // What was removed while it was being read.
     noticesCame();
+}
+
+void ServiceCalendar::watchServer(Attempt& attempt) {
+    // Only what comes from elsewhere can be refreshed.
+    if (e_client_check_refresh_supported(E_CLIENT(attempt.client.get())) == FALSE) {
+        return;
+    }
+    attempt.serverWatch = std::make_unique<ServerWatch>(
+        source_.get(), attempt.client.get(), attempt.view.get(), with_.limits,
+        [this](ServerWatch::Server server) {
+            switch (server) {
+            case ServerWatch::Server::Reachable:
+                setCondition(CalendarState::Condition::Fine);
+                break;
+            case ServerWatch::Server::Unreachable:
+                setCondition(CalendarState::Condition::ServerUnreachable);
+                break;
+            case ServerWatch::Server::NeedsPassword:
+                setCondition(CalendarState::Condition::NeedsPassword);
+                break;
+            }
+        });
 }
 
 gpointer ServiceCalendar::callOf(AttemptCall finish) const {

@@ -63,6 +63,7 @@ private:
     void uidCame(Attempt& attempt, const QString& uid, const GSList* components);
     void applyNotices();
     void probe();
+    void watchServer(Attempt& attempt);
 
     /// The data for an asynchronous call of the present attempt.
     [[nodiscard]] gpointer callOf(AttemptCall finish) const;

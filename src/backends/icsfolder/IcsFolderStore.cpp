@@ -58,8 +58,13 @@ Observation IcsFolderStore::observeChanges(std::function<void()> callback) {
 }
 
 std::vector<StoreProblem> IcsFolderStore::problems() const {
-    const FolderLoader* running = loader();
-    return running != nullptr ? running->problems() : std::vector<StoreProblem>();
+    if (const FolderLoader* running = loader()) {
+        return running->problems();
+    }
+    if (access_.status() == AuthorizationStatus::Authorized) {
+        return {{rootPath_, localized("a folder that cannot be reached")}};
+    }
+    return {};
 }
 
 bool IcsFolderStore::isLoading() const {

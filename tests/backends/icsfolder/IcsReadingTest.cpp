@@ -201,12 +201,12 @@ TEST_F(IcsReadingTest, takesNoWordForTheNameOfAZoneThatIsNone) {
         EXPECT_EQ(starts(), Instants({utc(2024, 7, 1, 10)})) << word;
         EXPECT_EQ(store->problems().size(), 1U) << word;
     }
-    for (const char* zone : {"Japan", "EST5EDT", "UTC", "GMT"}) {
+    for (const char* name : {"Japan", "EST5EDT", "UTC", "GMT"}) {
         write(QStringLiteral("a.ics"),
-              eventFile("DTSTART;TZID=" + QByteArray(zone) + ":20240701T120000"));
+              eventFile("DTSTART;TZID=" + QByteArray(name) + ":20240701T120000"));
         store.reset();
-        EXPECT_EQ(starts().size(), 1U) << zone;
-        EXPECT_TRUE(store->problems().empty()) << zone;
+        EXPECT_EQ(starts().size(), 1U) << name;
+        EXPECT_TRUE(store->problems().empty()) << name;
     }
 }
 
