@@ -24,6 +24,10 @@
         <translation>Ein Ordner enthält einen Kalender mit einer Datei je Termin, eine Datei einen ganzen Kalender.</translation>
     </message>
     <message>
+        <source>a folder that cannot be reached</source>
+        <translation>ein Ordner, der nicht erreichbar ist</translation>
+    </message>
+    <message>
         <source>A last row with the sums of the columns</source>
         <translation>Eine letzte Zeile mit den Summen der Spalten</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Calendar Groups</source>
         <translation>Kalendergruppen</translation>
+    </message>
+    <message>
+        <source>Calendar without a name</source>
+        <translation>Kalender ohne Namen</translation>
     </message>
     <message>
         <source>&amp;Calendars</source>
@@ -360,6 +368,10 @@
         <translation>Gelöschte Einträge können nicht wiederhergestellt werden.</translation>
     </message>
     <message>
+        <source>Desktop calendars</source>
+        <translation>Kalender des Desktops</translation>
+    </message>
+    <message>
         <source>Don’t Allow</source>
         <translation>Nicht erlauben</translation>
     </message>
@@ -528,6 +540,10 @@
         <translation>Installieren Sie die neuere Version auf dem Weg, auf dem Sie Quillet installiert haben.</translation>
     </message>
     <message>
+        <source>is still being read</source>
+        <translation>wird noch gelesen</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>es ist keine Datei</translation>
     </message>
@@ -542,6 +558,10 @@
     <message>
         <source>Its desktop entry is malformed.</source>
         <translation>Sein Starteintrag ist fehlerhaft.</translation>
+    </message>
+    <message>
+        <source>its server is not reachable since %1, retrying</source>
+        <translation>sein Server ist seit %1 nicht erreichbar, neuer Versuch folgt</translation>
     </message>
     <message>
         <source>Keeps all this under a name, and brings it back</source>
@@ -648,6 +668,10 @@
         <translation>mehr als 300.000 Termine; die übrigen werden weggelassen</translation>
     </message>
     <message>
+        <source>needs its password, which the calendar program asks for</source>
+        <translation>braucht sein Passwort, nach dem das Kalenderprogramm fragt</translation>
+    </message>
+    <message>
         <source>&amp;New</source>
         <translation>&amp;Neu</translation>
     </message>
@@ -718,6 +742,14 @@
     <message>
         <source>not a file</source>
         <translation>keine Datei</translation>
+    </message>
+    <message>
+        <source>not reachable since %1, retrying</source>
+        <translation>seit %1 nicht erreichbar, neuer Versuch folgt</translation>
+    </message>
+    <message>
+        <source>not reachable, for there is no session bus</source>
+        <translation>nicht erreichbar, denn es gibt keinen Sitzungsbus</translation>
     </message>
     <message>
         <source>&amp;Notes</source>

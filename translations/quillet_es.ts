@@ -24,6 +24,10 @@
         <translation>Una carpeta contiene un calendario con un archivo por evento; un archivo contiene un calendario entero.</translation>
     </message>
     <message>
+        <source>a folder that cannot be reached</source>
+        <translation>una carpeta que no está disponible</translation>
+    </message>
+    <message>
         <source>A last row with the sums of the columns</source>
         <translation>Una última fila con las sumas de las columnas</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Calendar Groups</source>
         <translation>Grupos de calendarios</translation>
+    </message>
+    <message>
+        <source>Calendar without a name</source>
+        <translation>Calendario sin nombre</translation>
     </message>
     <message>
         <source>&amp;Calendars</source>
@@ -360,6 +368,10 @@
         <translation>Los registros eliminados no se pueden recuperar.</translation>
     </message>
     <message>
+        <source>Desktop calendars</source>
+        <translation>Calendarios del escritorio</translation>
+    </message>
+    <message>
         <source>Don’t Allow</source>
         <translation>No permitir</translation>
     </message>
@@ -528,6 +540,10 @@
         <translation>Instale la versión más reciente de la misma forma en que instaló Quillet.</translation>
     </message>
     <message>
+        <source>is still being read</source>
+        <translation>todavía se está leyendo</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>no es un archivo</translation>
     </message>
@@ -542,6 +558,10 @@
     <message>
         <source>Its desktop entry is malformed.</source>
         <translation>Su entrada de escritorio tiene errores.</translation>
+    </message>
+    <message>
+        <source>its server is not reachable since %1, retrying</source>
+        <translation>su servidor no está disponible desde las %1; se reintentará</translation>
     </message>
     <message>
         <source>Keeps all this under a name, and brings it back</source>
@@ -648,6 +668,10 @@
         <translation>más de 300 000 eventos; los demás se omiten</translation>
     </message>
     <message>
+        <source>needs its password, which the calendar program asks for</source>
+        <translation>necesita su contraseña, que pide el programa de calendario</translation>
+    </message>
+    <message>
         <source>&amp;New</source>
         <translation>&amp;Nuevo</translation>
     </message>
@@ -718,6 +742,14 @@
     <message>
         <source>not a file</source>
         <translation>no es un archivo</translation>
+    </message>
+    <message>
+        <source>not reachable since %1, retrying</source>
+        <translation>no disponible desde las %1; se reintentará</translation>
+    </message>
+    <message>
+        <source>not reachable, for there is no session bus</source>
+        <translation>no disponibles, pues no hay bus de sesión</translation>
     </message>
     <message>
         <source>&amp;Notes</source>

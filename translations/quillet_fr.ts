@@ -24,6 +24,10 @@
         <translation>Un dossier contient un calendrier avec un fichier par événement ; un fichier contient un calendrier entier.</translation>
     </message>
     <message>
+        <source>a folder that cannot be reached</source>
+        <translation>un dossier inaccessible</translation>
+    </message>
+    <message>
         <source>A last row with the sums of the columns</source>
         <translation>Une dernière ligne avec les sommes des colonnes</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Calendar Groups</source>
         <translation>Groupes de calendriers</translation>
+    </message>
+    <message>
+        <source>Calendar without a name</source>
+        <translation>Calendrier sans nom</translation>
     </message>
     <message>
         <source>&amp;Calendars</source>
@@ -360,6 +368,10 @@
         <translation>Les enregistrements supprimés ne peuvent pas être restaurés.</translation>
     </message>
     <message>
+        <source>Desktop calendars</source>
+        <translation>Calendriers du bureau</translation>
+    </message>
+    <message>
         <source>Don’t Allow</source>
         <translation>Ne pas autoriser</translation>
     </message>
@@ -528,6 +540,10 @@
         <translation>Installez la nouvelle version de la même façon que vous avez installé Quillet.</translation>
     </message>
     <message>
+        <source>is still being read</source>
+        <translation>est encore en cours de lecture</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>ce n’est pas un fichier</translation>
     </message>
@@ -542,6 +558,10 @@
     <message>
         <source>Its desktop entry is malformed.</source>
         <translation>Son fichier de lancement est mal formé.</translation>
+    </message>
+    <message>
+        <source>its server is not reachable since %1, retrying</source>
+        <translation>son serveur est injoignable depuis %1, nouvel essai à venir</translation>
     </message>
     <message>
         <source>Keeps all this under a name, and brings it back</source>
@@ -648,6 +668,10 @@
         <translation>plus de 300 000 événements ; les autres sont laissés de côté</translation>
     </message>
     <message>
+        <source>needs its password, which the calendar program asks for</source>
+        <translation>a besoin de son mot de passe, que demande le programme de calendrier</translation>
+    </message>
+    <message>
         <source>&amp;New</source>
         <translation>&amp;Nouveau</translation>
     </message>
@@ -718,6 +742,14 @@
     <message>
         <source>not a file</source>
         <translation>n’est pas un fichier</translation>
+    </message>
+    <message>
+        <source>not reachable since %1, retrying</source>
+        <translation>injoignable depuis %1, nouvel essai à venir</translation>
+    </message>
+    <message>
+        <source>not reachable, for there is no session bus</source>
+        <translation>injoignables, car il n’y a pas de bus de session</translation>
     </message>
     <message>
         <source>&amp;Notes</source>

@@ -24,6 +24,10 @@
         <translation>フォルダーは 1 予定 1 ファイルのカレンダー、ファイルは 1 つのカレンダー全体です。</translation>
     </message>
     <message>
+        <source>a folder that cannot be reached</source>
+        <translation>アクセスできないフォルダー</translation>
+    </message>
+    <message>
         <source>A last row with the sums of the columns</source>
         <translation>列の合計を示す最後の行</translation>
     </message>
@@ -174,6 +178,10 @@
     <message>
         <source>Calendar Groups</source>
         <translation>カレンダーグループ</translation>
+    </message>
+    <message>
+        <source>Calendar without a name</source>
+        <translation>名前のないカレンダー</translation>
     </message>
     <message>
         <source>&amp;Calendars</source>
@@ -360,6 +368,10 @@
         <translation>削除した項目は元に戻せません。</translation>
     </message>
     <message>
+        <source>Desktop calendars</source>
+        <translation>デスクトップのカレンダー</translation>
+    </message>
+    <message>
         <source>Don’t Allow</source>
         <translation>許可しない</translation>
     </message>
@@ -528,6 +540,10 @@
         <translation>Quillet をインストールしたときと同じ方法で新しいバージョンをインストールしてください。</translation>
     </message>
     <message>
+        <source>is still being read</source>
+        <translation>まだ読み込み中です</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>ファイルではありません</translation>
     </message>
@@ -542,6 +558,10 @@
     <message>
         <source>Its desktop entry is malformed.</source>
         <translation>起動用ファイルに誤りがあります。</translation>
+    </message>
+    <message>
+        <source>its server is not reachable since %1, retrying</source>
+        <translation>%1からサーバーに接続できません。再試行します</translation>
     </message>
     <message>
         <source>Keeps all this under a name, and brings it back</source>
@@ -648,6 +668,10 @@
         <translation>予定が 300,000 件を超えているため、残りは省略されます</translation>
     </message>
     <message>
+        <source>needs its password, which the calendar program asks for</source>
+        <translation>パスワードが必要です。カレンダープログラムで入力してください</translation>
+    </message>
+    <message>
         <source>&amp;New</source>
         <translation>新規(&amp;N)</translation>
     </message>
@@ -718,6 +742,14 @@
     <message>
         <source>not a file</source>
         <translation>ファイルではありません</translation>
+    </message>
+    <message>
+        <source>not reachable since %1, retrying</source>
+        <translation>%1から接続できません。再試行します</translation>
+    </message>
+    <message>
+        <source>not reachable, for there is no session bus</source>
+        <translation>セッションバスがないため接続できません</translation>
     </message>
     <message>
         <source>&amp;Notes</source>
