@@ -93,13 +93,13 @@ TEST_F(ServiceBadInputTest, readsFiftyThousandEventsAndFollowsThem) {
     ESource* huge = addCalendar(QStringLiteral("Huge"), "huge");
     ESource* small = addCalendar(QStringLiteral("Small"), "small");
     addEvent(small, event("one", "First"));
+    const auto inMarch = [this] { return events(utc(2024, 3, 1), utc(2024, 4, 1)).size(); };
     // Opening the file is the service's own work.
     (void)clientOf(huge);
     QElapsedTimer timer;
     timer.start();
     open();
-    // The large one does not hold the small one up.
-    ASSERT_TRUE(waitUntil([&] { return titles() == QStringList({"First"}); }));
+    ASSERT_TRUE(waitUntil([&] { return inMarch() == 1; }));
     ASSERT_TRUE(waitUntil([&] { return events().size() == count + 1; }, 60'000));
     std::cout << "50,000 events after " << timer.elapsed() << " ms\n";
     EXPECT_TRUE(waitUntil([&] { return store->problems().empty(); }));
@@ -109,8 +109,7 @@ TEST_F(ServiceBadInputTest, readsFiftyThousandEventsAndFollowsThem) {
     EXPECT_LT(timer.elapsed(), 100);
 
     addEvent(huge, event("another", "Another"));
-    EXPECT_TRUE(
-        waitUntil([&] { return events(utc(2024, 3, 1), utc(2024, 3, 2)).size() == 1; }, 5000));
+    EXPECT_TRUE(waitUntil([&] { return inMarch() == 2; }, 5000));
     EXPECT_EQ(events().size(), count + 2U);
 }
 
