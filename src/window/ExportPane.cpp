@@ -4,7 +4,6 @@
 #include "window/ElidedLabel.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
 
@@ -16,13 +15,13 @@ ExportPane::ExportPane(const QString& title, QWidget& view, Actions actions, QWi
     , remark_(new ElidedLabel(this))
     , tools_(new QHBoxLayout)
     , switches_(new QHBoxLayout) {
-    auto* name = new QLabel(title, this);
+    auto* name = new ElidedLabel(this);
+    name->setText(title);
     QFont font = name->font();
     font.setBold(true);
     name->setFont(font);
     remark_->setForegroundRole(QPalette::PlaceholderText);
     // In a narrow window the texts give way, not the neighbours of the pane.
-    name->setMinimumWidth(1);
     view_.setAccessibleName(title);
     setAccessibleName(title);
 
