@@ -1,5 +1,6 @@
 #include "Program.h"
 #include "backends/translations/Translations.h"
+#include "window/ClearIndicators.h"
 #include "window/ReportViewAccessible.h"
 
 #include <QApplication>
@@ -50,6 +51,7 @@ int main(int argc, char** argv) {
     const QStringList languages = quillet::messageLanguages(quillet::processEnvironment());
     const quillet::Translations translations(languages);
     quillet::installReportViewAccessibility();
+    quillet::installClearIndicators();
     quillet::Program program(programPaths(languages), service);
     QObject::connect(&application, &QApplication::lastWindowClosed, &service,
                      &quillet::ApplicationService::endSoon);

@@ -20,6 +20,7 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QStyle>
 #include <QToolBar>
 #include <QToolButton>
 #include <QUrl>
@@ -261,7 +262,10 @@ void MainWindow::restoreState(const QString& stateFile) {
     const QSettings state(stateFile, QSettings::IniFormat);
     if (!restoreGeometry(state.value(QStringLiteral("geometry")).toByteArray())) {
         const int unit = fontMetrics().averageCharWidth();
-        resize(QSize(unit * 200, fontMetrics().height() * 48).boundedTo(screen()->availableSize()));
+        // The title bar comes on top.
+        const QSize room =
+            screen()->availableSize() - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+        resize(QSize(unit * 200, fontMetrics().height() * 48).boundedTo(room));
     }
     splitter_->restoreState(state.value(QStringLiteral("panes")).toByteArray());
     panes_->centreSplitter().restoreState(state.value(QStringLiteral("centre")).toByteArray());
