@@ -23,16 +23,18 @@ public:
     /// See DesktopEntries::handlers().
     [[nodiscard]] std::vector<DesktopEntry> handlers(const QString& mimeType) const;
     /// The error is a text for the user.
-    std::expected<void, QString> open(const DesktopEntry& entry, const QString& address) const;
+    [[nodiscard]] std::expected<void, QString> open(const DesktopEntry& entry,
+                                                    const QString& address) const;
     /// Starts the entry's program with these arguments instead of those of its command.
-    std::expected<void, QString> start(const DesktopEntry& entry,
-                                       const QStringList& arguments) const;
+    [[nodiscard]] std::expected<void, QString> start(const DesktopEntry& entry,
+                                                     const QStringList& arguments) const;
     /// The name of the file that the entry's command starts; empty when it starts it through
     /// another program.
     [[nodiscard]] static QString programName(const DesktopEntry& entry);
 
 private:
-    std::expected<void, QString> run(const DesktopEntry& entry, QStringList command) const;
+    [[nodiscard]] std::expected<void, QString> run(const DesktopEntry& entry,
+                                                   QStringList command) const;
 
     DesktopEntries entries_;
     TaskLauncher& launcher_;

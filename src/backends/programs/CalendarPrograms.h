@@ -45,7 +45,7 @@ public:
     /// Shows the event in the user's preferred program of those that can show one. An event that
     /// comes from a file is opened as that file. The user is told when there is no program for
     /// calendars at all; any other error is a text for the log alone.
-    std::expected<void, QString> show(const EventRequest& request) const;
+    [[nodiscard]] std::expected<void, QString> show(const EventRequest& request) const;
 
 private:
     [[nodiscard]] std::expected<void, QString> showOfService(const EventPlace& place,

@@ -30,7 +30,7 @@ public:
     /// that is too long to hand over is put on the clipboard, and the user is told to paste it;
     /// where there is no mail program or it does not start, the user is told as well. The error is
     /// a text for the log.
-    std::expected<void, QString> compose(const MessageRequest& request) const;
+    [[nodiscard]] std::expected<void, QString> compose(const MessageRequest& request) const;
 
 private:
     [[nodiscard]] std::expected<void, QString> composeWithAddress(
