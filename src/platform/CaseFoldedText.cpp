@@ -35,13 +35,23 @@ std::vector<char32_t> variantsOf(char32_t code) {
     return found == variants().cend() ? std::vector{folded} : *found;
 }
 
+/// Half a pair stands for itself.
+char32_t codeAt(const QString& text, qsizetype position) {
+    const QChar unit = text.at(position);
+    const QChar next = position + 1 < text.size() ? text.at(position + 1) : QChar();
+    return unit.isHighSurrogate() && next.isLowSurrogate() ? QChar::surrogateToUcs4(unit, next)
+                                                           : unit.unicode();
+}
+
 } // namespace
 
 CaseFoldedText::CaseFoldedText(const QString& text) {
-    for (const char32_t code : text.toUcs4()) {
+    for (qsizetype position = 0; position < text.size(); ++position) {
+        const char32_t code = codeAt(text, position);
         const std::vector<char32_t> codes = variantsOf(code);
         std::vector<char16_t> units;
         if (QChar::requiresSurrogates(code)) {
+            ++position;
             // The variants of such a character differ in their second units only.
             units_.push_back(unitOf({QChar::highSurrogate(code)}));
             std::ranges::transform(codes, std::back_inserter(units), QChar::lowSurrogate);

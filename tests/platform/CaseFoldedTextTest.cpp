@@ -46,6 +46,12 @@ TEST(CaseFoldedTextTest, AllFormsOfALetterCountAsOne) {
     EXPECT_FALSE(isIn("𐐩", "a𐐀b"));
 }
 
+TEST(CaseFoldedTextTest, HalfAPairIsFoundAsItIs) {
+    const QString half = QStringLiteral("aÅ😀").left(3);
+    EXPECT_TRUE(isIn(half, "aÅ😀"));
+    EXPECT_FALSE(isIn(half, "aÅ本"));
+}
+
 TEST(CaseFoldedTextTest, TheEmptyTextIsInEveryText) {
     EXPECT_TRUE(isIn("", "anything"));
     EXPECT_TRUE(isIn("", ""));
