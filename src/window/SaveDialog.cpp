@@ -45,16 +45,16 @@ bool SaveDialog::mayReplace(const QString& path) {
 void SaveDialog::accept() {
     // A name such as "30. November" counts as one that has a suffix, and is not completed.
     const QString path = selectedFiles().value(0);
-    if (path.isEmpty() || QFileInfo(path).isDir() || typed(path) == path) {
-        QFileDialog::accept();
-    } else if (auto* field = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))) {
+    const bool isIncomplete = !path.isEmpty() && !QFileInfo(path).isDir() && typed(path) != path;
+    auto* const field = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    if (isIncomplete && field != nullptr) {
         field->setText(QDir::toNativeSeparators(typed(path)));
-        QFileDialog::accept();
-    } else if (mayReplace(typed(path))) {
-        QFileDialog::accept();
-    } else {
+    } else if (isIncomplete && !mayReplace(typed(path))) {
+        // The desktop's own dialog has gone by now.
         reject();
+        return;
     }
+    QFileDialog::accept();
 }
 
 } // namespace quillet
