@@ -13,6 +13,9 @@ if(QUILLET_SANITIZERS)
     -fsanitize=${QUILLET_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
   target_link_options(quillet_options INTERFACE -fsanitize=${QUILLET_SANITIZERS})
 endif()
+if(QUILLET_FUZZING)
+  target_compile_options(quillet_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # quillet_library(<folder below src> [LINKS <target>...])
 #

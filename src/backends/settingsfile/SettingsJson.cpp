@@ -51,16 +51,18 @@ QJsonValue toJson(const QVariant& value) {
 QVariant fromJson(const QJsonValue& value);
 
 QVariant fromObject(const QJsonObject& object) {
-    if (object.size() == 1 && object.value(dateMember).isString()) {
+    // The member's name as it is read, not looked up: a byte-order mark in it counts for one only.
+    const bool isTyped = object.size() == 1 && object.begin().value().isString();
+    if (isTyped && object.begin().key() == dateMember) {
         const QDateTime date =
-            QDateTime::fromString(object.value(dateMember).toString(), Qt::ISODateWithMs);
+            QDateTime::fromString(object.begin().value().toString(), Qt::ISODateWithMs);
         if (date.isValid()) {
             return QVariant::fromValue(
                 Instant(std::chrono::milliseconds(date.toMSecsSinceEpoch())));
         }
     }
-    if (object.size() == 1 && object.value(decimalMember).isString()) {
-        return QVariant::fromValue(Decimal::fromString(object.value(decimalMember).toString()));
+    if (isTyped && object.begin().key() == decimalMember) {
+        return QVariant::fromValue(Decimal::fromString(object.begin().value().toString()));
     }
     QVariantMap map;
     for (auto member = object.begin(); member != object.end(); ++member) {
