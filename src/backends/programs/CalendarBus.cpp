@@ -4,7 +4,9 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
+#include <QDeadlineTimer>
 #include <QProcess>
+#include <QThread>
 
 #include <array>
 #include <ctime>
@@ -57,6 +59,23 @@ QString gnomeCalendarDate(const QDateTime& start) {
     std::array<char, longestDate> text{};
     const std::size_t length = std::strftime(text.data(), text.size(), format, &fields);
     return QString::fromLocal8Bit(text.data(), static_cast<qsizetype>(length));
+}
+
+bool SessionCalendarBus::isRunning(const QString& service) const {
+    QDBusConnectionInterface* bus = QDBusConnection::sessionBus().interface();
+    return bus != nullptr && bus->isServiceRegistered(service).value();
+}
+
+bool SessionCalendarBus::waitUntilRunning(const QString& service) const {
+    constexpr unsigned long pauseMilliseconds = 50;
+    const QDeadlineTimer deadline(deadlineMilliseconds);
+    while (!isRunning(service)) {
+        if (deadline.hasExpired() || !QDBusConnection::sessionBus().isConnected()) {
+            return false;
+        }
+        QThread::msleep(pauseMilliseconds);
+    }
+    return true;
 }
 
 std::expected<void, QString>

@@ -12,6 +12,10 @@ namespace quillet {
 class CalendarBus {
 public:
     virtual ~CalendarBus() = default;
+    /// Whether a program has that name on the bus.
+    [[nodiscard]] virtual bool isRunning(const QString& service) const = 0;
+    /// Waits until a program has that name; false when none takes it within ten seconds.
+    [[nodiscard]] virtual bool waitUntilRunning(const QString& service) const = 0;
     /// The program looks only among the days that it shows: `start`, local time, takes it there.
     virtual std::expected<void, QString>
     showInGnomeCalendar(const QString& serviceCalendar, const QString& uid,
@@ -27,6 +31,8 @@ public:
 
 class SessionCalendarBus final : public CalendarBus {
 public:
+    [[nodiscard]] bool isRunning(const QString& service) const override;
+    [[nodiscard]] bool waitUntilRunning(const QString& service) const override;
     std::expected<void, QString>
     showInGnomeCalendar(const QString& serviceCalendar, const QString& uid,
                         const std::optional<QDateTime>& start) override;

@@ -54,8 +54,12 @@ std::expected<void, QString> CalendarPrograms::showOfService(const EventPlace& p
         return with_.portal->openAddress(calendarAddress(place.serviceCalendar, uid));
     }
     auto entries = with_.applications.handlers(QStringLiteral("text/calendar"));
-    std::ranges::move(with_.applications.handlers(QStringLiteral("x-scheme-handler/calendar")),
-                      std::back_inserter(entries));
+    for (DesktopEntry& entry :
+         with_.applications.handlers(QStringLiteral("x-scheme-handler/calendar"))) {
+        if (std::ranges::find(entries, entry.id, &DesktopEntry::id) == entries.end()) {
+            entries.push_back(std::move(entry));
+        }
+    }
     // The service is these programs' own; the others know its events only if they share an account.
     std::ranges::stable_partition(entries, [](const DesktopEntry& entry) {
         return programOf(entry) != Program::KdeCalendar;
@@ -80,7 +84,7 @@ std::expected<void, QString> CalendarPrograms::showIn(const DesktopEntry& entry,
                                                       const QString& uid) const {
     switch (programOf(entry)) {
     case Program::Evolution:
-        return with_.applications.open(entry, calendarAddress(place.serviceCalendar, uid));
+        return showInEvolution(entry, calendarAddress(place.serviceCalendar, uid));
     case Program::GnomeCalendar:
         return with_.bus.showInGnomeCalendar(place.serviceCalendar, uid, place.start);
     case Program::KdeCalendar: {
@@ -93,6 +97,20 @@ std::expected<void, QString> CalendarPrograms::showIn(const DesktopEntry& entry,
         break;
     }
     return std::unexpected(QString());
+}
+
+std::expected<void, QString> CalendarPrograms::showInEvolution(const DesktopEntry& entry,
+                                                               const QString& address) const {
+    const QString service = QStringLiteral("org.gnome.Evolution");
+    if (!with_.bus.isRunning(service)) {
+        // Started with an address, the program drops it and shows nothing at all.
+        const auto started =
+            with_.applications.start(entry, {QStringLiteral("-c"), QStringLiteral("calendar")});
+        if (!started || !with_.bus.waitUntilRunning(service)) {
+            return started ? std::unexpected(QStringLiteral("Evolution does not answer")) : started;
+        }
+    }
+    return with_.applications.open(entry, address);
 }
 
 std::expected<void, QString> CalendarPrograms::openFile(const QString& path) const {

@@ -52,6 +52,8 @@ private:
                                                              const QString& uid) const;
     [[nodiscard]] std::expected<void, QString>
     showIn(const DesktopEntry& entry, const EventPlace& place, const QString& uid) const;
+    [[nodiscard]] std::expected<void, QString> showInEvolution(const DesktopEntry& entry,
+                                                               const QString& address) const;
     [[nodiscard]] std::expected<void, QString> openFile(const QString& path) const;
     [[nodiscard]] std::expected<void, QString> noProgram() const;
 

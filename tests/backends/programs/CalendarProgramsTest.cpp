@@ -10,6 +10,12 @@ namespace {
 
 class FakeBus final : public CalendarBus {
 public:
+    [[nodiscard]] bool isRunning(const QString& service) const override {
+        return isEvolutionRunning && service == u"org.gnome.Evolution";
+    }
+    [[nodiscard]] bool waitUntilRunning(const QString& service) const override {
+        return doesEvolutionAnswer && service == u"org.gnome.Evolution";
+    }
     std::expected<void, QString>
     showInGnomeCalendar(const QString& serviceCalendar, const QString& uid,
                         const std::optional<QDateTime>& start) override {
@@ -23,6 +29,8 @@ public:
         return kdeAnswer;
     }
 
+    bool isEvolutionRunning = true;
+    bool doesEvolutionAnswer = true;
     QStringList calls;
     std::expected<void, QString> gnomeAnswer;
     std::expected<void, QString> kdeAnswer;
@@ -91,6 +99,19 @@ TEST_F(CalendarProgramsTest, EvolutionOpensAnEventOfTheServiceByItsAddress) {
               QStringList{"calendar:///?source-uid=source%201&comp-uid="
                           "a%20%22b%22%2520%26c%0A%27%24%28d%29"});
     EXPECT_TRUE(bus.calls.isEmpty());
+}
+
+TEST_F(CalendarProgramsTest, AnEvolutionThatDoesNotRunIsStartedBeforeItGetsTheAddress) {
+    installEvolution();
+    bus.isEvolutionRunning = false;
+    ASSERT_TRUE(show("uid"));
+    ASSERT_EQ(launcher.launched.size(), 2);
+    EXPECT_EQ(launcher.launched[0].second, (QStringList{"-c", "calendar"}));
+    EXPECT_EQ(launcher.launched[1].second,
+              QStringList{"calendar:///?source-uid=source%201&comp-uid=uid"});
+    bus.doesEvolutionAnswer = false;
+    EXPECT_EQ(show("uid").error(), QStringLiteral("Evolution does not answer"));
+    EXPECT_EQ(launcher.launched.size(), 3);
 }
 
 TEST_F(CalendarProgramsTest, GnomeCalendarIsToldTheDayAsWell) {
@@ -206,6 +227,8 @@ TEST(CalendarBusTest, WithoutASessionBusNothingIsShownAndTheReasonSaid) {
     ASSERT_FALSE(gnome);
     EXPECT_FALSE(gnome.error().isEmpty());
     EXPECT_FALSE(bus.showInKdeCalendar("org.kde.korganizer", "b", {}));
+    EXPECT_FALSE(bus.isRunning("org.gnome.Evolution"));
+    EXPECT_FALSE(bus.waitUntilRunning("org.gnome.Evolution"));
 }
 
 TEST(CalendarBusTest, DatesAreWrittenAsTheProgramReadsThemInEnglish) {
