@@ -20,7 +20,6 @@ ServerWatch::ServerWatch(ESource* source, ECalClient* client, ECalClientView* vi
                          const ServiceLimits& limits, Report report)
     : source_(newReference(source))
     , client_(newReference(client))
-    , limits_(limits)
     , report_(std::move(report))
     , retryDelay_(limits) {
     handlers_.emplace_back(source, "notify::connection-status",

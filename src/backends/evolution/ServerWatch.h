@@ -39,7 +39,6 @@ private:
     ObjectPointer<ESource> source_;
     ObjectPointer<ECalClient> client_;
     ObjectPointer<GCancellable> cancellable_{g_cancellable_new()};
-    const ServiceLimits& limits_;
     Report report_;
     Server server_ = Server::Reachable;
     /// Whether the service says that it is exchanging events with the server.

@@ -70,7 +70,7 @@ void SourceContents::endReading() {
         Known known = knownFrom(std::move(family.value()), budget);
         std::ranges::copy(known.file->events, std::back_inserter(events));
         std::ranges::copy(known.file->series, std::back_inserter(series));
-        known_.insert(family.key(), std::move(known));
+        known_.emplace(family.key(), std::move(known));
     }
     contents_ = std::make_shared<const CalendarContents>(std::move(events), std::move(series));
 }
@@ -204,7 +204,7 @@ SourceContents::Known SourceContents::knownFrom(std::vector<RawEvent> events,
 void SourceContents::setKnown(const QString& uid, Known known) {
     forget(uid);
     fresh_.insert(uid, known.file);
-    known_.insert(uid, std::move(known));
+    known_.emplace(uid, std::move(known));
 }
 
 void SourceContents::forget(const QString& uid) {
