@@ -1,6 +1,7 @@
 #include "CalendarService.h"
 
 #include "backends/evolution/EvolutionStore.h"
+#include "backends/evolution/SourceDescription.h"
 
 namespace quillet {
 
@@ -9,6 +10,10 @@ std::unique_ptr<EventStore> makeCalendarService(CalendarAccess& access, const QS
     return std::make_unique<EvolutionStore>(
         access,
         EvolutionStore::Setup{.stateFolder = stateFolder, .shortTime = std::move(shortTime)});
+}
+
+QString identifierWithinService(const QString& calendarIdentifier) {
+    return sourceUidFrom(calendarIdentifier);
 }
 
 } // namespace quillet

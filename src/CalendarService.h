@@ -14,4 +14,8 @@ namespace quillet {
 makeCalendarService(CalendarAccess& access, const QString& stateFolder,
                     std::function<QString(Instant)> shortTime);
 
+/// The identifier under which the service itself knows a calendar; a null QString when the calendar
+/// is none of the service's.
+[[nodiscard]] QString identifierWithinService(const QString& calendarIdentifier);
+
 } // namespace quillet

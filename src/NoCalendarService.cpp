@@ -8,4 +8,8 @@ std::unique_ptr<EventStore> makeCalendarService(CalendarAccess& /*access*/,
     return nullptr;
 }
 
+QString identifierWithinService(const QString& /*calendarIdentifier*/) {
+    return {};
+}
+
 } // namespace quillet

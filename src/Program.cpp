@@ -233,7 +233,7 @@ WindowExports Program::exports() {
 }
 
 EventPlace Program::placeOf(const EventRequest& request) const {
-    EventPlace place{.serviceCalendar = {},
+    EventPlace place{.serviceCalendar = identifierWithinService(request.calendarIdentifier),
                      .file =
                          folderStore_.fileOf(request.calendarIdentifier, request.eventIdentifier),
                      .start = {}};
