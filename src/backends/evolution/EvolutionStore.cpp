@@ -1,5 +1,6 @@
 #include "backends/evolution/EvolutionStore.h"
 
+#include "backends/evolution/Glib.h"
 #include "backends/evolution/RememberedCalendars.h"
 #include "backends/evolution/ServiceSession.h"
 #include "platform/Localized.h"
@@ -29,13 +30,34 @@ bool hasSessionBus() {
            QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
 }
 
+/// Whether the schemas of the service's settings are installed. Its library ends the whole program
+/// where they are not.
+bool hasSchemas() {
+    GSettingsSchemaSource* const installed = g_settings_schema_source_get_default();
+    const auto isInstalled = [installed](const char* name) {
+        GSettingsSchema* const schema = g_settings_schema_source_lookup(installed, name, TRUE);
+        if (schema != nullptr) {
+            g_settings_schema_unref(schema);
+        }
+        return schema != nullptr;
+    };
+    return installed != nullptr && isInstalled("org.gnome.Evolution.DefaultSources") &&
+           isInstalled("org.gnome.evolution-data-server") &&
+           isInstalled("org.gnome.evolution-data-server.calendar");
+}
+
+ServicePicture::Service serviceBeforeStart() {
+    if (!hasSessionBus()) {
+        return ServicePicture::Service::NoSessionBus;
+    }
+    return hasSchemas() ? ServicePicture::Service::Starting : ServicePicture::Service::Missing;
+}
+
 ServicePicture pictureBeforeStart(const QString& stateFolder) {
-    const bool canStart = hasSessionBus();
+    const ServicePicture::Service service = serviceBeforeStart();
+    const bool canStart = service == ServicePicture::Service::Starting;
     const Instant now = SystemClock().now();
-    ServicePicture picture{canStart ? ServicePicture::Service::Starting
-                                    : ServicePicture::Service::NoSessionBus,
-                           now,
-                           {}};
+    ServicePicture picture{service, now, {}};
     for (const auto& calendar : rememberedCalendars(memoryPath(stateFolder))) {
         CalendarState state;
         state.calendar = calendar;
@@ -135,7 +157,7 @@ void EvolutionStore::startIfAllowed() {
         thread_.reset();
         return;
     }
-    if (thread_ || !hasSessionBus()) {
+    if (thread_ || serviceBeforeStart() != ServicePicture::Service::Starting) {
         return;
     }
     const ServiceSession::Setup setup{with_.zone, with_.limits, memoryPath(with_.stateFolder),
