@@ -1,6 +1,7 @@
 // The notes of 100,000 events, each with notes, under headings of four items, and their number. The
 // baseline writes the same finished parts through the same type.
 
+#include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"
 #include "results/EventNotesViewController.h"
 #include "support/EventSamples.h"
@@ -41,8 +42,9 @@ struct Sample {
 
     test::MemorySettings settings;
     IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "Europe/Berlin"};
+    IcuCalendarArithmetic calendar{"en_US", "Europe/Berlin", CalendarSystem::Gregorian};
     ListController<Event> events;
-    EventNotesViewController controller{{settings, events, formats}};
+    EventNotesViewController controller{{settings, events, formats, calendar}};
 };
 
 Sample& sample() {

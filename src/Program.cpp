@@ -83,7 +83,7 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
                       calendars_, gregorian_, formats_})
     , eventResults_({settings_, *resultsPane_, eventsController_, events_, billing_, formats_})
     , columnLayouts_({settings_, *eventTable_, dialogs_})
-    , eventNotes_({settings_, events_, formats_})
+    , eventNotes_({settings_, events_, formats_, gregorian_})
     , txtSettings_(settings_, dialogs_)
     , exportTxtView_({settings_, *eventTable_, events_, calendars_, fields_})
     , exportCSV_({settings_, *eventTable_, events_, fields_, dialogs_, dialogs_})
@@ -92,9 +92,10 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
           {settings_, formats_, dialogs_, dialogs_, scriptRunner_, installedPrograms_, textColor_,
            dialogs_,
            [this](const ExportProgress& progress) { return exportTxtView_.shownText(progress); }})
-    , exportNotes_({settings_, formats_, dialogs_, dialogs_, scriptRunner_, installedPrograms_,
-                    textColor_, dialogs_,
-                    [this](const ExportProgress&) { return eventNotes_.shownText(); }})
+    , exportNotes_(
+          {settings_, formats_, dialogs_, dialogs_, scriptRunner_, installedPrograms_, textColor_,
+           dialogs_,
+           [this](const ExportProgress& progress) { return eventNotes_.shownText(progress); }})
     , reportFormats_(locales_, timeZone_)
     , reportCalendar_(locales_.time, timeZone_, CalendarSystem::Gregorian)
     , reportQueue_(makeBackgroundQueue(QStringLiteral("org.quillet.Quillet.textReport")))

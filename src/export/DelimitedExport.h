@@ -2,7 +2,7 @@
 
 #include "eventdata/EventFields.h"
 #include "export/ExportFile.h"
-#include "export/ExportProgress.h"
+#include "platform/ExportProgress.h"
 #include "platform/ListController.h"
 #include "platform/ProgressPresenter.h"
 #include "platform/SavePanel.h"

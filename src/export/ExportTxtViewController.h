@@ -2,7 +2,7 @@
 
 #include "eventdata/CalendarRecord.h"
 #include "eventdata/EventFields.h"
-#include "export/ExportProgress.h"
+#include "platform/ExportProgress.h"
 #include "export/TextReport.h"
 #include "export/TextReportRefresh.h"
 #include "platform/ListController.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "export/ExportProgress.h"
+#include "platform/ExportProgress.h"
 #include "platform/Alert.h"
 #include "platform/InstalledPrograms.h"
 #include "platform/LocaleFormats.h"

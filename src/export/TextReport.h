@@ -2,7 +2,7 @@
 
 #include "eventdata/BillingSettings.h"
 #include "eventdata/EventTotals.h"
-#include "export/ExportProgress.h"
+#include "platform/ExportProgress.h"
 #include "export/ExportedEvents.h"
 #include "export/ReportCell.h"
 #include "platform/CalendarArithmetic.h"

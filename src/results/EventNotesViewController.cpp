@@ -61,7 +61,8 @@ EventNotesViewController::HeadingItems EventNotesViewController::headingItems() 
 }
 
 std::optional<QString> EventNotesViewController::heading(const Event& event,
-                                                         const HeadingItems& wanted) const {
+                                                         const HeadingItems& wanted,
+                                                         EventTexts& texts) {
     const EventDetails& details = *event.details;
     std::optional<QString> heading;
     const auto append = [&heading](const QString& item) {
@@ -71,7 +72,8 @@ std::optional<QString> EventNotesViewController::heading(const Event& event,
         append(details.calendar->title);
     }
     if (wanted.hasDate) {
-        append(with_.formats.shortDate(event.startDate));
+        texts.setEvent(event);
+        append(texts.startDate());
     }
     if (wanted.hasTitle && !details.title.isEmpty()) {
         append(details.title);
@@ -82,40 +84,59 @@ std::optional<QString> EventNotesViewController::heading(const Event& event,
     return heading;
 }
 
+std::vector<Event> EventNotesViewController::eventsWithNotes() const {
+    const auto& list = with_.eventsArrayController;
+    std::vector<Event> events;
+    for (std::size_t row = 0; row < list.arrangedCount(); ++row) {
+        if (!list.arranged(row).details->notes.isNull()) {
+            events.push_back(list.arranged(row));
+        }
+    }
+    return events;
+}
+
 StyledText EventNotesViewController::notes() const {
+    return *notes({});
+}
+
+std::optional<StyledText> EventNotesViewController::notes(const ExportProgress& progress) const {
     using enum StyledText::Style;
     const QString lineFeed = QStringLiteral("\n");
     const QString behindNotes = QStringLiteral("\n\n\n");
     StyledText digest;
     digest.parts.push_back({lineFeed, Plain});
-    const auto& list = with_.eventsArrayController;
-    if (list.arrangedCount() == 0) {
+    if (with_.eventsArrayController.arrangedCount() == 0) {
         return digest;
     }
     const HeadingItems wanted = headingItems();
-    for (std::size_t row = 0; row < list.arrangedCount(); ++row) {
-        const Event& event = list.arranged(row);
-        if (event.details->notes.isNull()) {
-            continue;
-        }
-        if (const auto items = heading(event, wanted)) {
+    // Whoever is shown the progress may change the list meanwhile.
+    const std::vector<Event> events = eventsWithNotes();
+    const BillingSettings noBilling;
+    EventTexts texts(noBilling, with_.formats, with_.calendar);
+    ExportSteps steps(progress, events.size());
+    for (const Event& event : events) {
+        if (const auto items = heading(event, wanted, texts)) {
             digest.parts.push_back({*items, Bold});
             digest.parts.push_back({lineFeed, Plain});
         }
         digest.parts.push_back({event.details->notes, Regular});
         digest.parts.push_back({behindNotes, Plain});
+        if (!steps.goOn()) {
+            return std::nullopt;
+        }
     }
     digest.hasTextColor = true;
     return digest;
 }
 
-QString EventNotesViewController::shownText() const {
+std::optional<QString> EventNotesViewController::shownText(const ExportProgress& progress) const {
     if (notesTextView_ && isOn("isNotesViewOn")) {
         if (auto shown = notesTextView_()) {
-            return *std::move(shown);
+            return shown;
         }
     }
-    return notes().text();
+    const std::optional<StyledText> now = notes(progress);
+    return now ? std::optional(now->text()) : std::nullopt;
 }
 
 qint64 EventNotesViewController::notesCount() const {

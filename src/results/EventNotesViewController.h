@@ -1,6 +1,9 @@
 #pragma once
 
+#include "eventtable/EventTexts.h"
+#include "platform/CalendarArithmetic.h"
 #include "platform/Event.h"
+#include "platform/ExportProgress.h"
 #include "platform/ListController.h"
 #include "platform/LocaleFormats.h"
 #include "platform/Observation.h"
@@ -25,19 +28,23 @@ public:
         SettingsStore& settings;
         ListController<Event>& eventsArrayController;
         const LocaleFormats& formats;
+        /// The Gregorian one in the zone of the formats.
+        const CalendarArithmetic& calendar;
     };
 
     explicit EventNotesViewController(const Collaborators& collaborators);
 
     void awakeFromNib();
     [[nodiscard]] StyledText notes() const;
+    /// Nothing once the progress has been told to cancel.
+    [[nodiscard]] std::optional<StyledText> notes(const ExportProgress& progress) const;
     /// The pane that shows the notes: what it shows, or nothing while it waits for newer ones.
     void setNotesTextView(std::function<std::optional<QString>()> shownText) {
         notesTextView_ = std::move(shownText);
     }
     /// What is saved and mailed: the notes exactly as their pane shows them, which does not follow
-    /// the order of the list; without a pane, those of now.
-    [[nodiscard]] QString shownText() const;
+    /// the order of the list; without a pane, those of now. Nothing once it was cancelled.
+    [[nodiscard]] std::optional<QString> shownText(const ExportProgress& progress) const;
     /// Of the shown events with notes; an empty text counts as notes.
     [[nodiscard]] qint64 notesCount() const;
 
@@ -59,8 +66,10 @@ private:
     };
     [[nodiscard]] HeadingItems headingItems() const;
     /// Nothing where no item is to be written; a calendar's empty title is an item.
-    [[nodiscard]] std::optional<QString> heading(const Event& event,
-                                                 const HeadingItems& wanted) const;
+    [[nodiscard]] static std::optional<QString>
+    heading(const Event& event, const HeadingItems& wanted, EventTexts& texts);
+    /// In the order of the list.
+    [[nodiscard]] std::vector<Event> eventsWithNotes() const;
 
     Collaborators with_;
     ListController<Event>::Content content_;

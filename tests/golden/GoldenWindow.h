@@ -73,8 +73,10 @@ private:
                               .table = table_,
                               .fields = fields_,
                               .pasteboard = pasteboard_}};
-    EventNotesViewController notes_{
-        {.settings = settings_, .eventsArrayController = events_, .formats = formats_}};
+    EventNotesViewController notes_{{.settings = settings_,
+                                     .eventsArrayController = events_,
+                                     .formats = formats_,
+                                     .calendar = calendar_}};
 };
 
 } // namespace quillet::golden

@@ -123,7 +123,7 @@ protected:
         {manager, settings, billing, calendar, list, calendars, background, main}};
     EventResultsViewController results{{settings, resultsPanel, events, list, billing, formats}};
     PreferencesColumnsViewController preferencesColumns{settings};
-    EventNotesViewController notes{{settings, list, formats}};
+    EventNotesViewController notes{{settings, list, formats, calendar}};
     TextReportRefresh report{settings, list};
     TXTSettingsArrayController presets{settings, alerts};
     AppViewsController panesController{{settings, panes, button, button, button, button}};

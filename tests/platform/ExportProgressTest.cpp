@@ -1,4 +1,4 @@
-#include "export/ExportProgress.h"
+#include "platform/ExportProgress.h"
 
 #include <gtest/gtest.h>
 

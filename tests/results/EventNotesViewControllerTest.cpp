@@ -1,5 +1,6 @@
 #include "results/EventNotesViewController.h"
 
+#include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"
 #include "support/EventSamples.h"
 #include "support/Fakes.h"
@@ -37,10 +38,13 @@ protected:
 
     test::MemorySettings settings;
     IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "UTC"};
+    IcuCalendarArithmetic gregorian{"en_US", "UTC", CalendarSystem::Gregorian};
     ListController<Event> events;
     std::vector<Event> content;
-    EventNotesViewController controller{
-        {.settings = settings, .eventsArrayController = events, .formats = formats}};
+    EventNotesViewController controller{{.settings = settings,
+                                         .eventsArrayController = events,
+                                         .formats = formats,
+                                         .calendar = gregorian}};
 };
 
 } // namespace
@@ -151,18 +155,46 @@ TEST_F(EventNotesViewControllerTest, ChangesAreAnnouncedOnlyWhileThePaneIsOpen) 
     EXPECT_EQ(counts, 4);
 }
 
+TEST_F(EventNotesViewControllerTest, LongNotesTellHowFarTheyAreAndCanBeCancelled) {
+    constexpr std::size_t many = 2500;
+    for (std::size_t number = 0; number < many; ++number) {
+        content.push_back({utc(2024, 3, 4, 9), utc(2024, 3, 4, 10), Instant(), nullptr});
+        EventDetails details;
+        details.calendar = test::calendarNamed("Work");
+        details.notes = "Call";
+        content.back().details = std::make_shared<const EventDetails>(std::move(details));
+    }
+    events.setContent(content);
+    std::vector<std::size_t> told;
+    ExportAnswer answer = ExportAnswer::GoOn;
+    const ExportProgress progress = [&](std::size_t finished, std::size_t all) {
+        EXPECT_EQ(all, many);
+        told.push_back(finished);
+        // The user's calendars may change while the progress is shown.
+        events.setContent(std::vector<Event>());
+        return answer;
+    };
+    const QString whole = controller.notes().text();
+    EXPECT_EQ(controller.shownText(progress), whole);
+    EXPECT_EQ(told, (std::vector<std::size_t>{1000, 2000}));
+    events.setContent(content);
+    answer = ExportAnswer::Cancel;
+    EXPECT_EQ(controller.shownText(progress), std::nullopt);
+    EXPECT_EQ(told.size(), 3U);
+}
+
 TEST_F(EventNotesViewControllerTest, WhatLeavesTheProgramIsWhatThePaneShows) {
     controller.awakeFromNib();
     add("Call");
     const QString fresh = controller.notes().text();
     std::optional<QString> shown = "as they stand in the pane";
-    EXPECT_EQ(controller.shownText(), fresh) << "no pane";
+    EXPECT_EQ(controller.shownText({}), fresh) << "no pane";
     controller.setNotesTextView([&] { return shown; });
-    EXPECT_EQ(controller.shownText(), fresh) << "a closed pane";
+    EXPECT_EQ(controller.shownText({}), fresh) << "a closed pane";
     settings.setObject("isNotesViewOn", true);
-    EXPECT_EQ(controller.shownText(), "as they stand in the pane");
+    EXPECT_EQ(controller.shownText({}), "as they stand in the pane");
     shown.reset();
-    EXPECT_EQ(controller.shownText(), fresh) << "a pane that waits for newer ones";
+    EXPECT_EQ(controller.shownText({}), fresh) << "a pane that waits for newer ones";
 }
 
 TEST_F(EventNotesViewControllerTest, AnotherOrderAloneIsNotAnnounced) {

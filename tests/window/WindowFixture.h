@@ -187,15 +187,15 @@ protected:
     FakeInstalledPrograms installed;
     FakeTextColor textColor;
     FakeQueue reportQueue;
-    EventNotesViewController notes{{settings, events, formats}};
+    EventNotesViewController notes{{settings, events, formats, gregorian}};
     ExportTxtViewController report{{settings, *table, events, calendars, fields}};
     ExportCSV exportCSV{{settings, *table, events, fields, panel, progress}};
     ExportTSV exportTSV{{settings, *table, events, fields, panel, progress}};
     ExportTXT exportTXT{{settings, formats, panel, alerts, scripts, installed, textColor, progress,
                          [this](const ExportProgress& asked) { return report.shownText(asked); }}};
-    ExportNotes exportNotes{{settings, formats, panel, alerts, scripts, installed, textColor,
-                             progress,
-                             [this](const ExportProgress&) { return notes.shownText(); }}};
+    ExportNotes exportNotes{
+        {settings, formats, panel, alerts, scripts, installed, textColor, progress,
+         [this](const ExportProgress& asked) { return notes.shownText(asked); }}};
     AppDelegate delegate{
         {settings,
          workspace,
