@@ -2,9 +2,9 @@
 
 #include "eventdata/CalendarRecord.h"
 #include "eventdata/EventFields.h"
-#include "platform/ExportProgress.h"
 #include "export/TextReport.h"
 #include "export/TextReportRefresh.h"
+#include "platform/ExportProgress.h"
 #include "platform/ListController.h"
 #include "platform/SettingsStore.h"
 #include "platform/StyledText.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/ExportProgress.h"
 #include "platform/Alert.h"
+#include "platform/ExportProgress.h"
 #include "platform/InstalledPrograms.h"
 #include "platform/LocaleFormats.h"
 #include "platform/ProgressPresenter.h"

@@ -2,10 +2,10 @@
 
 #include "eventdata/BillingSettings.h"
 #include "eventdata/EventTotals.h"
-#include "platform/ExportProgress.h"
 #include "export/ExportedEvents.h"
 #include "export/ReportCell.h"
 #include "platform/CalendarArithmetic.h"
+#include "platform/ExportProgress.h"
 #include "platform/LocaleFormats.h"
 #include "platform/StyledText.h"
 
