@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 
 namespace quillet {
@@ -13,7 +14,8 @@ namespace quillet {
 int DesktopDialogs::runModal(const Alert& alert) {
     // Over a sheet that is open, which would hide it otherwise.
     QWidget* sheet = QApplication::activeModalWidget();
-    QMessageBox box(sheet != nullptr ? sheet : window_.data());
+    const QPointer below = sheet != nullptr ? sheet : window_.data();
+    QMessageBox box(below);
     box.setIcon(alert.style == AlertStyle::Warning ? QMessageBox::Warning
                                                    : QMessageBox::Information);
     box.setTextFormat(Qt::PlainText);
@@ -27,6 +29,10 @@ int DesktopDialogs::runModal(const Alert& alert) {
     box.setDefaultButton(buttons.first());
     box.setEscapeButton(buttons.last());
     box.exec();
+    if (below != nullptr) {
+        // Window managers may choose another of the program's windows.
+        below->activateWindow();
+    }
     const auto chosen = buttons.indexOf(static_cast<QPushButton*>(box.clickedButton()));
     return static_cast<int>(chosen < 0 ? buttons.size() - 1 : chosen);
 }

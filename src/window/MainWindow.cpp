@@ -265,7 +265,7 @@ void MainWindow::restoreState(const QString& stateFile) {
         // The title bar comes on top.
         const QSize room =
             screen()->availableSize() - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
-        resize(QSize(unit * 200, fontMetrics().height() * 48).boundedTo(room));
+        resize(QSize(unit * 215, fontMetrics().height() * 48).boundedTo(room));
     }
     splitter_->restoreState(state.value(QStringLiteral("panes")).toByteArray());
     panes_->centreSplitter().restoreState(state.value(QStringLiteral("centre")).toByteArray());

@@ -76,6 +76,9 @@ void TXTSettingsSheet::begin() {
         build();
     }
     dialog_->open();
+    // It stands over the main window, but is asked for in the preferences too, which have the
+    // focus.
+    dialog_->activateWindow();
     list_->setFocus();
 }
 
