@@ -38,6 +38,10 @@ void ColumnLayoutsArrayController::awakeFromNib() {
     }
     settings.setObject(isApplyingKey, false);
     updateDefaultColumnLayoutsName();
+    if (selectedRows().empty() && arrangedCount() > 0) {
+        // The keys of the list have something to begin with.
+        setSelectedRows({0});
+    }
 }
 
 void ColumnLayoutsArrayController::createDefaultColumnLayouts() {

@@ -51,6 +51,10 @@ void TXTSettingsArrayController::awakeFromNib() {
     if (hasLegacySettings(settings_)) {
         migrateMailSettings();
     }
+    if (selectedRows().empty() && arrangedCount() > 0) {
+        // The keys of the list have something to begin with.
+        setSelectedRows({0});
+    }
 }
 
 void TXTSettingsArrayController::createDefaultTXTSettings() {

@@ -44,14 +44,17 @@ private:
         };
         switch (content_.timeType) {
         case 1:
-            return appendLine(label, number(figure.hours));
+            appendLine(label, number(figure.hours));
+            break;
         case 2:
-            return appendLine(label, number(figure.minutes));
+            appendLine(label, number(figure.minutes));
+            break;
         case 3:
-            return appendLine(
-                label, makeDurationFromMinutes(figure.minutes.value_or(Decimal()).toInteger()));
+            appendLine(label,
+                       makeDurationFromMinutes(figure.minutes.value_or(Decimal()).toInteger()));
+            break;
         default:
-            return;
+            break;
         }
     }
 

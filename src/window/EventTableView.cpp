@@ -39,17 +39,11 @@ public:
     [[nodiscard]] double widthPoints() const override { return width_; }
     void setWidthPoints(double width) override {
         width_ = width;
-        if (!isHidden()) {
-            header_.resizeSection(logicalIndex_, pixelsOf(width));
-        }
+        // A hidden section takes it, too, and has it when it shows.
+        header_.resizeSection(logicalIndex_, pixelsOf(width));
     }
     [[nodiscard]] bool isHidden() const override { return header_.isSectionHidden(logicalIndex_); }
-    void setHidden(bool isHidden) override {
-        header_.setSectionHidden(logicalIndex_, isHidden);
-        if (!isHidden) {
-            header_.resizeSection(logicalIndex_, pixelsOf(width_));
-        }
-    }
+    void setHidden(bool isHidden) override { header_.setSectionHidden(logicalIndex_, isHidden); }
     void userResized(int pixels) {
         // Its own echo is no news, and would cost the fractions of the width.
         if (pixels != pixelsOf(width_)) {
@@ -214,14 +208,16 @@ QByteArray EventTableView::columnState() const {
 }
 
 bool EventTableView::restoreColumnState(const QByteArray& state) {
-    if (!horizontalHeader()->restoreState(state)) {
+    QHeaderView& header = *horizontalHeader();
+    if (!header.restoreState(state)) {
         return false;
     }
-    // The header says nothing of the sizes that it has restored.
-    for (std::size_t index = 0; index < columns_.size(); ++index) {
-        if (!columns_[index]->isHidden()) {
-            columns_[index]->userResized(horizontalHeader()->sectionSize(static_cast<int>(index)));
-        }
+    // The header says nothing of the sizes that it has restored, and of hidden sections never.
+    for (int index = 0; index < header.count(); ++index) {
+        const bool isHidden = header.isSectionHidden(index);
+        header.setSectionHidden(index, false);
+        columns_[static_cast<std::size_t>(index)]->userResized(header.sectionSize(index));
+        header.setSectionHidden(index, isHidden);
     }
     return true;
 }

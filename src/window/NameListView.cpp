@@ -9,9 +9,18 @@ namespace quillet {
 namespace {
 
 /// Gives names the room of the rows in the window's tables, and their editors with them.
-class RowHeight final : public QStyledItemDelegate {
+class NameDelegate final : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    explicit NameDelegate(NameListView& view)
+        : QStyledItemDelegate(&view)
+        , view_(view) {}
+
+    [[nodiscard]] QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                        const QModelIndex& index) const override {
+        QWidget* editor = QStyledItemDelegate::createEditor(parent, option, index);
+        editor->setAccessibleName(view_.accessibleName());
+        return editor;
+    }
 
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
                                  const QModelIndex& index) const override {
@@ -22,6 +31,9 @@ public:
                               const QModelIndex& /*index*/) const override {
         editor->setGeometry(option.rect);
     }
+
+private:
+    NameListView& view_;
 };
 
 } // namespace
@@ -29,7 +41,7 @@ public:
 NameListView::NameListView(QAbstractItemModel& model, QWidget* parent)
     : QListView(parent) {
     setModel(&model);
-    setItemDelegate(new RowHeight(this));
+    setItemDelegate(new NameDelegate(*this));
     setEditTriggers(DoubleClicked | EditKeyPressed);
     setSelectionMode(SingleSelection);
     setUniformItemSizes(true);

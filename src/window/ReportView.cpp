@@ -155,8 +155,7 @@ QRect ReportView::characterRect(qsizetype position) const {
 }
 
 qsizetype ReportView::positionAt(QPoint point) const {
-    const int row =
-        point.y() < margin ? (point.y() < 0 ? -1 : 0) : (point.y() - margin) / lineHeight();
+    const int row = point.y() < 0 ? -1 : std::max(point.y() - margin, 0) / lineHeight();
     const qsizetype number =
         std::clamp<qsizetype>(verticalScrollBar()->value() + row, 0, lines_.count() - 1);
     QTextLayout layout(lines_.line(number).toString(), font(), viewport());

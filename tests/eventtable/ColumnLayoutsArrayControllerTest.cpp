@@ -335,6 +335,15 @@ TEST_F(ColumnLayoutsArrayControllerTest, OtherLayoutsAreDeletedOnceTheUserAgrees
     EXPECT_EQ(alerts.shown[1].buttonTitles, (QStringList{"OK", "Cancel"}));
 }
 
+TEST_F(ColumnLayoutsArrayControllerTest, ALaterStartSelectsTheFirstLayout) {
+    controller.awakeFromNib();
+    controller.createColumnLayout();
+    ColumnLayoutsArrayController later(
+        {.settings = settings, .eventsTableView = table, .alerts = alerts});
+    later.awakeFromNib();
+    EXPECT_EQ(later.selectedRows(), std::vector<std::size_t>{0});
+}
+
 TEST_F(ColumnLayoutsArrayControllerTest, WithoutASelectionNothingIsAppliedOrDeleted) {
     controller.awakeFromNib();
     controller.setSelectedRows({});

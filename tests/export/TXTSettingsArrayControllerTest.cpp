@@ -157,6 +157,13 @@ TEST_F(TXTSettingsArrayControllerTest, ApplyingWritesTheSwitchesAndRebuildsTheRe
     EXPECT_EQ(settings.object("isApplyTXTSettingsOn"), QVariant(false));
 }
 
+TEST_F(TXTSettingsArrayControllerTest, ALaterStartSelectsTheFirstPreset) {
+    controller.awakeFromNib();
+    TXTSettingsArrayController later(settings, alerts);
+    later.awakeFromNib();
+    EXPECT_EQ(later.selectedRows(), std::vector<std::size_t>{0});
+}
+
 TEST_F(TXTSettingsArrayControllerTest, WithoutASelectionNothingIsApplied) {
     controller.awakeFromNib();
     controller.setSelectedRows({});

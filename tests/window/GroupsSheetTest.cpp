@@ -142,6 +142,14 @@ TEST_F(GroupsSheetTest, ClosingKeepsTheNameThatIsBeingTyped) {
     EXPECT_EQ(chooserTexts(), (QStringList{"All Calendars", "Half typed"}));
 }
 
+TEST_F(GroupsSheetTest, TheFieldOfANameSaysWhatIsNamed) {
+    openSheet();
+    press("addCalendarGroup");
+    auto* editor = list->findChild<QLineEdit*>();
+    ASSERT_NE(editor, nullptr);
+    EXPECT_EQ(editor->accessibleName(), QStringLiteral("Calendar Groups"));
+}
+
 TEST_F(GroupsSheetTest, EscapeClosesTheSheet) {
     openSheet();
     QTest::keyClick(sheet, Qt::Key_Escape);

@@ -67,6 +67,31 @@ TEST_F(MainWindowTest, AHiddenColumnKeepsItsWidth) {
     EXPECT_EQ(table->horizontalHeader()->sectionSize(2), pixels);
 }
 
+TEST_F(MainWindowTest, AWidthGivenToAHiddenColumnIsItsWhenItShows) {
+    open();
+    TableColumn& title = table->columnAt(table->positionOf("title"));
+    title.setWidthPoints(222);
+    const int pixels = table->horizontalHeader()->sectionSize(2);
+    title.setWidthPoints(333);
+    settings.setObject("isTitleColumn", false);
+    title.setWidthPoints(222);
+    settings.setObject("isTitleColumn", true);
+    EXPECT_EQ(title.widthPoints(), 222);
+    EXPECT_EQ(table->horizontalHeader()->sectionSize(2), pixels);
+}
+
+TEST_F(MainWindowTest, HiddenColumnsKeepTheirWidthsOverAStart) {
+    open();
+    TableColumn& title = table->columnAt(table->positionOf("title"));
+    title.setWidthPoints(222);
+    settings.setObject("isTitleColumn", false);
+    const QByteArray state = table->columnState();
+    title.setWidthPoints(333);
+    ASSERT_TRUE(table->restoreColumnState(state));
+    EXPECT_TRUE(title.isHidden());
+    EXPECT_EQ(title.widthPoints(), 222);
+}
+
 TEST_F(MainWindowTest, AColumnShowsAsManyCharactersAsTheReportHas) {
     open();
     TableColumn& date = table->columnAt(table->positionOf("date"));

@@ -7,7 +7,7 @@ namespace quillet {
 namespace {
 
 /// No honest file of this kind comes near.
-constexpr qint64 largestFileBytes = 1024 * 1024;
+constexpr qint64 largestFileBytes = qint64{1024} * 1024;
 
 QString unescaped(const QString& value) {
     QString text;

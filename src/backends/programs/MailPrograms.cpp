@@ -14,7 +14,7 @@ namespace quillet {
 namespace {
 
 /// Long enough for a mail program to start, however slow the machine is.
-constexpr int messageFileMinutes = 15;
+constexpr qint64 messageFileMinutes = 15;
 
 /// Those that compose from a file. Programs in containers are started through another one, and
 /// would not see the file.

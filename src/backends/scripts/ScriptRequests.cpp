@@ -142,11 +142,11 @@ private:
         return setProperty(*scope.message, statement);
     }
 
-    bool setVariable(const QStringList& names, Object object) {
+    bool setVariable(const QStringList& names, const Object& object) {
         if (names.size() != 1) {
             return fail(QStringLiteral("a variable expected"));
         }
-        variables_.insert(names.front(), std::move(object));
+        variables_.insert(names.front(), object);
         return true;
     }
 
