@@ -40,7 +40,14 @@ protected:
         store.storedEvents = {event("w", "Planning", 4, 9, 11), event("h", "Dentist", 5, 8, 9),
                               event("w", "Workshop", 11, 9, 17)};
     }
-    ~WindowFixture() override { window.reset(); }
+    ~WindowFixture() override {
+        // The window owns them once it is there.
+        if (window == nullptr) {
+            delete table;
+            delete resultsPane;
+        }
+        window.reset();
+    }
 
     static std::shared_ptr<const StoreCalendar>
     calendar(const QString& identifier, const QString& title, const QString& color) {
