@@ -1,15 +1,18 @@
 #include "backends/settingsfile/SettingsFile.h"
 
 #include "backends/settingsfile/SettingsJson.h"
+#include "backends/settingsfile/ValueMerge.h"
 #include "platform/Localized.h"
 #include "platform/Logging.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSettings>
 
 #include <chrono>
+#include <tuple>
 
 namespace quillet {
 
@@ -18,6 +21,9 @@ namespace {
 using namespace std::chrono_literals;
 constexpr auto writeDelay = 300ms;
 constexpr auto retryDelay = 5s;
+/// A writer that does not replace the file at once has time to end.
+constexpr auto readDelay = 50ms;
+constexpr auto otherWriterPatience = 500ms;
 
 bool readSettings(QIODevice& device, QSettings::SettingsMap& map) {
     const QByteArray text = device.readAll();
@@ -45,6 +51,16 @@ QSettings::Format jsonFormat() {
     return format;
 }
 
+QVariantMap arraysOf(const QVariantMap& values) {
+    QVariantMap arrays;
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        if (value->typeId() == QMetaType::QVariantList) {
+            arrays.insert(value.key(), *value);
+        }
+    }
+    return arrays;
+}
+
 } // namespace
 
 SettingsFile::SettingsFile(const QString& path)
@@ -52,6 +68,15 @@ SettingsFile::SettingsFile(const QString& path)
     readFile();
     writeTimer_.setSingleShot(true);
     QObject::connect(&writeTimer_, &QTimer::timeout, [this] { flush(); });
+    readTimer_.setSingleShot(true);
+    QObject::connect(&readTimer_, &QTimer::timeout, [this] {
+        watch();
+        takeInArrays();
+    });
+    const auto readSoon = [this] { readTimer_.start(readDelay); };
+    QObject::connect(&watcher_, &QFileSystemWatcher::directoryChanged, readSoon);
+    QObject::connect(&watcher_, &QFileSystemWatcher::fileChanged, readSoon);
+    watch();
 }
 
 SettingsFile::~SettingsFile() {
@@ -76,9 +101,7 @@ void SettingsFile::setObject(const QString& key, const QVariant& value) {
     if (!writeTimer_.isActive()) {
         writeTimer_.start(writeDelay);
     }
-    if (const auto found = observers_.find(key); found != observers_.end()) {
-        found->second.notify();
-    }
+    notify(key);
 }
 
 void SettingsFile::remove(const QString& key) {
@@ -104,7 +127,12 @@ void SettingsFile::flush() {
         return;
     }
     QDir().mkpath(QFileInfo(path_).absolutePath());
+    // Nobody writes between the reading and the writing. Where there can be no such file, there
+    // are hardly two writers, and the writing itself says what is wrong.
+    QLockFile onlyWriter(path_ + QStringLiteral(".writer"));
+    std::ignore = onlyWriter.tryLock(otherWriterPatience);
     keepBrokenFile();
+    takeInArrays();
     // A new one for each write: an error once met stays with the object for good.
     QSettings file(path_, jsonFormat());
     for (const QString& key : std::as_const(changedKeys_)) {
@@ -117,6 +145,8 @@ void SettingsFile::flush() {
     file.sync();
     if (file.status() == QSettings::NoError) {
         changedKeys_.clear();
+        seenArrays_ = arraysOf(values_);
+        watch();
         reportWriteProblem({});
         return;
     }
@@ -175,6 +205,49 @@ void SettingsFile::readFile() {
         return;
     }
     values_ = *std::move(values);
+    seenArrays_ = arraysOf(values_);
+}
+
+void SettingsFile::watch() {
+    for (const QString& place : {QFileInfo(path_).absolutePath(), path_}) {
+        if (QFileInfo::exists(place)) {
+            std::ignore = watcher_.addPath(place);
+        }
+    }
+}
+
+void SettingsFile::takeInArrays() {
+    QFile file(path_);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return;
+    }
+    const auto values = settingsFromText(file.readAll());
+    if (!values) {
+        return;
+    }
+    QStringList takenIn;
+    const QVariantMap theirs = arraysOf(*values);
+    for (const QString& key : theirs.keys()) {
+        const QVariant ours = object(key);
+        const QVariant merged = changedKeys_.contains(key)
+                                    ? mergedValue(seenArrays_.value(key), ours, theirs.value(key))
+                                    : theirs.value(key);
+        seenArrays_.insert(key, theirs.value(key));
+        if (merged != ours) {
+            const QWriteLocker lock(&lock_);
+            values_.insert(key, merged);
+            takenIn.append(key);
+        }
+    }
+    for (const QString& key : std::as_const(takenIn)) {
+        notify(key);
+    }
+}
+
+void SettingsFile::notify(const QString& key) {
+    if (const auto found = observers_.find(key); found != observers_.end()) {
+        found->second.notify();
+    }
 }
 
 void SettingsFile::moveBrokenFileAside(const QString& reason) {

@@ -3,6 +3,7 @@
 #include "platform/ObserverList.h"
 #include "platform/SettingsStore.h"
 
+#include <QFileSystemWatcher>
 #include <QReadWriteLock>
 #include <QSet>
 #include <QTimer>
@@ -14,6 +15,10 @@ namespace quillet {
 
 /// The settings store in one JSON file. Values live in memory; changed keys reach the disk shortly
 /// after, merged into what another running copy may have written, by an atomic replacement.
+///
+/// Arrays are the user's own lists, which running copies share: what is written to them from
+/// outside is taken in at once, and observers are told. All other values are the state of one
+/// window, which another copy's writing must not move; they are read again at the next start.
 class SettingsFile final : public SettingsStore {
 public:
     /// Reads the file, which need not exist. One that cannot be read as settings is moved beside
@@ -40,6 +45,11 @@ public:
 
 private:
     void readFile();
+    /// Puts the file and its folder, as far as they are there, under observation.
+    void watch();
+    /// Takes in the arrays that were written from outside since the file was last seen.
+    void takeInArrays();
+    void notify(const QString& key);
     void moveBrokenFileAside(const QString& reason);
     /// A file that another program has spoilt during the run is kept too before it is replaced.
     void keepBrokenFile();
@@ -50,12 +60,16 @@ private:
     QString path_;
     mutable QReadWriteLock lock_;
     QVariantMap values_;
+    /// The arrays as they were when the file was last read or written.
+    QVariantMap seenArrays_;
     QSet<QString> changedKeys_;
     std::map<QString, ObserverList<>> observers_;
     ObserverList<QString> problemObservers_;
     QString problem_;
     std::optional<QString> startMessage_;
     QTimer writeTimer_;
+    QTimer readTimer_;
+    QFileSystemWatcher watcher_;
 };
 
 } // namespace quillet

@@ -3,6 +3,7 @@
 #include "backends/settingsfile/SettingsJson.h"
 #include "support/ExpectedLog.h"
 #include "support/FullDisk.h"
+#include "support/WaitUntil.h"
 
 #include <QDir>
 #include <QFile>
@@ -108,6 +109,74 @@ TEST_F(SettingsFileTest, WhatAnotherCopyWroteIsKept) {
     EXPECT_EQ(settingsFromText(contents()).value(),
               (QVariantMap{{"mine", QVariant::fromValue<qint64>(3)},
                            {"theirs", QVariant::fromValue<qint64>(2)}}));
+}
+
+TEST_F(SettingsFileTest, AnArrayThatTwoCopiesWroteHoldsWhatBothAdded) {
+    SettingsFile settings(path);
+    settings.setObject("groups", QVariantList{"All"});
+    settings.flush();
+    SettingsFile other(path);
+    settings.setObject("groups", QVariantList{"All", "mine"});
+    other.setObject("groups", QVariantList{"All", "theirs"});
+    other.flush();
+    settings.flush();
+    const QVariant both = QVariantList{"All", "theirs", "mine"};
+    EXPECT_EQ(settingsFromText(contents()).value().value("groups"), both);
+    EXPECT_EQ(settings.object("groups"), both);
+    settings.setObject("groups", QVariantList{"All", "theirs"});
+    settings.flush();
+    EXPECT_EQ(settingsFromText(contents()).value().value("groups"),
+              QVariant(QVariantList{"All", "theirs"}))
+        << "what was merged is the base of the next merging";
+}
+
+TEST_F(SettingsFileTest, AnArrayFromOutsideIsTakenInAndObserversAreTold) {
+    SettingsFile settings(path);
+    settings.setObject("groups", QVariantList{"All"});
+    settings.setObject("index", 0);
+    settings.flush();
+    QVariantList seen;
+    const Observation groups =
+        settings.observe("groups", [&] { seen.append(settings.object("groups")); });
+    const Observation index = settings.observe("index", [&] { seen.append("index"); });
+    {
+        SettingsFile other(path);
+        other.setObject("groups", QVariantList{"All", "theirs"});
+        other.setObject("index", 1);
+    }
+    const QVariant theirs = QVariantList{"All", "theirs"};
+    EXPECT_TRUE(test::waitUntil([&] { return settings.object("groups") == theirs; }));
+    EXPECT_EQ(seen, QVariantList{theirs}) << "told once, of the array alone";
+    EXPECT_EQ(settings.object("index"), QVariant(0)) << "the state of this window";
+    settings.setObject("unrelated", true);
+    settings.flush();
+    EXPECT_EQ(settingsFromText(contents()).value().value("index").toInt(), 1);
+}
+
+TEST_F(SettingsFileTest, AFileEditedInPlaceIsTakenIn) {
+    SettingsFile settings(path);
+    settings.setObject("groups", QVariantList{"All"});
+    settings.flush();
+    write(R"({"groups": ["All", "typed"]})");
+    EXPECT_TRUE(test::waitUntil(
+        [&] { return settings.object("groups") == QVariant(QVariantList{"All", "typed"}); }));
+    write(R"({"groups": ["All", )");
+    write(R"({"groups": ["again"]})");
+    EXPECT_TRUE(test::waitUntil(
+        [&] { return settings.object("groups") == QVariant(QVariantList{"again"}); }));
+}
+
+TEST_F(SettingsFileTest, AnArrayWrittenAsItWasTakesNothingFromTheOtherCopy) {
+    SettingsFile settings(path);
+    settings.setObject("groups", QVariantList{"All"});
+    settings.flush();
+    SettingsFile other(path);
+    other.setObject("groups", QVariantList{"All", "theirs"});
+    other.flush();
+    settings.setObject("groups", QVariantList{"All"});
+    settings.flush();
+    EXPECT_EQ(settingsFromText(contents()).value().value("groups"),
+              QVariant(QVariantList{"All", "theirs"}));
 }
 
 TEST_F(SettingsFileTest, AMalformedFileIsKeptBesideAndNamed) {
