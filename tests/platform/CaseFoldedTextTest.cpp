@@ -46,6 +46,13 @@ TEST(CaseFoldedTextTest, AllFormsOfALetterCountAsOne) {
     EXPECT_FALSE(isIn("𐐩", "a𐐀b"));
 }
 
+TEST(CaseFoldedTextTest, NoLetterCountsAsTwo) {
+    EXPECT_TRUE(isIn("STRAẞE", "Straße"));
+    EXPECT_FALSE(isIn("STRASSE", "Straße")) << "what is found is a piece of the text as it stands";
+    EXPECT_FALSE(isIn("ß", "strasse"));
+    EXPECT_FALSE(isIn("fi", "\uFB01nal")) << "a ligature";
+}
+
 TEST(CaseFoldedTextTest, HalfAPairIsFoundAsItIs) {
     const QString half = QStringLiteral("aÅ😀").left(3);
     EXPECT_TRUE(isIn(half, "aÅ😀"));
