@@ -105,7 +105,7 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
                 .installedVersion = QCoreApplication::applicationVersion(),
                 .languages = paths.languages,
                 .openSoftwareCentre = openSoftwareCentre,
-                .security = QSslConfiguration::defaultConfiguration(),
+                .security = &QSslConfiguration::defaultConfiguration,
                 .limits = ReleaseListUpdater::usualLimits})
     , appDelegate_({settings_, workspace_, taskLauncher_, updater_, toolbarItems(exportItems_),
                     paths.releaseNotes})

@@ -50,7 +50,7 @@ void ReleaseListUpdater::checkForUpdates() {
     }
     isSearching_ = true;
     if (!download_) {
-        download_ = std::make_unique<HttpsDownload>(with_.security, with_.limits);
+        download_ = std::make_unique<HttpsDownload>(with_.security(), with_.limits);
     }
     with_.presenter.showSearch([this] {
         download_->cancel();

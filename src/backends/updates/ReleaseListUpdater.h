@@ -25,7 +25,8 @@ public:
         /// The user's, best first, as "de_AT" or "de".
         QStringList languages;
         std::function<bool()> openSoftwareCentre;
-        QSslConfiguration security;
+        /// Asked before the first search: what it answers takes the cryptography to be loaded.
+        std::function<QSslConfiguration()> security;
         HttpsDownload::Limits limits;
     };
 

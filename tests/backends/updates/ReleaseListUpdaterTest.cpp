@@ -70,7 +70,7 @@ protected:
                                    .installedVersion = installed,
                                    .languages = {"de_AT"},
                                    .openSoftwareCentre = [this] { return ++opened > 1; },
-                                   .security = security,
+                                   .security = [this] { return security; },
                                    .limits = limits});
     }
     static bool waitFor(const std::function<bool()>& condition,
