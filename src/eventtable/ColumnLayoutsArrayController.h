@@ -1,19 +1,13 @@
 #pragma once
 
-#include "eventtable/StoredColumnLayout.h"
-#include "platform/Alert.h"
-#include "platform/ListController.h"
-#include "platform/Observation.h"
-#include "platform/SettingsStore.h"
+#include "eventtable/ColumnLayout.h"
+#include "platform/NamedRecordsController.h"
 #include "platform/TableColumn.h"
-
-#include <vector>
 
 namespace quillet {
 
-/// The stored column layouts as a list: made from the table, renamed, applied, deleted. Every
-/// change is written back to `columnLayouts`, and a change of that key is taken over.
-class ColumnLayoutsArrayController : public ListController<StoredColumnLayout> {
+/// The stored column layouts as a list: made from the table, renamed, applied, deleted.
+class ColumnLayoutsArrayController : public NamedRecordsController {
     Q_OBJECT
 
 public:
@@ -40,22 +34,11 @@ public:
     /// Deletes the first selected layout, once the user agrees; "Default" is refused. Nothing
     /// without a selection.
     void removeColumnLayout();
-    /// The user's new name for a layout.
-    void renameColumnLayout(std::size_t row, const QString& name);
-
-Q_SIGNALS:
-    /// The name cell of this row is to be edited, with its text selected.
-    void nameEditingRequested(std::size_t row);
 
 private:
-    void readStoredLayouts();
-    void append(const StoredColumnLayout& layout);
-    void store(const std::vector<StoredColumnLayout>& layouts,
-               std::vector<std::size_t> selectedRows);
     void applyVisibility(const ColumnPlacement& placement);
 
-    Collaborators with_;
-    Observation storedLayouts_;
+    ColumnTable& eventsTableView_;
 };
 
 } // namespace quillet

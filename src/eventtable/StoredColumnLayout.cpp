@@ -1,7 +1,7 @@
 #include "eventtable/StoredColumnLayout.h"
 
 #include "eventtable/EventColumns.h"
-#include "platform/SettingsStore.h"
+#include "platform/NamedRecordsController.h"
 
 #include <algorithm>
 #include <limits>
@@ -9,8 +9,6 @@
 namespace quillet {
 
 namespace {
-
-const QString nameMember = QStringLiteral("columnLayoutName");
 
 QString member(const EventColumn& column, const char* suffix) {
     return QString::fromLatin1(column.stem) + QString::fromLatin1(suffix);
@@ -22,37 +20,31 @@ int boundedInteger(const QVariant& value) {
     return static_cast<int>(std::clamp(integerFromValue(value), lowest, highest));
 }
 
-/// A place outside the table, where the column stays, when there is none.
+/// A place outside the table, where the column stays, when it cannot be read.
 int indexFromValue(const QVariant& value) {
-    return value.isValid() ? boundedInteger(value) : -1;
+    return isReadableMember(value) ? boundedInteger(value) : -1;
 }
 
 } // namespace
 
-StoredColumnLayout columnLayoutFromValue(const QVariant& value) {
-    QVariantMap members = value.toMap();
-    StoredColumnLayout layout;
-    layout.columnLayoutName = stringFromValue(members.take(nameMember));
+std::vector<ColumnPlacement> placementsFromMembers(const QVariantMap& members) {
+    std::vector<ColumnPlacement> placements;
     for (const EventColumn& column : eventColumns()) {
-        layout.placements.push_back(
+        placements.push_back(
             {.identifier = QString::fromLatin1(column.identifier),
-             .title = stringFromValue(members.take(member(column, "ColumnName"))),
-             .widthPoints = boundedInteger(members.take(member(column, "ColumnWidth"))),
-             .index = indexFromValue(members.take(member(column, "ColumnIndex"))),
-             .isHidden = boolFromValue(members.take(member(column, "ColumnIsHidden")))});
+             .title = stringFromValue(members.value(member(column, "ColumnName"))),
+             .widthPoints = boundedInteger(members.value(member(column, "ColumnWidth"))),
+             .index = indexFromValue(members.value(member(column, "ColumnIndex"))),
+             .isHidden = boolFromValue(members.value(member(column, "ColumnIsHidden")))});
     }
-    layout.otherMembers = members;
-    return layout;
+    return placements;
 }
 
-QVariant valueFromColumnLayout(const StoredColumnLayout& layout) {
-    QVariantMap members = layout.otherMembers;
-    members.insert(nameMember, layout.columnLayoutName);
-    for (const ColumnPlacement& placement : layout.placements) {
+QVariantMap membersFromPlacements(const std::vector<ColumnPlacement>& placements) {
+    QVariantMap members;
+    for (const ColumnPlacement& placement : placements) {
         const EventColumn& column = eventColumn(placement.identifier);
-        if (!placement.title.isNull()) {
-            members.insert(member(column, "ColumnName"), placement.title);
-        }
+        members.insert(member(column, "ColumnName"), presentText(placement.title));
         members.insert(member(column, "ColumnWidth"), qint64(placement.widthPoints));
         members.insert(member(column, "ColumnIndex"), qint64(placement.index));
         members.insert(member(column, "ColumnIsHidden"), placement.isHidden);
@@ -60,20 +52,19 @@ QVariant valueFromColumnLayout(const StoredColumnLayout& layout) {
     return members;
 }
 
-StoredColumnLayout capturedColumnLayout(ColumnTable& table, const QString& name) {
-    StoredColumnLayout layout;
-    layout.columnLayoutName = name;
+std::vector<ColumnPlacement> capturedPlacements(ColumnTable& table) {
+    std::vector<ColumnPlacement> placements;
     for (const EventColumn& column : eventColumns()) {
         const QString identifier = QString::fromLatin1(column.identifier);
         const int position = table.positionOf(identifier);
         const TableColumn& shown = table.columnAt(position);
-        layout.placements.push_back({.identifier = identifier,
-                                     .title = shown.headerTitle(),
-                                     .widthPoints = static_cast<int>(shown.widthPoints()),
-                                     .index = position,
-                                     .isHidden = shown.isHidden()});
+        placements.push_back({.identifier = identifier,
+                              .title = shown.headerTitle(),
+                              .widthPoints = static_cast<int>(shown.widthPoints()),
+                              .index = position,
+                              .isHidden = shown.isHidden()});
     }
-    return layout;
+    return placements;
 }
 
 } // namespace quillet

@@ -1,19 +1,21 @@
 #include "export/TXTSettingsArrayController.h"
 
+#include "export/TXTSettings.h"
 #include "platform/Localized.h"
 
 #include <algorithm>
-#include <tuple>
 
 namespace quillet {
 
 namespace {
 
-const QString presetsKey = QStringLiteral("txtSettings");
 const QString isDefaultCreatedKey = QStringLiteral("isDefaultTXTSettingsCreated");
 const QString isApplyingKey = QStringLiteral("isApplyTXTSettingsOn");
+const QString wrappingKey = QStringLiteral("isTXTWrapping");
 const QString headerKey = QStringLiteral("txtHeader");
 const QString footerKey = QStringLiteral("txtFooter");
+const QString headerMember = QStringLiteral("txtSettingsTxtHeader");
+const QString footerMember = QStringLiteral("txtSettingsTxtFooter");
 const QString legacyHeaderKey = QStringLiteral("mailHeader");
 const QString legacyFooterKey = QStringLiteral("mailFooter");
 
@@ -25,9 +27,16 @@ QVariant taken(SettingsStore& settings, const QString& key) {
     return value;
 }
 
-/// An empty text where there is none: a preset that the program makes lacks nothing.
-QString presentText(const QString& text) {
-    return text.isNull() ? QString::fromLatin1("") : text;
+/// A preset's members, but for its name; `isOn` tells each switch.
+template <typename IsOn>
+QVariantMap presetMembers(const IsOn& isOn, const QString& header, const QString& footer) {
+    QVariantMap members;
+    for (const TXTSwitch& each : txtSwitches()) {
+        members.insert(QString::fromLatin1(each.presetKey), isOn(each));
+    }
+    members.insert(headerMember, presentText(header));
+    members.insert(footerMember, presentText(footer));
+    return members;
 }
 
 bool hasLegacySettings(const SettingsStore& settings) {
@@ -40,65 +49,59 @@ bool hasLegacySettings(const SettingsStore& settings) {
 
 } // namespace
 
+TXTSettingsArrayController::TXTSettingsArrayController(SettingsStore& settings,
+                                                       AlertPresenter& alerts)
+    : NamedRecordsController(
+          settings, alerts,
+          {.listKey = QStringLiteral("txtSettings"),
+           .nameMember = QStringLiteral("txtSettingsName"),
+           .firstStaysMessage = localizable("Cannot delete Default settings"),
+           .firstStaysReason = localizable("Default settings cannot be deleted.")}) {}
+
 void TXTSettingsArrayController::awakeFromNib() {
-    setIfAbsent(settings_, presetsKey, QVariantList());
-    readStoredPresets();
-    storedPresets_ = settings_.observe(presetsKey, [this] { readStoredPresets(); });
-    if (!hasKey(settings_, isDefaultCreatedKey)) {
+    followStoredList();
+    if (!hasKey(settings(), isDefaultCreatedKey)) {
         createDefaultTXTSettings();
-        settings_.setObject(isDefaultCreatedKey, true);
+        settings().setObject(isDefaultCreatedKey, true);
     }
-    if (hasLegacySettings(settings_)) {
+    if (hasLegacySettings(settings())) {
         migrateMailSettings();
     }
-    if (selectedRows().empty() && arrangedCount() > 0) {
-        // The keys of the list have something to begin with.
-        setSelectedRows({0});
-    }
+    selectFirstUnlessSelected();
 }
 
 void TXTSettingsArrayController::createDefaultTXTSettings() {
-    TXTSettings preset;
-    preset.txtSettingsName = localized("Default");
-    std::ranges::transform(txtSwitches(), preset.switches.begin(), &TXTSwitch::isOnByDefault);
-    preset.txtHeader = presentText({});
-    preset.txtFooter = presentText({});
-    append(preset);
+    append(localized("Default"),
+           presetMembers([](const TXTSwitch& each) { return each.isOnByDefault; }, {}, {}));
 }
 
 void TXTSettingsArrayController::migrateMailSettings() {
-    TXTSettings preset;
-    preset.txtSettingsName = localized("Mail");
-    preset.switches.fill(false);
-    for (std::size_t index = 0; index < txtSwitchCount; ++index) {
-        const TXTSwitch& each = txtSwitches().at(index);
+    const auto isOn = [this](const TXTSwitch& each) {
         if (each.legacyKey != nullptr) {
-            preset.switches.at(index) =
-                boolFromValue(taken(settings_, QString::fromLatin1(each.legacyKey)));
+            return boolFromValue(taken(settings(), QString::fromLatin1(each.legacyKey)));
         }
-    }
-    // Wrapping had no switch of its own; the days had none at all and stay off.
-    preset.switches.front() = boolForKey(settings_, QStringLiteral("isTXTWrapping"));
-    preset.txtHeader = presentText(stringFromValue(taken(settings_, legacyHeaderKey)));
-    preset.txtFooter = presentText(stringFromValue(taken(settings_, legacyFooterKey)));
-    append(preset);
+        // Wrapping had no switch of its own; the days had none at all and stay off.
+        const QString key = QString::fromLatin1(each.reportKey);
+        return key == wrappingKey && boolForKey(settings(), key);
+    };
+    const QVariantMap members =
+        presetMembers(isOn, stringFromValue(taken(settings(), legacyHeaderKey)),
+                      stringFromValue(taken(settings(), legacyFooterKey)));
+    append(localized("Mail"), members);
 }
 
 void TXTSettingsArrayController::createTXTSettings() {
-    TXTSettings preset;
-    preset.txtSettingsName =
-        localized("New Settings") + u' ' + QString::number(content()->size() + 1);
-    std::ranges::transform(txtSwitches(), preset.switches.begin(), [this](const TXTSwitch& each) {
-        return boolForKey(settings_, QString::fromLatin1(each.reportKey));
-    });
-    preset.txtHeader = presentText(stringForKey(settings_, headerKey));
-    preset.txtFooter = presentText(stringForKey(settings_, footerKey));
-    append(preset);
+    const auto isOn = [this](const TXTSwitch& each) {
+        return boolForKey(settings(), QString::fromLatin1(each.reportKey));
+    };
+    append(numberedName(localized("New Settings")),
+           presetMembers(isOn, stringForKey(settings(), headerKey),
+                         stringForKey(settings(), footerKey)));
 }
 
 void TXTSettingsArrayController::saveTXTSettings() {
     createTXTSettings();
-    Q_EMIT nameEditingRequested(arrangedCount() - 1);
+    editLastName();
 }
 
 void TXTSettingsArrayController::setTXTSettings() {
@@ -109,82 +112,25 @@ void TXTSettingsArrayController::applyTXTSettings() {
     if (selectedRows().empty()) {
         return;
     }
-    const TXTSettings preset = arranged(selectedRows().front());
-    settings_.setObject(isApplyingKey, true);
-    const auto write = [this](const QString& key, const auto& value) {
-        if (value) {
-            settings_.setObject(key, *value);
+    const QVariantMap members = arranged(selectedRows().front()).members;
+    settings().setObject(isApplyingKey, true);
+    for (const TXTSwitch& each : txtSwitches()) {
+        const QVariant value = members.value(QString::fromLatin1(each.presetKey));
+        if (isReadableMember(value)) {
+            settings().setObject(QString::fromLatin1(each.reportKey), boolFromValue(value));
         }
-    };
-    for (std::size_t index = 0; index < txtSwitchCount; ++index) {
-        write(QString::fromLatin1(txtSwitches().at(index).reportKey), preset.switches.at(index));
     }
-    write(headerKey, preset.txtHeader);
-    write(footerKey, preset.txtFooter);
-    settings_.setObject(isApplyingKey, false);
+    for (const auto& [key, member] :
+         {std::pair{headerKey, headerMember}, {footerKey, footerMember}}) {
+        if (const QVariant value = members.value(member); isReadableMember(value)) {
+            settings().setObject(key, stringFromValue(value));
+        }
+    }
+    settings().setObject(isApplyingKey, false);
 }
 
 void TXTSettingsArrayController::removeTXTSettings() {
-    if (selectedRows().empty()) {
-        return;
-    }
-    const std::size_t row = selectedRows().front();
-    if (row == 0) {
-        std::ignore =
-            alerts_.runModal({.style = AlertStyle::Warning,
-                              .messageText = localized("Cannot delete Default settings"),
-                              .informativeText = localized("Default settings cannot be deleted."),
-                              .buttonTitles = {localized("OK")}});
-        return;
-    }
-    const TXTSettings doomed = arranged(row);
-    const int answer =
-        alerts_.runModal({.style = AlertStyle::Warning,
-                          .messageText = localized("Delete the record?"),
-                          .informativeText = localized("Deleted records cannot be restored."),
-                          .buttonTitles = {localized("OK"), localized("Cancel")}});
-    // The stored list may have changed under the question.
-    if (answer != 0 || row >= arrangedCount() ||
-        valueFromTXTSettings(arranged(row)) != valueFromTXTSettings(doomed)) {
-        return;
-    }
-    std::vector<TXTSettings> presets = *content();
-    presets.erase(presets.begin() + static_cast<std::ptrdiff_t>(contentIndex(row)));
-    store(presets, {std::min(row, presets.size() - 1)});
-}
-
-void TXTSettingsArrayController::renameTXTSettings(std::size_t row, const QString& name) {
-    std::vector<TXTSettings> presets = *content();
-    presets.at(contentIndex(row)).txtSettingsName = name;
-    store(presets, selectedRows());
-}
-
-void TXTSettingsArrayController::append(const TXTSettings& preset) {
-    std::vector<TXTSettings> presets = *content();
-    presets.push_back(preset);
-    store(presets, {presets.size() - 1});
-}
-
-void TXTSettingsArrayController::store(const std::vector<TXTSettings>& presets,
-                                       std::vector<std::size_t> selectedRows) {
-    QVariantList values;
-    for (const TXTSettings& preset : presets) {
-        values.append(valueFromTXTSettings(preset));
-    }
-    settings_.setObject(presetsKey, values);
-    setSelectedRows(std::move(selectedRows));
-}
-
-void TXTSettingsArrayController::readStoredPresets() {
-    const std::vector<std::size_t> rows = selectedRows();
-    std::vector<TXTSettings> presets;
-    for (const QVariant& value : arrayForKey(settings_, presetsKey)) {
-        if (value.typeId() == QMetaType::QVariantMap) {
-            presets.push_back(txtSettingsFromValue(value));
-        }
-    }
-    setContent(std::move(presets));
-    setSelectedRows(rows);
+    removeSelected();
 }
 
 } // namespace quillet

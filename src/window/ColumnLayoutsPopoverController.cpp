@@ -48,9 +48,9 @@ void ColumnLayoutsPopoverController::build(QWidget& window) {
 }
 
 NameListEditor* ColumnLayoutsPopoverController::makeList(QWidget& parent) {
-    auto* list = new NameListEditor(nameList(layouts_, &StoredColumnLayout::columnLayoutName,
-                                             &ColumnLayoutsArrayController::renameColumnLayout),
-                                    localized("Column Layouts"), &parent);
+    auto* list = new NameListEditor(
+        nameList(layouts_, &NamedRecord::name, &ColumnLayoutsArrayController::rename),
+        localized("Column Layouts"), &parent);
     using Needs = NameListEditor::Needs;
     list->addButton(localized("New"), "saveColumnLayout", Needs::Nothing,
                     [this] { layouts_.saveColumnLayout(); })

@@ -38,9 +38,9 @@ template <typename Controller, typename Record>
 }
 
 /// A list controller as a list of names that can be typed.
-template <typename Controller, typename Record>
+template <typename Controller, typename Record, typename Owner>
 [[nodiscard]] NameList nameList(Controller& controller, QString Record::* name,
-                                void (Controller::*rename)(std::size_t, const QString&)) {
+                                void (Owner::*rename)(std::size_t, const QString&)) {
     NameList list = nameList(controller, name);
     list.rename = [&controller, rename](std::size_t row, const QString& text) {
         (controller.*rename)(row, text);

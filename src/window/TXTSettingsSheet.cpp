@@ -47,9 +47,9 @@ void TXTSettingsSheet::build() {
                   "them all; a new one takes them as they are now."),
         dialog_);
     note->setWordWrap(true);
-    list_ = new NameListEditor(nameList(presets_, &TXTSettings::txtSettingsName,
-                                        &TXTSettingsArrayController::renameTXTSettings),
-                               localized("Text Report Presets"), dialog_);
+    list_ = new NameListEditor(
+        nameList(presets_, &NamedRecord::name, &TXTSettingsArrayController::rename),
+        localized("Text Report Presets"), dialog_);
     using Needs = NameListEditor::Needs;
     list_->addButton(localized("&New"), "saveTXTSettings", Needs::Nothing,
                      [this] { presets_.saveTXTSettings(); });

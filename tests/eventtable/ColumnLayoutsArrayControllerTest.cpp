@@ -49,6 +49,22 @@ protected:
         {.settings = settings, .eventsTableView = table, .alerts = alerts}};
 };
 
+/// The layouts of a table whose columns follow their visibility keys.
+class LayoutsOfAFollowingTable : public ColumnLayoutsArrayControllerTest {
+protected:
+    const IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "UTC"};
+    const IcuCalendarArithmetic calendar{"en_US", "UTC", CalendarSystem::Gregorian};
+    test::FakeMenuItem item;
+    ListController<CalendarRecord> calendars;
+    EventItemViewController columns{{.settings = settings,
+                                     .eventsTableView = table,
+                                     .menuItems = {item, item, item},
+                                     .txtMenuItems = {item, item, item},
+                                     .calendarsArrayController = calendars,
+                                     .calendar = calendar,
+                                     .formats = formats}};
+};
+
 } // namespace
 
 TEST_F(ColumnLayoutsArrayControllerTest, TheFirstStartStoresTheDefaultLayout) {
@@ -88,8 +104,8 @@ TEST_F(ColumnLayoutsArrayControllerTest, TheFirstStartStoresTheDefaultLayout) {
 TEST_F(ColumnLayoutsArrayControllerTest, ALaterStartKeepsTheLayoutsAndRenamesOnlyTheFirst) {
     controller.awakeFromNib();
     controller.saveColumnLayout();
-    controller.renameColumnLayout(0, "Mine");
-    controller.renameColumnLayout(1, "Invoice");
+    controller.rename(0, "Mine");
+    controller.rename(1, "Invoice");
     settings.setObject("isApplyColumnLayoutOn", true);
     settings.setObject("isColumnLayoutUsesNames", false);
     ColumnLayoutsArrayController next(
@@ -100,6 +116,85 @@ TEST_F(ColumnLayoutsArrayControllerTest, ALaterStartKeepsTheLayoutsAndRenamesOnl
     EXPECT_EQ(stored(1).value("columnLayoutName"), QVariant("Invoice"));
     EXPECT_EQ(settings.object("isApplyColumnLayoutOn"), QVariant(false));
     EXPECT_EQ(settings.object("isColumnLayoutUsesNames"), QVariant(false));
+}
+
+TEST_F(ColumnLayoutsArrayControllerTest, AStartWritesInItsOrder) {
+    controller.awakeFromNib();
+    EXPECT_EQ(settings.writes,
+              (QStringList{layoutsKey, "isColumnLayoutUsesNames", layoutsKey,
+                           "isDefaultColumnLayoutsCreated", "isApplyColumnLayoutOn", layoutsKey}));
+    settings.writes.clear();
+    ColumnLayoutsArrayController later(
+        {.settings = settings, .eventsTableView = table, .alerts = alerts});
+    later.awakeFromNib();
+    EXPECT_EQ(settings.writes, (QStringList{"isApplyColumnLayoutOn", layoutsKey}));
+}
+
+TEST_F(ColumnLayoutsArrayControllerTest, TheDefaultLayoutIsMadeWhereItsKeyIsAbsentNotWhereItIsOff) {
+    settings.setObject("isDefaultColumnLayoutsCreated", false);
+    controller.awakeFromNib();
+    EXPECT_EQ(storedCount(), 0);
+    EXPECT_EQ(settings.object("isDefaultColumnLayoutsCreated"), QVariant(false));
+}
+
+TEST_F(ColumnLayoutsArrayControllerTest, AStartAddsNothingToLayoutsEditedByHand) {
+    const QVariantMap bare{{"columnLayoutName", "Bare"}, {"titleColumnWidth", "wide"}};
+    const QVariantMap odd{{"dateColumnIndex", QVariantList{1}}, {"rateColumnIsHidden", "YES"}};
+    settings.setObject("isDefaultColumnLayoutsCreated", true);
+    settings.setObject(layoutsKey, QVariantList{bare, odd});
+    controller.awakeFromNib();
+    QVariantMap renamed = bare;
+    renamed["columnLayoutName"] = "Default";
+    EXPECT_EQ(arrayForKey(settings, layoutsKey), (QVariantList{renamed, odd}));
+    controller.createColumnLayout();
+    EXPECT_EQ(stored(0), renamed);
+    EXPECT_EQ(stored(1), odd);
+    EXPECT_EQ(stored(2).size(), 65);
+}
+
+TEST_F(ColumnLayoutsArrayControllerTest, TheNumberOfANewLayoutCountsThoseThatAreLeft) {
+    controller.awakeFromNib();
+    controller.createColumnLayout();
+    controller.createColumnLayout();
+    controller.setSelectedRows({1});
+    controller.removeColumnLayout();
+    controller.createColumnLayout();
+    EXPECT_EQ(stored(1).value("columnLayoutName"), QVariant("New Layout 3"));
+    EXPECT_EQ(stored(2).value("columnLayoutName"), QVariant("New Layout 3")) << "a name may repeat";
+}
+
+TEST_F(ColumnLayoutsArrayControllerTest, TheDefaultLayoutIsAPlaceAndNotAName) {
+    controller.awakeFromNib();
+    controller.createColumnLayout();
+    controller.rename(0, "Mine");
+    controller.rename(1, "Default");
+    controller.setSelectedRows({0});
+    controller.removeColumnLayout();
+    EXPECT_EQ(storedCount(), 2);
+    EXPECT_EQ(alerts.shown.back().messageText, "Cannot delete Default layout");
+    controller.setSelectedRows({1});
+    controller.removeColumnLayout();
+    ASSERT_EQ(storedCount(), 1);
+    EXPECT_EQ(stored(0).value("columnLayoutName"), QVariant("Mine"));
+}
+
+TEST_F(ColumnLayoutsArrayControllerTest, TheFirstLayoutsNewNameIsAnnouncedAroundTheWrite) {
+    controller.awakeFromNib();
+    controller.rename(0, "Mine");
+    QStringList told;
+    QObject::connect(&controller, &ListControllerNotices::arrangedObjectsWillChange,
+                     [&] { told << "from " + controller.arranged(0).name; });
+    QObject::connect(&controller, &ListControllerNotices::arrangedObjectsChanged,
+                     [&] { told << "to " + controller.arranged(0).name; });
+    controller.updateDefaultColumnLayoutsName();
+    EXPECT_EQ(told, (QStringList{"from Mine", "to Default"}));
+}
+
+TEST_F(ColumnLayoutsArrayControllerTest, APlaceThatCannotBeReadLeavesTheColumnWhereItIs) {
+    controller.awakeFromNib();
+    change("minutesColumnIndex", QVariantList{0});
+    applyFirst();
+    EXPECT_EQ(table.positionOf("minutes"), 13);
 }
 
 TEST_F(ColumnLayoutsArrayControllerTest, AStoreWhoseLayoutsWereEmptiedByHandStillStarts) {
@@ -137,7 +232,7 @@ TEST_F(ColumnLayoutsArrayControllerTest, MissingMembersLeaveTheColumnAsItIs) {
     EXPECT_EQ(table.column("title").width, 55.0);
     EXPECT_EQ(settings.object("titleColumnTitle"), QVariant("Task"));
     EXPECT_EQ(settings.object("isTitleColumn"), QVariant(true)) << "no column is hidden in it";
-    controller.renameColumnLayout(0, "Barer");
+    controller.rename(0, "Barer");
     EXPECT_EQ(stored(0).value("columnLayoutName"), QVariant("Barer"));
     EXPECT_FALSE(stored(0).contains("titleColumnName"));
     EXPECT_EQ(stored(1), second) << "the other layout is not lost";
@@ -238,7 +333,7 @@ TEST_F(ColumnLayoutsArrayControllerTest, WithNamesOffTitlesStay) {
     settings.setObject("titleColumnTitle", "Task");
     applyFirst();
     EXPECT_EQ(settings.object("titleColumnTitle"), QVariant("Task"));
-    EXPECT_FALSE(hasKey(settings, "dateColumnTitle"));
+    EXPECT_TRUE(settings.keys().filter("ColumnTitle") == QStringList{"titleColumnTitle"});
 }
 
 TEST_F(ColumnLayoutsArrayControllerTest, TheStartWeekdayTitleIsNeverBroughtBack) {
@@ -278,18 +373,7 @@ TEST_F(ColumnLayoutsArrayControllerTest, APlaceOutsideTheTableLeavesTheColumnWhe
     }
 }
 
-TEST_F(ColumnLayoutsArrayControllerTest, VisibilityPassesSettleTheTableDuringAnApply) {
-    const IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "UTC"};
-    const IcuCalendarArithmetic calendar{"en_US", "UTC", CalendarSystem::Gregorian};
-    test::FakeMenuItem item;
-    ListController<CalendarRecord> calendars;
-    EventItemViewController columns({.settings = settings,
-                                     .eventsTableView = table,
-                                     .menuItems = {item, item, item},
-                                     .txtMenuItems = {item, item, item},
-                                     .calendarsArrayController = calendars,
-                                     .calendar = calendar,
-                                     .formats = formats});
+TEST_F(LayoutsOfAFollowingTable, VisibilityPassesSettleTheTableDuringAnApply) {
     settings.setObject("timeTypeSelection", 3);
     controller.awakeFromNib();
     columns.awakeFromNib();
@@ -303,6 +387,21 @@ TEST_F(ColumnLayoutsArrayControllerTest, VisibilityPassesSettleTheTableDuringAnA
     EXPECT_TRUE(table.column("hours").hidden);
     EXPECT_EQ(settings.object("timeTypeSelection"), QVariant(3));
     EXPECT_EQ(table.positionOf("calendar"), stored(1).value("calendarColumnIndex").toInt());
+}
+
+TEST_F(LayoutsOfAFollowingTable, ALayoutWithoutTimeColumnsHidesAllThree) {
+    for (const int timeType : {1, 2, 3}) {
+        settings.setObject("timeTypeSelection", timeType);
+        controller.awakeFromNib();
+        columns.awakeFromNib();
+        settings.setObject("isHoursColumn", true);
+        change("hoursColumnIsHidden", true);
+        applyFirst();
+        EXPECT_EQ(settings.object("isHoursColumn"), QVariant(false));
+        for (const char* time : {"hours", "minutes", "duration"}) {
+            EXPECT_TRUE(table.column(time).hidden) << time << " of " << timeType;
+        }
+    }
 }
 
 TEST_F(ColumnLayoutsArrayControllerTest, TheDefaultLayoutCannotBeDeleted) {
@@ -357,7 +456,7 @@ TEST_F(ColumnLayoutsArrayControllerTest, WithoutASelectionNothingIsAppliedOrDele
 TEST_F(ColumnLayoutsArrayControllerTest, MembersOfANewerVersionAreCarriedAlong) {
     controller.awakeFromNib();
     change("colour", "blue");
-    controller.renameColumnLayout(0, "Mine");
+    controller.rename(0, "Mine");
     EXPECT_EQ(stored(0).value("colour"), QVariant("blue"));
     EXPECT_EQ(stored(0).value("columnLayoutName"), QVariant("Mine"));
 }
@@ -376,7 +475,7 @@ TEST_F(ColumnLayoutsArrayControllerTest, TheSelectionSurvivesARename) {
     controller.awakeFromNib();
     controller.createColumnLayout();
     controller.setSelectedRows({1});
-    controller.renameColumnLayout(1, "Invoice");
+    controller.rename(1, "Invoice");
     EXPECT_EQ(controller.selectedRows(), std::vector<std::size_t>{1});
 }
 

@@ -126,7 +126,7 @@ TEST_F(TXTSettingsArrayControllerTest, SavingKeepsThePresentSwitchesUnderANewNam
     EXPECT_EQ(stored(2).value("txtSettingsIsTXTMin"), QVariant(true));
     EXPECT_EQ(stored(2).value("txtSettingsTxtFooter"), QVariant("Thanks"));
     EXPECT_EQ(stored(1).value("txtSettingsIsTXTMin"), QVariant(false));
-    controller.renameTXTSettings(2, "Invoice");
+    controller.rename(2, "Invoice");
     EXPECT_EQ(stored(2).value("txtSettingsName"), QVariant("Invoice"));
     EXPECT_EQ(controller.selectedRows(), std::vector<std::size_t>{2});
 }
@@ -229,17 +229,35 @@ TEST_F(TXTSettingsArrayControllerTest, APresetEditedByHandIsAppliedAsFarAsItGoes
     EXPECT_EQ(settings.object("txtFooter"), QVariant("Thanks")) << "not to be read";
 }
 
+TEST_F(TXTSettingsArrayControllerTest, AStartAndAnotherPresetAddNothingToAPresetEditedByHand) {
+    const QVariantList edited{QVariantMap{{"txtSettingsIsTXTMax", "YES"}},
+                              QVariantMap{{"txtSettingsName", 7}, {"txtSettingsTxtHeader", 12}}};
+    settings.setObject("isDefaultTXTSettingsCreated", true);
+    settings.setObject(presetsKey, edited);
+    controller.awakeFromNib();
+    EXPECT_EQ(arrayForKey(settings, presetsKey), edited);
+    controller.createTXTSettings();
+    EXPECT_EQ(arrayForKey(settings, presetsKey).first(2), edited);
+    EXPECT_EQ(stored(2).size(), 15);
+}
+
+TEST_F(TXTSettingsArrayControllerTest, TheDefaultPresetIsMadeWhereItsKeyIsAbsentNotWhereItIsOff) {
+    settings.setObject("isDefaultTXTSettingsCreated", false);
+    controller.awakeFromNib();
+    EXPECT_EQ(storedCount(), 0);
+}
+
 TEST_F(TXTSettingsArrayControllerTest, WhatCannotBeReadInAPresetIsNotLost) {
     controller.awakeFromNib();
     const QVariantMap edited{{"txtSettingsName", "Odd"},
                              {"txtSettingsIsTXTMin", QVariantList{false}},
                              {"txtSettingsTxtFooter", QVariant::fromValue(test::utc(2024, 3, 1))}};
     settings.setObject(presetsKey, QVariantList{stored(0), edited});
-    controller.renameTXTSettings(0, "Mine");
+    controller.rename(0, "Mine");
     EXPECT_EQ(stored(0).value("txtSettingsName"), QVariant("Mine"));
     EXPECT_EQ(stored(0).size(), 15);
     EXPECT_EQ(stored(1), edited);
-    controller.renameTXTSettings(1, "Short");
+    controller.rename(1, "Short");
     EXPECT_EQ(stored(1).value("txtSettingsName"), QVariant("Short"));
     EXPECT_EQ(stored(1).value("txtSettingsIsTXTMin"), QVariant(QVariantList{false}));
 }
@@ -249,7 +267,7 @@ TEST_F(TXTSettingsArrayControllerTest, MembersOfANewerVersionAreCarriedAlong) {
     QVariantMap preset = stored(0);
     preset.insert("colour", "blue");
     settings.setObject(presetsKey, QVariantList{preset});
-    controller.renameTXTSettings(0, "Mine");
+    controller.rename(0, "Mine");
     EXPECT_EQ(stored(0).value("colour"), QVariant("blue"));
 }
 

@@ -32,15 +32,15 @@ struct Copy {
     }
     [[nodiscard]] QStringList layoutNames() const {
         QStringList names;
-        for (const StoredColumnLayout& layout : *layouts.content()) {
-            names << layout.columnLayoutName;
+        for (const NamedRecord& layout : *layouts.content()) {
+            names << layout.name;
         }
         return names;
     }
     [[nodiscard]] QStringList presetNames() const {
         QStringList names;
-        for (const TXTSettings& preset : *presets.content()) {
-            names << preset.txtSettingsName;
+        for (const NamedRecord& preset : *presets.content()) {
+            names << preset.name;
         }
         return names;
     }
@@ -84,13 +84,13 @@ TEST_F(TwoCopiesTest, KeepWhatBothMadeBeforeTheyHeardOfEachOther) {
     second.groups.addCalendarGroup();
     second.groups.setCalendarGroupName(1, "Family");
     first.layouts.createColumnLayout();
-    first.layouts.renameColumnLayout(1, "Wide");
+    first.layouts.rename(1, "Wide");
     second.layouts.createColumnLayout();
-    second.layouts.renameColumnLayout(1, "Narrow");
+    second.layouts.rename(1, "Narrow");
     first.presets.createTXTSettings();
-    first.presets.renameTXTSettings(1, "Long");
+    first.presets.rename(1, "Long");
     second.presets.createTXTSettings();
-    second.presets.renameTXTSettings(1, "Short");
+    second.presets.rename(1, "Short");
     first.settings.flush();
     second.settings.flush();
     EXPECT_TRUE(test::waitUntil([this] { return first.groupNames() == second.groupNames(); }));

@@ -31,15 +31,12 @@ protected:
         }
         return names;
     }
-    [[nodiscard]] QString storedName(std::size_t row) const {
-        return presets.arranged(row).txtSettingsName;
-    }
+    [[nodiscard]] QString storedName(std::size_t row) const { return presets.arranged(row).name; }
 
     test::MemorySettings settings;
     test::FakeAlerts alerts;
     TXTSettingsArrayController presets{settings, alerts};
-    NameListModel model{nameList(presets, &TXTSettings::txtSettingsName,
-                                 &TXTSettingsArrayController::renameTXTSettings)};
+    NameListModel model{nameList(presets, &NamedRecord::name, &TXTSettingsArrayController::rename)};
     QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
 };
 
