@@ -88,3 +88,9 @@ def csv_bytes(expected, rate=None):
         cost = [f"${Decimal(entry.hours_text) * rate:,.2f}"] if rate else []
         lines.append([entry.date_text, entry.calendar, entry.title, entry.hours_text, *cost])
     return "".join(",".join(map(quoted, line)) + "\n" for line in lines).encode()
+
+
+def show_this_month(program):
+    program.press("Month")
+    program.press("Current")
+    program.wait_for_titles(titles(entries(0)))

@@ -1,6 +1,6 @@
 """Without the user's consent nothing is read; it can be given later and is asked for once."""
 
-from months import entries, titles, write_calendars
+from months import entries, show_this_month, titles, write_calendars
 from program import Quillet
 
 
@@ -13,9 +13,7 @@ def main():
         program.press("Allow Calendar Access…")
         program.press("Allow")
         program.wait_for_calendars(["Home", "Work"])
-        program.press("Month")
-        program.press("Current")
-        program.wait_for_titles(titles(entries(0)))
+        show_this_month(program)
     with Quillet() as program:
         program.wait_for_titles(titles(entries(0)))
         assert "Allow" not in program.texts()

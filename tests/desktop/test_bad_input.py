@@ -4,7 +4,7 @@ import os
 from pathlib import Path
 
 from accessibility import wait_for
-from months import csv_bytes, entries, titles, write_calendars
+from months import csv_bytes, entries, show_this_month, write_calendars
 from program import CALENDARS, SETTINGS, Quillet
 
 DESKTOP = Path(os.environ["HOME"]) / "Desktop"
@@ -43,9 +43,7 @@ def main():
     with Quillet() as program:
         check_settings(program)
         program.press("Allow")
-        program.press("Month")
-        program.press("Current")
-        program.wait_for_titles(titles(entries(0)))
+        show_this_month(program)
         program.wait_for_text("garbage.ics")
         program.wait_for_text("Broken export")
         check_unwritable_place(program)

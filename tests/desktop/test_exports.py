@@ -7,7 +7,7 @@ from decimal import Decimal
 from pathlib import Path
 
 from accessibility import ROLE, press_key, text_of, wait_for
-from months import csv_bytes, entries, first_day, titles, write_calendars
+from months import csv_bytes, entries, first_day, show_this_month, titles, write_calendars
 from program import CALENDARS, Quillet, write_event
 
 DESKTOP = Path(os.environ["HOME"]) / "Desktop"
@@ -145,9 +145,7 @@ def main():
     with Quillet() as program:
         program.press("Allow")
         program.wait_for_calendars(["Home", "Work"])
-        program.press("Month")
-        program.press("Current")
-        program.wait_for_titles(titles(entries(0)))
+        show_this_month(program)
         check_report(program)
         check_file(program, "TSV", "month.txt", tsv(entries(0)))
         check_copy(program)

@@ -3,7 +3,7 @@ does."""
 
 from accessibility import (ROLE, Atspi, children, has_state, press_key, type_keys, type_text,
                            wait_for)
-from months import entries, titles, write_calendars
+from months import entries, show_this_month, titles, write_calendars
 from program import SETTINGS, Quillet
 
 TICKED = Atspi.StateType.CHECKED
@@ -95,9 +95,7 @@ def main():
     with Quillet() as program:
         program.press("Allow")
         program.wait_for_calendars(["Home", "Work"])
-        program.press("Month")
-        program.press("Current")
-        program.wait_for_titles(titles(entries(0)))
+        show_this_month(program)
         check_groups(program)
     with Quillet() as program:
         program.wait_for_calendars(["Work"])

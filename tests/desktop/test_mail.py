@@ -9,7 +9,7 @@ from html import unescape
 from pathlib import Path
 
 from accessibility import ROLE, cell, press_key, text_of, wait_for
-from months import entries, titles, write_calendars
+from months import entries, show_this_month, titles, write_calendars
 from program import CALENDARS, TABLES, Quillet, write_event
 from recorder import Recorder, choose, composed, mail_in
 
@@ -136,9 +136,7 @@ def check_with_programs():
     with Quillet() as program:
         program.press("Allow")
         program.wait_for_calendars(["Home", "Work"])
-        program.press("Month")
-        program.press("Current")
-        program.wait_for_titles(titles(entries(0)))
+        show_this_month(program)
         program.wait_for_titles(write_hostile_event("Bring the \"drawings\"\\nand 100% of them"))
         check_report(program, reader)
         check_notes(program, reader)

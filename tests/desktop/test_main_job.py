@@ -4,7 +4,7 @@ import os
 from pathlib import Path
 
 from accessibility import wait_for
-from months import csv_bytes, entries, titles, write_calendars
+from months import csv_bytes, entries, show_this_month, titles, write_calendars
 from program import Quillet
 
 DESKTOP = Path(os.environ["HOME"]) / "Desktop"
@@ -57,9 +57,7 @@ def main():
     with Quillet() as program:
         program.press("Allow")
         program.wait_for_calendars(["Home", "Work"])
-        program.press("Month")
-        program.press("Current")
-        program.wait_for_titles(titles(entries(0)))
+        show_this_month(program)
         check_saved(program, "month.csv", csv_bytes(entries(0)))
         check_ticks(program)
         check_steps(program)

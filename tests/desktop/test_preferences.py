@@ -3,7 +3,7 @@
 import json
 
 from accessibility import ROLE, Atspi, children, has_state, press_key, type_keys, wait_for
-from months import entries, titles, write_calendars
+from months import entries, show_this_month, titles, write_calendars
 from program import SETTINGS, Quillet
 
 
@@ -134,9 +134,7 @@ def main():
     write_calendars()
     with Quillet() as program:
         program.press("Allow")
-        program.press("Month")
-        program.press("Current")
-        program.wait_for_titles(titles(entries(0)))
+        show_this_month(program)
         check_panes(program)
         check_presets(program)
         check_layouts(program)

@@ -22,17 +22,6 @@ protected:
         }
         return text + "END:VCALENDAR\r\n";
     }
-    static Instants march(std::initializer_list<unsigned> days, int hour = 9) {
-        Instants instants;
-        for (const unsigned day : days) {
-            instants.push_back(utc(2024, 3, day, hour));
-        }
-        return instants;
-    }
-
-    static inline const QByteArray fourDays =
-        "SUMMARY:Daily\r\nDTSTART:20240304T090000Z\r\nDTEND:20240304T100000Z\r\n"
-        "RRULE:FREQ=DAILY;COUNT=4";
 };
 
 TEST_F(RecurrenceTest, keepsTheTimeOnTheWallWhenTheClocksChange) {

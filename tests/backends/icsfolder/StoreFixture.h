@@ -40,6 +40,15 @@ protected:
                "\r\nEND:VEVENT\r\nEND:VCALENDAR\r\n";
     }
 
+    /// At this hour UTC on days of March 2024.
+    static std::vector<Instant> march(std::initializer_list<unsigned> days, int hour = 9) {
+        std::vector<Instant> instants;
+        for (const unsigned day : days) {
+            instants.push_back(utc(2024, 3, day, hour));
+        }
+        return instants;
+    }
+
     IcsFolderStore& open() {
         store = std::make_unique<IcsFolderStore>(rootPath(), access, zone);
         observation = store->observeChanges([this] { ++notices; });
@@ -52,6 +61,11 @@ protected:
         }
         return store->events(store->calendars(), from, to);
     }
+
+    /// A series from the 4th of March 2024 on.
+    static inline const QByteArray fourDays =
+        "SUMMARY:Daily\r\nDTSTART:20240304T090000Z\r\nDTEND:20240304T100000Z\r\n"
+        "RRULE:FREQ=DAILY;COUNT=4";
 
     /// The starts of all events of 2020 to 2030.
     [[nodiscard]] std::vector<Instant> starts() {
