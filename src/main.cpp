@@ -2,6 +2,7 @@
 #include "backends/translations/Translations.h"
 #include "window/ClearIndicators.h"
 #include "window/ReportViewAccessible.h"
+#include "window/SheetFocus.h"
 
 #include <QApplication>
 #include <QDir>
@@ -52,6 +53,7 @@ int main(int argc, char** argv) {
     const quillet::Translations translations(languages);
     quillet::installReportViewAccessibility();
     quillet::installClearIndicators();
+    const quillet::SheetFocus sheetFocus;
     quillet::Program program(programPaths(languages), service);
     QObject::connect(&application, &QApplication::lastWindowClosed, &service,
                      &quillet::ApplicationService::endSoon);
