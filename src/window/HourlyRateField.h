@@ -2,6 +2,7 @@
 
 #include "platform/LocaleFormats.h"
 #include "platform/SettingsStore.h"
+#include "window/RateEditing.h"
 
 #include <QWidget>
 
@@ -10,8 +11,7 @@ class QLineEdit;
 
 namespace quillet {
 
-/// The field of the one rate for all calendars. A text that is no rate is refused beside the field,
-/// and the old rate comes back.
+/// The field of the one rate for all calendars. A text that is no rate is refused beside it.
 class HourlyRateField : public QWidget {
     Q_OBJECT
 
@@ -24,20 +24,16 @@ public:
     [[nodiscard]] QLineEdit& edit() const { return *edit_; }
 
 protected:
-    /// What was typed counts, also when the window closes over it.
+    /// The typing is over.
     void hideEvent(QHideEvent* event) override;
 
 private:
-    void showRate();
-    void takeText();
-    void takeTextOfAssistiveProgram(const QString& text);
-
-    SettingsStore& settings_;
-    const LocaleFormats& formats_;
     QLineEdit* edit_;
     QLabel* complaint_;
-    /// What the field shows unless somebody has put in something else.
-    QString shownText_;
+    RateEditing* editing_;
 };
+
+/// The rate of the setting `hourlyRate`.
+[[nodiscard]] EditedRate sharedRate(SettingsStore& settings);
 
 } // namespace quillet

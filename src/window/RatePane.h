@@ -2,6 +2,7 @@
 
 #include "calendars/CalendarsArrayController.h"
 #include "eventtable/EventItemViewController.h"
+#include "window/RateEditing.h"
 
 #include <QWidget>
 
@@ -23,21 +24,18 @@ public:
 
 private:
     void refresh();
-    void showRate();
-    void showText(const QString& text);
-    void takeTextOfAssistiveProgram(const QString& text);
-    void takeRate();
     [[nodiscard]] bool isSingleRate() const;
+    /// The one rate, or that of the selected calendars.
+    [[nodiscard]] EditedRate editedRate();
+    void setRate(const QString& calendarIdentifier, const Decimal& rate);
 
     CalendarsArrayController& calendars_;
     EventItemViewController& labels_;
     SettingsStore& settings_;
-    const LocaleFormats& formats_;
     ElidedLabel* label_;
     QLineEdit* field_;
     ElidedLabel* complaint_;
-    /// What the field shows unless somebody has put in something else.
-    QString shownText_;
+    RateEditing* editing_;
 };
 
 } // namespace quillet

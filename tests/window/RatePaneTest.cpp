@@ -64,4 +64,36 @@ TEST_F(RatePaneTest, LookingAtARateRoundsNothing) {
     EXPECT_EQ(sharedRate(), Decimal::fromDouble(99.999));
 }
 
+TEST_F(RatePaneTest, ARateOfTheSelectedCalendarsTakesEffectWhileItIsTyped) {
+    settings.setObject("isSingleRate", false);
+    calendars.setRate(0, Decimal::fromInteger(10));
+    calendars.setRate(1, Decimal::fromInteger(20));
+    named<QTableView>("Calendars")->selectAll();
+    field->selectAll();
+    QTest::keyClicks(field, "75");
+    EXPECT_EQ(calendars.arranged(0).rate, Decimal::fromInteger(75));
+    EXPECT_EQ(calendars.arranged(1).rate, Decimal::fromInteger(75));
+    EXPECT_EQ(field->text(), QStringLiteral("75"));
+    EXPECT_EQ(field->cursorPosition(), 2);
+    QTest::keyClicks(field, "x");
+    EXPECT_EQ(calendars.arranged(0).rate, Decimal::fromInteger(10));
+    EXPECT_EQ(calendars.arranged(1).rate, Decimal::fromInteger(20));
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(field->text(), QStringLiteral("10"));
+    EXPECT_EQ(settings.object("hourlyRate"), QVariant(90)) << "the one rate is another";
+}
+
+TEST_F(RatePaneTest, AnotherSelectionEndsTheTyping) {
+    settings.setObject("isSingleRate", false);
+    calendars.setRate(1, Decimal::fromInteger(20));
+    calendars.setSelectedRows({0});
+    field->selectAll();
+    QTest::keyClicks(field, "75");
+    calendars.setSelectedRows({1});
+    EXPECT_EQ(field->text(), QStringLiteral("20"));
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_EQ(calendars.arranged(0).rate, Decimal::fromInteger(75));
+    EXPECT_EQ(calendars.arranged(1).rate, Decimal::fromInteger(20));
+}
+
 } // namespace quillet
