@@ -84,7 +84,9 @@ void PreferencesGeneralPage::addFileRows(QFormLayout& form) {
     auto* encoding = new QComboBox(&body());
     encoding->addItem(QStringLiteral("UTF-8"), 0);
     encoding->addItem(QStringLiteral("UTF-16"), 1);
-    bindComboBox(*encoding, settings(), QStringLiteral("fileEncodingPopUpIndex"));
+    // Files are in UTF-8 unless the value is that of UTF-16.
+    constexpr int utf8 = 0;
+    bindComboBox(*encoding, settings(), QStringLiteral("fileEncodingPopUpIndex"), utf8);
     const QString label = localized("&Encoding of saved files:");
     encoding->setAccessibleName(spokenLabel(label));
     encoding->setToolTip(

@@ -8,6 +8,8 @@
 #include <QSignalBlocker>
 #include <QSpinBox>
 
+#include <algorithm>
+#include <limits>
 #include <memory>
 
 namespace quillet {
@@ -55,8 +57,12 @@ void bindAction(QAction& action, SettingsStore& settings, const QString& key) {
 }
 
 void bindSpinBox(QSpinBox& box, SettingsStore& settings, const QString& key) {
-    showValue(box, settings, key, [&box, &settings, key] {
-        box.setValue(static_cast<int>(integerForKey(settings, key)));
+    showValue(box, settings, key, [&box, &settings, key, lowest = box.minimum()] {
+        constexpr qint64 lowestOfAll = std::numeric_limits<int>::min();
+        const qint64 value =
+            std::clamp<qint64>(integerForKey(settings, key), lowestOfAll, box.maximum());
+        box.setMinimum(std::min(lowest, static_cast<int>(value)));
+        box.setValue(static_cast<int>(value));
     });
     QObject::connect(&box, &QSpinBox::valueChanged, &box, [&settings, key](int value) {
         settings.setObject(key, QVariant::fromValue<qint64>(value));
@@ -84,9 +90,10 @@ void bindTextEdit(QPlainTextEdit& edit, SettingsStore& settings, const QString& 
                      [&edit, &settings, key] { settings.setObject(key, edit.toPlainText()); });
 }
 
-void bindComboBox(QComboBox& box, SettingsStore& settings, const QString& key) {
-    showValue(box, settings, key, [&box, &settings, key] {
-        box.setCurrentIndex(box.findData(integerForKey(settings, key)));
+void bindComboBox(QComboBox& box, SettingsStore& settings, const QString& key, int otherIndex) {
+    showValue(box, settings, key, [&box, &settings, key, otherIndex] {
+        const int index = box.findData(integerForKey(settings, key));
+        box.setCurrentIndex(index >= 0 ? index : otherIndex);
     });
     QObject::connect(&box, &QComboBox::activated, &box, [&box, &settings, key](int index) {
         settings.setObject(key, box.itemData(index).toLongLong());

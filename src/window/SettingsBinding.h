@@ -17,11 +17,13 @@ namespace quillet {
 /// its changes, writes what the user sets, and bears the key as its object name.
 void bindCheckBox(QCheckBox& box, SettingsStore& settings, const QString& key);
 void bindAction(QAction& action, SettingsStore& settings, const QString& key);
+/// A value above the box's range shows as the highest; one below it shows as it is.
 void bindSpinBox(QSpinBox& box, SettingsStore& settings, const QString& key);
 void bindLineEdit(QLineEdit& edit, SettingsStore& settings, const QString& key);
 void bindTextEdit(QPlainTextEdit& edit, SettingsStore& settings, const QString& key);
-/// The combo box's item data are the values, whole numbers; one that no item has shows nothing.
-void bindComboBox(QComboBox& box, SettingsStore& settings, const QString& key);
+/// The combo box's item data are the values, whole numbers; one that no item has shows as that of
+/// `otherIndex`, an item or -1 for nothing.
+void bindComboBox(QComboBox& box, SettingsStore& settings, const QString& key, int otherIndex = -1);
 
 /// Calls back after each write of the key for as long as the owner lives.
 void observeWhileAlive(QObject& owner, SettingsStore& settings, const QString& key,
