@@ -256,12 +256,16 @@
         <translation>Schließen</translation>
     </message>
     <message>
-        <source>Column Layouts</source>
-        <translation>Spaltenlayouts</translation>
+        <source>&amp;Close Window</source>
+        <translation>Fenster sch&amp;ließen</translation>
     </message>
     <message>
-        <source>Column &amp;Layouts…</source>
-        <translation>Spalten&amp;layouts…</translation>
+        <source>Column &amp;Layouts</source>
+        <translation>Spalten&amp;layouts</translation>
+    </message>
+    <message>
+        <source>Column Layouts</source>
+        <translation>Spaltenlayouts</translation>
     </message>
     <message>
         <source>Column &amp;Preferences…</source>
@@ -356,6 +360,10 @@
         <translation>Löschen</translation>
     </message>
     <message>
+        <source>&amp;Delete Layout</source>
+        <translation>Layout &amp;löschen</translation>
+    </message>
+    <message>
         <source>Delete the group?</source>
         <translation>Die Gruppe löschen?</translation>
     </message>
@@ -402,6 +410,10 @@
     <message>
         <source>Edit Calendar Groups…</source>
         <translation>Kalendergruppen bearbeiten…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Layouts…</source>
+        <translation>Layouts &amp;bearbeiten…</translation>
     </message>
     <message>
         <source>&amp;Encoding of saved files:</source>
@@ -958,6 +970,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Als &amp;CSV speichern…</translation>
     </message>
     <message>
+        <source>&amp;Save as New Layout</source>
+        <translation>Als &amp;neues Layout speichern</translation>
+    </message>
+    <message>
         <source>Save as &amp;TSV…</source>
         <translation>Als &amp;TSV speichern…</translation>
     </message>
@@ -1251,7 +1267,7 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     </message>
     <message>
         <source>Tick the calendars that belong to it.</source>
-        <translation>Kreuzen Sie die Kalender an, die dazugehören.</translation>
+        <translation>Wählen Sie die Kalender aus, die dazugehören.</translation>
     </message>
     <message>
         <source>Tick the calendars whose time counts.</source>

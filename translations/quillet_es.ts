@@ -256,12 +256,16 @@
         <translation>Cerrar</translation>
     </message>
     <message>
-        <source>Column Layouts</source>
-        <translation>Disposiciones de columnas</translation>
+        <source>&amp;Close Window</source>
+        <translation>Cerrar la &amp;ventana</translation>
     </message>
     <message>
-        <source>Column &amp;Layouts…</source>
-        <translation>Disposiciones de co&amp;lumnas…</translation>
+        <source>Column &amp;Layouts</source>
+        <translation>Disposiciones de co&amp;lumnas</translation>
+    </message>
+    <message>
+        <source>Column Layouts</source>
+        <translation>Disposiciones de columnas</translation>
     </message>
     <message>
         <source>Column &amp;Preferences…</source>
@@ -356,6 +360,10 @@
         <translation>Eliminar</translation>
     </message>
     <message>
+        <source>&amp;Delete Layout</source>
+        <translation>&amp;Eliminar disposición</translation>
+    </message>
+    <message>
         <source>Delete the group?</source>
         <translation>¿Eliminar el grupo?</translation>
     </message>
@@ -402,6 +410,10 @@
     <message>
         <source>Edit Calendar Groups…</source>
         <translation>Editar grupos de calendarios…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Layouts…</source>
+        <translation>E&amp;ditar disposiciones…</translation>
     </message>
     <message>
         <source>&amp;Encoding of saved files:</source>
@@ -956,6 +968,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>&amp;Save as CSV…</source>
         <translation>Guardar como &amp;CSV…</translation>
+    </message>
+    <message>
+        <source>&amp;Save as New Layout</source>
+        <translation>&amp;Guardar como disposición nueva</translation>
     </message>
     <message>
         <source>Save as &amp;TSV…</source>

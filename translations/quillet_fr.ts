@@ -256,12 +256,16 @@
         <translation>Fermer</translation>
     </message>
     <message>
-        <source>Column Layouts</source>
-        <translation>Dispositions des colonnes</translation>
+        <source>&amp;Close Window</source>
+        <translation>&amp;Fermer la fenêtre</translation>
     </message>
     <message>
-        <source>Column &amp;Layouts…</source>
-        <translation>&amp;Dispositions des colonnes…</translation>
+        <source>Column &amp;Layouts</source>
+        <translation>&amp;Dispositions des colonnes</translation>
+    </message>
+    <message>
+        <source>Column Layouts</source>
+        <translation>Dispositions des colonnes</translation>
     </message>
     <message>
         <source>Column &amp;Preferences…</source>
@@ -356,6 +360,10 @@
         <translation>Supprimer</translation>
     </message>
     <message>
+        <source>&amp;Delete Layout</source>
+        <translation>&amp;Supprimer une disposition</translation>
+    </message>
+    <message>
         <source>Delete the group?</source>
         <translation>Supprimer le groupe ?</translation>
     </message>
@@ -402,6 +410,10 @@
     <message>
         <source>Edit Calendar Groups…</source>
         <translation>Modifier les groupes de calendriers…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Layouts…</source>
+        <translation>&amp;Modifier les dispositions…</translation>
     </message>
     <message>
         <source>&amp;Encoding of saved files:</source>
@@ -956,6 +968,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>&amp;Save as CSV…</source>
         <translation>Enregistrer en &amp;CSV…</translation>
+    </message>
+    <message>
+        <source>&amp;Save as New Layout</source>
+        <translation>&amp;Enregistrer comme nouvelle disposition</translation>
     </message>
     <message>
         <source>Save as &amp;TSV…</source>

@@ -256,12 +256,16 @@
         <translation>閉じる</translation>
     </message>
     <message>
-        <source>Column Layouts</source>
-        <translation>列のレイアウト</translation>
+        <source>&amp;Close Window</source>
+        <translation>ウィンドウを閉じる(&amp;C)</translation>
     </message>
     <message>
-        <source>Column &amp;Layouts…</source>
-        <translation>列のレイアウト(&amp;L)…</translation>
+        <source>Column &amp;Layouts</source>
+        <translation>列のレイアウト(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Column Layouts</source>
+        <translation>列のレイアウト</translation>
     </message>
     <message>
         <source>Column &amp;Preferences…</source>
@@ -356,6 +360,10 @@
         <translation>削除</translation>
     </message>
     <message>
+        <source>&amp;Delete Layout</source>
+        <translation>レイアウトを削除(&amp;D)</translation>
+    </message>
+    <message>
         <source>Delete the group?</source>
         <translation>グループを削除しますか？</translation>
     </message>
@@ -402,6 +410,10 @@
     <message>
         <source>Edit Calendar Groups…</source>
         <translation>カレンダーグループを編集…</translation>
+    </message>
+    <message>
+        <source>&amp;Edit Layouts…</source>
+        <translation>レイアウトを編集(&amp;E)…</translation>
     </message>
     <message>
         <source>&amp;Encoding of saved files:</source>
@@ -956,6 +968,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>&amp;Save as CSV…</source>
         <translation>CSV で保存(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>&amp;Save as New Layout</source>
+        <translation>新規レイアウトとして保存(&amp;S)</translation>
     </message>
     <message>
         <source>Save as &amp;TSV…</source>

@@ -28,6 +28,13 @@ void ColumnLayoutsPopoverController::showColumnLayoutsPopover(QWidget& sender) {
     }
 }
 
+void ColumnLayoutsPopoverController::saveColumnLayout(QWidget& sender) {
+    if (columnLayoutsPopover_ == nullptr || columnLayoutsPopover_->isHidden()) {
+        showColumnLayoutsPopover(sender);
+    }
+    layouts_.saveColumnLayout();
+}
+
 void ColumnLayoutsPopoverController::build(QWidget& window) {
     columnLayoutsPopover_ = new Popover(window);
     columnLayoutsPopover_->setObjectName(QStringLiteral("columnLayoutsPopover"));

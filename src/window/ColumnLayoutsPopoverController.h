@@ -18,6 +18,8 @@ public:
 
     /// Shows the popover below the sender, or takes it away where it is there already.
     void showColumnLayoutsPopover(QWidget& sender);
+    /// Keeps the columns as they are in a new layout, whose name is then typed in the popover.
+    void saveColumnLayout(QWidget& sender);
 
 private:
     void build(QWidget& window);

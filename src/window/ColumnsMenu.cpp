@@ -1,6 +1,7 @@
 #include "window/ColumnsMenu.h"
 
 #include "eventtable/EventColumns.h"
+#include "window/NameListModel.h"
 #include "window/SettingsBinding.h"
 
 #include <QMenu>
@@ -29,7 +30,8 @@ QAction* addEntry(QMenu& menu, const QString& identifier, TimeColumnActions& tim
 void fillColumnsMenu(QMenu& menu, SettingsStore& settings, TimeColumnActions& timeColumns) {
     for (const EventColumn& column : eventColumns()) {
         QAction* action = addEntry(menu, QString::fromLatin1(column.identifier), timeColumns);
-        action->setText(stringForKey(settings, QString::fromLatin1(column.titleKey)));
+        const QString title = stringForKey(settings, QString::fromLatin1(column.titleKey));
+        action->setText(menuText(title, menu.fontMetrics()));
         if (action->objectName().isEmpty()) {
             bindAction(*action, settings, QString::fromLatin1(column.visibilityKey));
         }

@@ -127,6 +127,8 @@ private:
     void makeFileMenu();
     void makeEditMenu();
     void makeViewMenu();
+    void makeColumnsMenu(QMenu& menu);
+    void makeColumnLayoutsMenu(QMenu& menu);
     void makePeriodMenu();
     void makeCalendarsMenu();
     void makeHelpMenu();

@@ -1,6 +1,7 @@
 #include "window/MainWindow.h"
 
 #include "platform/Localized.h"
+#include "window/ColumnLayoutsMenu.h"
 #include "window/ColumnsMenu.h"
 #include "window/CopyCommand.h"
 #include "window/EventTableView.h"
@@ -120,6 +121,8 @@ void MainWindow::makeFileMenu() {
     menu.addSeparator();
     addAction(menu, localized("R&estart Quillet"), "relaunch", {},
               [this] { with_.appDelegate.relaunch(); });
+    addAction(menu, localized("&Close Window"), "performClose", QKeySequence::Close,
+              [this] { close(); });
     addAction(menu, localized("&Quit"), "terminate", QKeySequence::Quit, [this] { close(); });
 }
 
@@ -174,22 +177,43 @@ void MainWindow::makeViewMenu() {
                 [this, number, timeTypeKey] { with_.settings.setObject(timeTypeKey, number); });
     }
     menu.addSeparator();
-    QMenu& columns = *menu.addMenu(localized("&Columns"));
-    // The users' own titles may change while the window is open.
-    connect(&columns, &QMenu::aboutToShow, this, [this, &columns] {
-        columns.clear();
-        fillColumnsMenu(columns, with_.settings, with_.timeColumnActions);
-    });
-    fillColumnsMenu(columns, with_.settings, with_.timeColumnActions);
-    addAction(menu, localized("Column &Layouts…"), "showColumnLayoutsPopover",
-              QKeySequence(Qt::CTRL | Qt::Key_L),
-              [this] { columnLayoutsPopover_.showColumnLayoutsPopover(*columnLayoutsButton_); });
+    makeColumnsMenu(menu);
+    makeColumnLayoutsMenu(menu);
     addAction(menu, localized("Column &Preferences…"), "showWindowWithColumnsPreferencesView", {},
               [this] { preferences_.controller().showWindowWithColumnsPreferencesView(); });
     addAction(menu, localized("Te&xt Report Preferences…"), "showWindowWithTextPreferencesView", {},
               [this] { preferences_.controller().showWindowWithTextPreferencesView(); });
     addAction(menu, localized("Text Report P&resets…"), "openTXTSettingsSheet", {},
               [this] { txtSettingsSheet_.controller().openTXTSettingsSheet(); });
+}
+
+void MainWindow::makeColumnsMenu(QMenu& menu) {
+    QMenu& columns = *menu.addMenu(localized("&Columns"));
+    const auto fill = [this, &columns] {
+        columns.clear();
+        fillColumnsMenu(columns, with_.settings, with_.timeColumnActions);
+        columns.addSeparator();
+        addAction(columns, localized("&Reset All Titles"), "resetAllColumnTitles", {},
+                  [this] { with_.eventItemViewController.resetAllColumnTitles(); });
+    };
+    // The users' own titles may change while the window is open.
+    connect(&columns, &QMenu::aboutToShow, this, fill);
+    fill();
+}
+
+void MainWindow::makeColumnLayoutsMenu(QMenu& menu) {
+    auto* layouts = new ColumnLayoutsMenu(with_.arrangements.columnLayouts, this);
+    menu.addMenu(layouts);
+    QAction* first = layouts->actions().front();
+    layouts->insertAction(
+        first, addAction(*layouts, localized("&Edit Layouts…"), "showColumnLayoutsPopover",
+                         QKeySequence(Qt::CTRL | Qt::Key_L), [this] {
+                             columnLayoutsPopover_.showColumnLayoutsPopover(*columnLayoutsButton_);
+                         }));
+    layouts->insertAction(
+        first,
+        addAction(*layouts, localized("&Save as New Layout"), "saveColumnLayout", {},
+                  [this] { columnLayoutsPopover_.saveColumnLayout(*columnLayoutsButton_); }));
 }
 
 void MainWindow::makePeriodMenu() {

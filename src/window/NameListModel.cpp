@@ -14,6 +14,14 @@ QString shownName(const QString& name) {
     return line.isEmpty() ? localized("(no name)") : line;
 }
 
+QString menuText(const QString& name, const QFontMetrics& metrics) {
+    constexpr int widestInCharacters = 48;
+    return metrics
+        .elidedText(shownName(name), Qt::ElideMiddle,
+                    metrics.averageCharWidth() * widestInCharacters)
+        .replace(u'&', QStringLiteral("&&"));
+}
+
 NameListModel::NameListModel(NameList list, QObject* parent)
     : QAbstractListModel(parent)
     , list_(std::move(list))

@@ -3,6 +3,7 @@
 #include "platform/ListController.h"
 
 #include <QAbstractListModel>
+#include <QFontMetrics>
 
 #include <functional>
 #include <vector>
@@ -95,5 +96,8 @@ private:
 
 /// A user's name on one line; one without anything to see becomes "(no name)".
 [[nodiscard]] QString shownName(const QString& name);
+/// shownName() as the text of a menu entry: without mnemonics of its own, a long one cut in the
+/// middle.
+[[nodiscard]] QString menuText(const QString& name, const QFontMetrics& metrics);
 
 } // namespace quillet

@@ -28,6 +28,7 @@ PreferencesDialog::PreferencesDialog(const PreferencesCollaborators& collaborato
     addPane(PreferencesPane::Csv, localizable("CSV/TSV"), new PreferencesCsvPage(settings, this));
     addPane(PreferencesPane::Reminders, localizable("Reminders"),
             new PreferencesRemindersPage(settings, this));
+    pages_->setObjectName(QStringLiteral("preferencesPanes"));
     pages_->setAccessibleName(localized("Preferences"));
     connect(pages_, &QTabWidget::currentChanged, this,
             [this](int tab) { Q_EMIT paneChosen(static_cast<PreferencesPane>(tab)); });

@@ -7,6 +7,7 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace quillet {
@@ -63,6 +64,8 @@ void TXTSettingsSheet::build() {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, dialog_);
     buttons->button(QDialogButtonBox::Close)->setAutoDefault(false);
     QObject::connect(buttons, &QDialogButtonBox::rejected, dialog_, &QDialog::reject);
+    QObject::connect(new QShortcut(QKeySequence::Close, dialog_), &QShortcut::activated, dialog_,
+                     &QDialog::reject);
     constexpr int widthInCharacters = 52;
     dialog_->setMinimumWidth(dialog_->fontMetrics().averageCharWidth() * widthInCharacters);
     auto* layout = new QVBoxLayout(dialog_);

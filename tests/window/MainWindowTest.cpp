@@ -305,20 +305,38 @@ TEST_F(MainWindowTest, WithoutAccessTheWindowSaysSo) {
     EXPECT_FALSE(named<QAbstractButton>("Month")->isEnabled());
 }
 
+TEST_F(MainWindowTest, TheStandardKeyForClosingClosesTheWindow) {
+    open();
+    window->activateWindow();
+    QApplication::processEvents();
+    QTest::keySequence(window.get(), QKeySequence(QKeySequence::Close));
+    EXPECT_FALSE(window->isVisible());
+}
+
 TEST_F(MainWindowTest, EveryMenuActionHasANameAndNoShortcutIsTakenTwice) {
     open();
-    QSet<QString> shortcuts;
+    QStringList shortcuts;
+    QList<QMenu*> menus;
     for (const QAction* menu : window->menuBar()->actions()) {
-        for (const QAction* action : menu->menu()->actions()) {
-            if (action->isSeparator() || action->menu() != nullptr) {
-                continue;
+        menus << menu->menu();
+    }
+    while (!menus.isEmpty()) {
+        for (const QAction* action : menus.takeFirst()->actions()) {
+            if (action->menu() != nullptr) {
+                menus << action->menu();
             }
-            EXPECT_FALSE(action->text().isEmpty());
-            const QString shortcut = action->shortcut().toString();
-            EXPECT_TRUE(shortcut.isEmpty() || !shortcuts.contains(shortcut))
-                << shortcut.toStdString();
-            shortcuts.insert(shortcut);
+            EXPECT_TRUE(action->isSeparator() || !action->text().isEmpty());
+            if (const QString shortcut = action->shortcut().toString(); !shortcut.isEmpty()) {
+                EXPECT_FALSE(shortcuts.contains(shortcut)) << shortcut.toStdString();
+                shortcuts << shortcut;
+            }
         }
+    }
+    for (const auto standard :
+         {QKeySequence::Save, QKeySequence::Open, QKeySequence::Copy, QKeySequence::SelectAll,
+          QKeySequence::Find, QKeySequence::Close, QKeySequence::Quit}) {
+        const QString shortcut = QKeySequence(standard).toString();
+        EXPECT_TRUE(shortcut.isEmpty() || shortcuts.contains(shortcut)) << shortcut.toStdString();
     }
     if (const QString path = qEnvironmentVariable("QUILLET_TEST_SCREENSHOT"); !path.isEmpty()) {
         window->resize(1280, 800);
