@@ -12,11 +12,28 @@ namespace {
 
 class FakePreferencesWindow final : public PreferencesWindow {
 public:
-    void showWindow() override { isShown = true; }
-    void setTitle(const QString& text) override { title = text; }
-    void removePane(PreferencesPane pane) override { std::erase(panes, pane); }
-    void installPane(PreferencesPane pane) override { panes.push_back(pane); }
-    void setSelectedToolbarItem(const QString& identifier) override { selectedItem = identifier; }
+    void showWindow() override {
+        steps << "show";
+        isShown = true;
+    }
+    void setTitle(const QString& text) override {
+        steps << "title " + text;
+        title = text;
+    }
+    void removePane(PreferencesPane pane) override {
+        steps << "remove " + PreferencesWindowController::toolbarItemIdentifier(pane);
+        std::erase(panes, pane);
+    }
+    void installPane(PreferencesPane pane) override {
+        steps << "install " + PreferencesWindowController::toolbarItemIdentifier(pane);
+        panes.push_back(pane);
+    }
+    void setSelectedToolbarItem(const QString& identifier) override {
+        steps << "select " + identifier;
+        selectedItem = identifier;
+    }
+
+    QStringList steps;
 
     bool isShown = false;
     QString title;
@@ -82,6 +99,23 @@ TEST_F(PreferencesWindowControllerTest, TheWindowCanOpenOnTheColumnsOrTheTextPan
     controller.showWindowWithTextPreferencesView();
     EXPECT_EQ(window.selectedItem, "text");
     EXPECT_EQ(stored(), QVariant(2));
+}
+
+TEST_F(PreferencesWindowControllerTest, AClickShowsThenStoresAndOpeningStoresThenShows) {
+    const Observation observation = settings.observe("selectedPreferencesToolbarItem", [this] {
+        window.steps << "store " + QString::number(stored().toInt());
+    });
+    controller.awakeFromNib();
+    EXPECT_EQ(window.steps,
+              (QStringList{"store 0", "title General", "install general", "select general"}));
+    window.steps.clear();
+    controller.toolbarItemClicked(PreferencesPane::Csv);
+    EXPECT_EQ(window.steps,
+              (QStringList{"remove general", "title CSV/TSV", "install csv", "store 3"}));
+    window.steps.clear();
+    controller.showWindowWithTextPreferencesView();
+    EXPECT_EQ(window.steps, (QStringList{"store 2", "show", "remove csv", "title Text",
+                                         "install text", "select text"}));
 }
 
 TEST_F(PreferencesWindowControllerTest, AnIndexOfNoPaneChangesNothing) {

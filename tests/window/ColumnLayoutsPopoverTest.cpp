@@ -1,5 +1,6 @@
 #include "window/ColumnLayoutsPopoverController.h"
 
+#include "eventtable/EventColumns.h"
 #include "window/Popover.h"
 #include "window/WindowFixture.h"
 
@@ -142,6 +143,50 @@ TEST_F(ColumnLayoutsPopoverTest, ApplyingBringsTheColumnsBackAsTheyWere) {
     settings.setObject("titleColumnTitle", "Other");
     press("setColumnLayout");
     EXPECT_EQ(settings.object("titleColumnTitle"), QVariant("Other"));
+}
+
+TEST_F(ColumnLayoutsPopoverTest, ANewLayoutHoldsTheTablesOwnPlacesAndWidths) {
+    table->moveColumn(table->positionOf("title"), 0);
+    table->moveColumn(table->positionOf("minutes"), 5);
+    table->columnAt(0).setWidthPoints(133.9);
+    settings.setObject("isNotesColumn", false);
+    settings.setObject("titleColumnTitle", "Task");
+    trigger();
+    press("saveColumnLayout");
+    endTyping(Qt::Key_Return);
+    const QVariantMap layout = stored(1);
+    for (const EventColumn& column : eventColumns()) {
+        const QString stem = QString::fromLatin1(column.stem);
+        const int position = table->positionOf(QString::fromLatin1(column.identifier));
+        const TableColumn& shown = table->columnAt(position);
+        EXPECT_EQ(layout.value(stem + "ColumnIndex"), QVariant(position)) << column.stem;
+        EXPECT_EQ(layout.value(stem + "ColumnWidth"), QVariant(int(shown.widthPoints())));
+        EXPECT_EQ(layout.value(stem + "ColumnIsHidden"), QVariant(shown.isHidden()));
+    }
+    EXPECT_EQ(layout.value("titleColumnIndex"), QVariant(0));
+    EXPECT_EQ(layout.value("titleColumnWidth"), QVariant(133));
+    EXPECT_EQ(layout.value("titleColumnName"), QVariant("Task"));
+    EXPECT_EQ(layout.value("minutesColumnIndex"), QVariant(5));
+    EXPECT_EQ(layout.value("notesColumnIsHidden"), QVariant(true));
+}
+
+TEST_F(ColumnLayoutsPopoverTest, AnApplyRebuildsTheReportOnce) {
+    table->moveColumn(table->positionOf("title"), 9);
+    table->columnAt(3).setWidthPoints(201);
+    settings.setObject("isUrlColumn", true);
+    settings.setObject("titleColumnTitle", "Task");
+    settings.setObject("isExportTXTViewOn", true);
+    fetch();
+    trigger();
+    select(0);
+    int rebuilds = 0;
+    QObject::connect(&report, &ExportTxtViewController::eventsAttributedStringChanged,
+                     [&] { ++rebuilds; });
+    press("setColumnLayout");
+    fetch();
+    EXPECT_EQ(table->positionOf("title"), 2);
+    EXPECT_EQ(settings.object("titleColumnTitle"), QVariant("Title"));
+    EXPECT_EQ(rebuilds, 1);
 }
 
 TEST_F(ColumnLayoutsPopoverTest, TheDefaultLayoutIsNotDeletedAndTheOthersOnlyOnceTheUserAgrees) {

@@ -174,8 +174,9 @@ TEST_F(PreferencesPagesTest, TheRateIsReadAsTheUserWritesNumbers) {
     EXPECT_EQ(rate.text(), QStringLiteral("90"));
     rate.selectAll();
     QTest::keyClicks(&rate, "82,50");
-    EXPECT_EQ(decimalFromValue(settings.object("hourlyRate")), Decimal::fromInteger(90))
-        << "while typing";
+    EXPECT_EQ(decimalFromValue(settings.object("hourlyRate")).toString(), QStringLiteral("82.5"))
+        << "at once";
+    EXPECT_EQ(rate.text(), QStringLiteral("82,50")) << "as it is typed";
     QTest::keyClick(&rate, Qt::Key_Return);
     EXPECT_EQ(decimalFromValue(settings.object("hourlyRate")).toString(), QStringLiteral("82.5"));
     EXPECT_EQ(rate.text(), QStringLiteral("82,5"));
@@ -257,14 +258,52 @@ TEST_F(PreferencesPagesTest, ValuesOfWrongTypesAreShownAsTheyAreRead) {
     settings.setObject("isTXTMax", "YES");
     settings.setObject("allDayHours", "7");
     settings.setObject("fileEncodingPopUpIndex", 9);
+    settings.setObject("timeTypeSelection", 9);
+    settings.writes.clear();
     settings.setObject("txtHeader", 12);
     settings.setObject("hourlyRate", "none");
     EXPECT_TRUE(control<QCheckBox>("isTXTMax").isChecked());
     EXPECT_EQ(control<QSpinBox>("allDayHours").value(), 7);
-    EXPECT_EQ(control<QComboBox>("fileEncodingPopUpIndex").currentIndex(), -1);
+    EXPECT_EQ(control<QComboBox>("fileEncodingPopUpIndex").currentText(), "UTF-8");
+    EXPECT_EQ(control<QComboBox>("timeTypeSelection").currentIndex(), -1) << "no time is shown";
     EXPECT_EQ(control<QPlainTextEdit>("txtHeader").toPlainText(), QStringLiteral("12"));
     EXPECT_EQ(control<QLineEdit>("hourlyRate").text(), QStringLiteral("0"));
-    EXPECT_EQ(settings.object("fileEncodingPopUpIndex"), QVariant(9)) << "shown, not mended";
+    EXPECT_EQ(settings.writes, (QStringList{"txtHeader", "hourlyRate"})) << "shown, not mended";
+}
+
+TEST_F(PreferencesPagesTest, HoursOutsideTheDayAreShownAsTheyCountAndStayUntilTheUserActs) {
+    auto& hours = control<QSpinBox>("allDayHours");
+    for (const auto& [stored, shown] :
+         {std::pair{QVariant(30), 24}, std::pair{QVariant(-3), -3},
+          std::pair{QVariant(qint64(1) << 40), 24},
+          std::pair{QVariant(qint64(8) - (qint64(1) << 40)), std::numeric_limits<int>::min()},
+          std::pair{QVariant(6), 6}}) {
+        settings.writes.clear();
+        settings.setObject("allDayHours", stored);
+        EXPECT_EQ(hours.value(), shown) << stored.toLongLong();
+        EXPECT_EQ(settings.object("allDayHours"), stored);
+        EXPECT_EQ(settings.writes.size(), 1);
+    }
+    settings.setObject("allDayHours", -1);
+    hours.stepUp();
+    EXPECT_EQ(settings.object("allDayHours"), QVariant(0));
+    hours.stepDown();
+    EXPECT_EQ(settings.object("allDayHours"), QVariant(0)) << "nobody can choose fewer than none";
+    settings.setObject("allDayHours", 30);
+    hours.stepDown();
+    EXPECT_EQ(settings.object("allDayHours"), QVariant(23));
+}
+
+TEST_F(PreferencesPagesTest, AnUnknownEncodingIsTheOneOfTheFilesAndStaysUntilTheUserActs) {
+    auto& encoding = control<QComboBox>("fileEncodingPopUpIndex");
+    for (const QVariant& unknown : {QVariant(2), QVariant(-1), QVariant("x"), QVariant()}) {
+        settings.setObject("fileEncodingPopUpIndex", 1);
+        settings.setObject("fileEncodingPopUpIndex", unknown);
+        EXPECT_EQ(encoding.currentText(), "UTF-8");
+        EXPECT_EQ(settings.object("fileEncodingPopUpIndex"), unknown);
+    }
+    QTest::keyClick(&encoding, Qt::Key_Down);
+    EXPECT_EQ(settings.object("fileEncodingPopUpIndex"), QVariant(1));
 }
 
 TEST_F(PreferencesPagesTest, ThePanesFitASmallScreen) {

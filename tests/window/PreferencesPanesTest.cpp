@@ -101,6 +101,18 @@ TEST_F(PreferencesPanesTest, ThereAreFivePanesOfWhichOneIsShown) {
     }
 }
 
+TEST_F(PreferencesPanesTest, AnIndexOfNoPaneLeavesPaneAndTitle) {
+    panes.controller().awakeFromNib();
+    panes.controller().showWindowWithTextPreferencesView();
+    for (const quint64 index : {quint64(5), quint64(7), ~quint64(0)}) {
+        panes.controller().changePreferencesViewSubview(index);
+        EXPECT_EQ(shownTab(), "Text");
+        EXPECT_TRUE(tabs().currentWidget()->isVisible());
+        EXPECT_EQ(dialog()->windowTitle(), "Text");
+        EXPECT_EQ(settings.object(paneKey), QVariant(2));
+    }
+}
+
 TEST_F(PreferencesPanesTest, TheShownPaneIsResizedWithTheWindow) {
     panes.showWindow();
     QApplication::processEvents();
