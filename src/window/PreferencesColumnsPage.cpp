@@ -64,7 +64,7 @@ PreferencesColumnsPage::PreferencesColumnsPage(SettingsStore& settings,
     reset->setAutoDefault(false);
     connect(reset, &QPushButton::clicked, this, std::move(resetAllColumnTitles));
     layout->addWidget(reset, 0, Qt::AlignRight);
-    layout->addStretch();
+    layout->addStretch(1);
     timeColumns_.awakeFromNib();
 }
 

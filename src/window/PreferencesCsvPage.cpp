@@ -42,7 +42,7 @@ PreferencesCsvPage::PreferencesCsvPage(SettingsStore& settings, QWidget* parent)
     quotes->setToolTip(localized("Quoted fields may hold separators and quotation marks"));
     layout->addWidget(quotes);
     layout->addWidget(makeGroup(localized("Line Breaks"), lineSwitches, 1));
-    layout->addStretch();
+    layout->addStretch(1);
 }
 
 } // namespace quillet

@@ -1,5 +1,7 @@
 #include "window/PreferencesPanes.h"
 
+#include <QScreen>
+
 #include <utility>
 
 namespace quillet {
@@ -16,6 +18,10 @@ void PreferencesPanes::showWindow() {
         dialog_ = std::make_unique<PreferencesDialog>(with_, &parent_);
         dialog_->setWindowTitle(title_);
         dialog_->showPane(pane_);
+        // All that a pane holds, where the screen has room: dialogs take two thirds by themselves.
+        constexpr double mostOfTheScreen = 0.9;
+        const QSize available = parent_.screen()->availableSize() * mostOfTheScreen;
+        dialog_->resize(dialog_->sizeHint().boundedTo(available));
         QObject::connect(dialog_.get(), &PreferencesDialog::paneChosen, dialog_.get(),
                          [this](PreferencesPane pane) { controller_.toolbarItemClicked(pane); });
     }

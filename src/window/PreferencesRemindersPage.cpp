@@ -48,7 +48,7 @@ PreferencesRemindersPage::PreferencesRemindersPage(SettingsStore& settings, QWid
     groups->addWidget(makeGroup(localized("CSV/TSV"), csvSwitches, 1), 1);
     groups->addWidget(makeGroup(localized("Text"), textSwitches, 1), 1);
     layout->addLayout(groups);
-    layout->addStretch();
+    layout->addStretch(1);
 }
 
 } // namespace quillet

@@ -59,7 +59,7 @@ PreferencesTextPage::PreferencesTextPage(SettingsStore& settings,
     presets->setAutoDefault(false);
     connect(presets, &QPushButton::clicked, this, std::move(openTXTSettingsSheet));
     layout->addWidget(presets, 0, Qt::AlignRight);
-    layout->addStretch();
+    layout->addStretch(1);
 }
 
 QWidget* PreferencesTextPage::makeFreeText(const QString& label, const QString& toolTip,
