@@ -3,6 +3,8 @@
 #include "platform/Localized.h"
 #include "window/NameListModel.h"
 
+#include <algorithm>
+
 namespace quillet {
 
 ColumnLayoutsMenu::ColumnLayoutsMenu(ColumnLayoutsArrayController& layouts, QWidget* parent)

@@ -4,7 +4,6 @@
 #include "window/WindowFixture.h"
 
 #include <QLineEdit>
-#include <QListView>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -128,7 +127,10 @@ TEST_F(ColumnLayoutsMenuTest, ANewLayoutIsNamedInThePopover) {
         auto* popover = window->findChild<Popover*>();
         ASSERT_NE(popover, nullptr);
         EXPECT_TRUE(popover->isVisible()) << name;
-        auto* field = popover->findChild<QListView*>()->findChild<QLineEdit*>();
+        QLineEdit* field = nullptr;
+        for (auto* each : popover->findChildren<QLineEdit*>()) {
+            field = each->isVisible() ? each : field;
+        }
         ASSERT_NE(field, nullptr) << name;
         QTest::keyClicks(field, name);
         QTest::keyClick(field, Qt::Key_Return);

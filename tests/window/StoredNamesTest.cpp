@@ -6,7 +6,6 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLineEdit>
-#include <QListView>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
@@ -27,24 +26,15 @@ public:
         window.show();
     }
 
-    /// Types a text over the name of the entry that the button has just made.
-    void makeNamed(const char* button, const QString& name) {
+    void makeLayout(const QString& name) {
         popover.showColumnLayoutsPopover(window);
+        makeNamed("saveColumnLayout", name);
+        popover.showColumnLayoutsPopover(window);
+    }
+    void makePreset(const QString& name) {
         sheet.controller().openTXTSettingsSheet();
-        QTest::mouseClick(window.findChild<QPushButton*>(button), Qt::LeftButton);
-        QApplication::processEvents();
-        QLineEdit* field = nullptr;
-        for (const auto* list : window.findChildren<QListView*>()) {
-            field = field != nullptr ? field : list->findChild<QLineEdit*>();
-        }
-        ASSERT_NE(field, nullptr);
-        // As pasted: no key puts in a line break.
-        field->clear();
-        field->insert(name);
-        QTest::keyClick(field, Qt::Key_Return);
-        QApplication::processEvents();
+        makeNamed("saveTXTSettings", name);
         sheet.controller().closeTXTSettingsSheet();
-        popover.showColumnLayoutsPopover(window);
     }
     static QStringList names(const NamedRecordsController& records) {
         QStringList listed;
@@ -63,6 +53,23 @@ public:
     QWidget window;
     ColumnLayoutsPopoverController popover{settings, layouts};
     TXTSettingsSheet sheet{presets, window};
+
+private:
+    /// Types a text over the name of the entry that the button makes.
+    void makeNamed(const char* button, const QString& name) {
+        QTest::mouseClick(window.findChild<QPushButton*>(button), Qt::LeftButton);
+        QApplication::processEvents();
+        QLineEdit* field = nullptr;
+        for (auto* each : window.findChildren<QLineEdit*>()) {
+            field = each->isVisible() ? each : field;
+        }
+        ASSERT_NE(field, nullptr);
+        // As pasted: no key puts in a line break.
+        field->clear();
+        field->insert(name);
+        QTest::keyClick(field, Qt::Key_Return);
+        QApplication::processEvents();
+    }
 };
 
 } // namespace
@@ -77,8 +84,8 @@ TEST(StoredNamesTest, WhatIsTypedIsThereAfterARestart) {
     {
         Run first(path);
         for (const QString& name : typed) {
-            first.makeNamed("saveColumnLayout", name);
-            first.makeNamed("saveTXTSettings", name);
+            first.makeLayout(name);
+            first.makePreset(name);
         }
         first.settings.flush();
     }
