@@ -17,9 +17,9 @@ namespace quillet {
 namespace {
 
 /// A run of the program, as far as it names layouts and presets.
-class Run {
+class NamingRun {
 public:
-    explicit Run(const QString& path)
+    explicit NamingRun(const QString& path)
         : settings(path) {
         layouts.awakeFromNib();
         presets.awakeFromNib();
@@ -82,19 +82,19 @@ TEST(StoredNamesTest, WhatIsTypedIsThereAfterARestart) {
     const QTemporaryDir folder;
     const QString path = folder.filePath("quillet.json");
     {
-        Run first(path);
+        NamingRun first(path);
         for (const QString& name : typed) {
             first.makeLayout(name);
             first.makePreset(name);
         }
         first.settings.flush();
     }
-    const Run second(path);
+    const NamingRun second(path);
     const QString oneLine = QStringLiteral("Two lines and more");
-    EXPECT_EQ(Run::names(second.layouts),
+    EXPECT_EQ(NamingRun::names(second.layouts),
               (QStringList{"Default", quoted, veryLong, oneLine, "New Layout 5", "New Layout 6"}));
-    EXPECT_EQ(Run::names(second.presets), (QStringList{"Default", quoted, veryLong, oneLine,
-                                                       "New Settings 5", "New Settings 6"}));
+    EXPECT_EQ(NamingRun::names(second.presets), (QStringList{"Default", quoted, veryLong, oneLine,
+                                                             "New Settings 5", "New Settings 6"}));
     EXPECT_EQ(second.layouts.arranged(1).members.size(), 65);
 }
 
