@@ -37,9 +37,7 @@ protected:
         int count = 0;
         for (QWidget* each : place.findChildren<QWidget*>()) {
             // Fields inside of spin boxes and the like speak through those.
-            const bool isPart =
-                each->objectName().startsWith(u"qt_") ||
-                (each->parentWidget() != nullptr && each->parentWidget()->focusProxy() == each);
+            const bool isPart = each->objectName().startsWith(u"qt_");
             if (each->focusPolicy() == Qt::NoFocus || !each->isVisible() || isPart) {
                 continue;
             }
