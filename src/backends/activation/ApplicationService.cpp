@@ -1,5 +1,7 @@
 #include "backends/activation/ApplicationService.h"
 
+#include "backends/activation/DesktopRequest.h"
+
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusReply>
@@ -12,36 +14,16 @@ namespace quillet {
 
 namespace {
 
-const QString objectPath = QStringLiteral("/org/quillet/Quillet");
-const QString interfaceName = QStringLiteral("org.freedesktop.Application");
 const QString endingError = QStringLiteral("org.quillet.Quillet.Error.Ending");
-const QString activationTokenKey = QStringLiteral("activation-token");
-const QString startupIdentifierKey = QStringLiteral("desktop-startup-id");
 
 constexpr std::chrono::milliseconds pause{20};
 
 QString tokenIn(const QVariantMap& platformData) {
-    const QString token = platformData.value(activationTokenKey).toString();
-    return token.isEmpty() ? platformData.value(startupIdentifierKey).toString() : token;
-}
-
-QVariantMap platformDataWith(const QString& token) {
-    if (token.isEmpty()) {
-        return {};
-    }
-    return {{activationTokenKey, token}, {startupIdentifierKey, token}};
+    const QString token = platformData.value(activationTokenKey()).toString();
+    return token.isEmpty() ? platformData.value(startupIdentifierKey()).toString() : token;
 }
 
 } // namespace
-
-QString applicationIdentifier() {
-    return QStringLiteral("org.quillet.Quillet");
-}
-
-QString startToken(const EnvironmentReader& environment) {
-    const QString token = environment("XDG_ACTIVATION_TOKEN");
-    return token.isEmpty() ? environment("DESKTOP_STARTUP_ID") : token;
-}
 
 ApplicationService::ApplicationService(QDBusConnection bus, QObject* parent)
     : QObject(parent)
@@ -73,7 +55,7 @@ ApplicationService::Standing ApplicationService::claim(const Token& token,
 
 bool ApplicationService::takeName() {
     // Before the name, for with it the requests may come.
-    bus_.registerObject(objectPath, this, QDBusConnection::ExportScriptableSlots);
+    bus_.registerObject(applicationObjectPath(), this, QDBusConnection::ExportScriptableSlots);
     const QDBusReply<QDBusConnectionInterface::RegisterServiceReply> reply =
         bus_.interface()->registerService(applicationIdentifier());
     // A bus that allows no names knows no other program of this name either.
@@ -82,14 +64,9 @@ bool ApplicationService::takeName() {
 
 bool ApplicationService::comesToFront(const Token& token,
                                       std::chrono::milliseconds patience) const {
-    QDBusMessage call = QDBusMessage::createMethodCall(applicationIdentifier(), objectPath,
-                                                       interfaceName, QStringLiteral("Activate"));
-    call << platformDataWith(token);
-    // An owner that has gone meanwhile is not to be started by the bus: this start takes its place.
-    call.setAutoStartService(false);
     const auto timeout = std::max(patience, pause);
     // Errors come from programs that are ending, at any stage of it.
-    return bus_.call(call, QDBus::Block, static_cast<int>(timeout.count())).type() ==
+    return bus_.call(callFor({}, token), QDBus::Block, static_cast<int>(timeout.count())).type() ==
            QDBusMessage::ReplyMessage;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Environment.h"
+#include "backends/activation/ApplicationNames.h"
 
 #include <QDBusConnection>
 #include <QDBusContext>
@@ -13,14 +13,6 @@
 #include <vector>
 
 namespace quillet {
-
-/// The program's name on the session bus, which is that of its desktop entry too.
-[[nodiscard]] QString applicationIdentifier();
-
-/// What the environment of a start says so that the window may come to the front: the activation
-/// token, else the start-up identifier; empty when there is neither. To be asked for before the
-/// toolkit starts, which takes both away.
-[[nodiscard]] QString startToken(const EnvironmentReader& environment);
 
 /// The one running program of a session, and what the desktop asks of it
 /// (org.freedesktop.Application). A second start hands itself over to the first and ends. Without a

@@ -97,9 +97,12 @@ void bringToFront(QWindow& window, const QString& token) {
         // Where the toolkit's Wayland part looks for it.
         qputenv("XDG_ACTIVATION_TOKEN", token.toUtf8());
     }
-    window.requestActivate();
+    // What is modal takes the keys; a window behind it would swallow them.
+    QWindow* const modal = QGuiApplication::modalWindow();
+    QWindow& active = modal != nullptr ? *modal : window;
+    active.requestActivate();
     if (auto* x11 = qGuiApp->nativeInterface<X11>(); x11 != nullptr && !token.isEmpty()) {
-        bringToFrontOnX11(*x11, window, token);
+        bringToFrontOnX11(*x11, active, token);
     }
 }
 
