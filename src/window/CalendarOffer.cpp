@@ -1,6 +1,7 @@
 #include "window/CalendarOffer.h"
 
 #include "platform/Localized.h"
+#include "window/LocalFile.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -66,21 +67,33 @@ void CalendarOffer::showNext() {
 }
 
 void CalendarOffer::showOne() {
-    QStringList paths;
+    QStringList here;
+    bool isElsewhere = false;
     const QStringList addresses = waiting_.takeFirst();
     for (const QString& address : addresses) {
-        const QUrl url(address, QUrl::StrictMode);
-        if (!url.isLocalFile() || url.toLocalFile().isEmpty()) {
-            showRefusal(localized("Only files on this computer can be added as calendars."));
-            return;
+        const bool isLocal = !localPath(QUrl(address, QUrl::StrictMode)).isEmpty();
+        isElsewhere = isElsewhere || !isLocal;
+        if (isLocal) {
+            here << address;
         }
-        paths << url.toLocalFile();
     }
-    paths.removeDuplicates();
-    showQuestion(paths);
+    if (!isElsewhere) {
+        showQuestion(here);
+        return;
+    }
+    // What can be added is offered all the same, once the refusal has been read.
+    if (!here.isEmpty()) {
+        waiting_.prepend(here);
+    }
+    showRefusal(localized("Only files on this computer can be added as calendars."));
 }
 
-void CalendarOffer::showQuestion(const QStringList& paths) {
+void CalendarOffer::showQuestion(const QStringList& addresses) {
+    QStringList paths;
+    for (const QString& address : addresses) {
+        paths << localPath(QUrl(address, QUrl::StrictMode));
+    }
+    paths.removeDuplicates();
     auto* box = new QMessageBox(&window_);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setIcon(QMessageBox::Question);

@@ -25,13 +25,13 @@ public:
     Q_DISABLE_COPY_MOVE(CalendarOffer)
 
     /// One question for all the addresses, which are as the desktop wrote them. What is not on this
-    /// computer is refused with a message.
+    /// computer is refused with a message, before the question for the others.
     void offer(const QStringList& addresses);
 
 private:
     void showNext();
     void showOne();
-    void showQuestion(const QStringList& paths);
+    void showQuestion(const QStringList& addresses);
     void addAll(const QStringList& paths);
     void showRefusal(const QString& reasons);
 

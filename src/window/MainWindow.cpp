@@ -7,6 +7,7 @@
 #include "window/EventTableView.h"
 #include "window/FocusOrder.h"
 #include "window/InspectorPane.h"
+#include "window/LocalFile.h"
 #include "window/RatePane.h"
 #include "window/ResultsPane.h"
 #include "window/SearchBox.h"
@@ -287,8 +288,8 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 
 void MainWindow::dropEvent(QDropEvent* event) {
     for (const QUrl& url : event->mimeData()->urls()) {
-        if (url.isLocalFile()) {
-            addCalendar(url.toLocalFile());
+        if (const QString path = localPath(url); !path.isEmpty()) {
+            addCalendar(path);
         }
     }
 }

@@ -1,8 +1,10 @@
 #include "window/CalendarOffer.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSysInfo>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -93,9 +95,12 @@ TEST_F(CalendarOfferTest, AThousandFilesFillNoScreen) {
 }
 
 TEST_F(CalendarOfferTest, NamesAreNeverMarkup) {
-    offer->offer({"file:///<b>bold<%2Fb>.ics"});
+    offer->offer({"file:///<b>bold<%2Fb>.ics", "file:///<i>.ics"});
     waitForBox();
-    EXPECT_EQ(shownBox()->textFormat(), Qt::PlainText);
+    for (const auto* label : shownBox()->findChildren<QLabel*>()) {
+        EXPECT_TRUE(label->text().isEmpty() || label->textFormat() == Qt::PlainText)
+            << label->text().toStdString();
+    }
     press("Cancel");
 }
 
@@ -111,15 +116,36 @@ TEST_F(CalendarOfferTest, WhatFailsIsSaidInTheReasonsOwnWords) {
 }
 
 TEST_F(CalendarOfferTest, AddressesElsewhereAndNonsenseAreRefused) {
-    for (const char* address :
-         {"https://quillet.example/a.ics", "webcal://a", "", "a.ics", "file:", "file://%zz", "%"}) {
-        offer->offer({"file:///good.ics", address});
+    for (const char* address : {"https://quillet.example/a.ics", "webcal://a", "", "a.ics", "file:",
+                                "file://%zz", "%", "file:///%zz", "file://elsewhere.example/a.ics",
+                                "file:///a.ics%00.txt", "file:///a b\n.ics"}) {
+        offer->offer({address});
         EXPECT_EQ(waitForBox(), QStringLiteral("The calendar could not be added")) << address;
         press("OK");
+        EXPECT_EQ(shownBox(), nullptr) << address;
     }
     EXPECT_EQ(added, QStringList());
     offer->offer({});
     EXPECT_EQ(shownBox(), nullptr);
+}
+
+TEST_F(CalendarOfferTest, WhatIsHereIsOfferedAfterTheRefusalOfTheOthers) {
+    offer->offer({"https://quillet.example/a.ics", "file:///good.ics", "file:"});
+    EXPECT_EQ(waitForBox(), QStringLiteral("The calendar could not be added"));
+    press("OK");
+    EXPECT_EQ(waitForBox(), QStringLiteral("Add “good.ics” as a calendar?"));
+    press("Add");
+    EXPECT_EQ(added, QStringList{"/good.ics"});
+}
+
+TEST_F(CalendarOfferTest, AnAddressMayNameThisComputer) {
+    for (const QString& host : {QStringLiteral("localhost"), QSysInfo::machineHostName()}) {
+        added.clear();
+        offer->offer({"file://" + host + "/tmp/%C3%BCber%20100%25.ics"});
+        EXPECT_EQ(waitForBox(), QStringLiteral("Add “über 100%.ics” as a calendar?"));
+        press("Add");
+        EXPECT_EQ(added, QStringList{QStringLiteral("/tmp/über 100%.ics")});
+    }
 }
 
 TEST_F(CalendarOfferTest, TheNextQuestionWaitsForTheDialogThatIsOpen) {

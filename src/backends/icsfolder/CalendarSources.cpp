@@ -160,7 +160,9 @@ std::expected<void, QString> linkCalendar(const QString& rootPath, const QString
             localized("“%1” holds the calendars themselves.").arg(file.fileName()));
     }
     for (const QFileInfo& entry : root.entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot)) {
-        if (entry.canonicalFilePath() == target) {
+        const QString existing = entry.canonicalFilePath();
+        // A file of a folder counts as part of it, and would count twice.
+        if (existing == target || (file.isFile() && existing == QFileInfo(target).path())) {
             return std::unexpected(
                 localized("“%1” is among the calendars already.").arg(file.fileName()));
         }

@@ -50,6 +50,16 @@ TEST_F(AddCalendarTest, refusesWhatIsThereAlready) {
     EXPECT_EQ(errorFor(path), QStringLiteral("“trips.ics” is among the calendars already."));
 }
 
+TEST_F(AddCalendarTest, refusesAFileOfACalendarThatIsThere) {
+    const QString inside =
+        make(QStringLiteral("x/work/one.ics"), eventFile("DTSTART:20240301T110000Z"));
+    ASSERT_TRUE(open().addCalendar(QFileInfo(inside).path()));
+    EXPECT_EQ(errorFor(inside), QStringLiteral("“one.ics” is among the calendars already."));
+    const QString beside =
+        make(QStringLiteral("x/work.ics"), eventFile("DTSTART:20240301T110000Z"));
+    EXPECT_TRUE(store->addCalendar(beside));
+}
+
 TEST_F(AddCalendarTest, refusesWhatIsNoCalendarOrNotThere) {
     EXPECT_EQ(errorFor(make(QStringLiteral("x/notes.txt"), "text")),
               QStringLiteral("“notes.txt” is neither a folder nor an .ics file."));
