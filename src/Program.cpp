@@ -2,6 +2,7 @@
 
 #include "CalendarService.h"
 #include "backends/activation/WindowFront.h"
+#include "backends/programs/SoftwareCentre.h"
 #include "eventtable/ColumnLayout.h"
 #include "platform/Localized.h"
 
@@ -24,6 +25,14 @@ EventItemViewController::TimeMenuItems items(TimeColumnActions& actions) {
 std::vector<std::reference_wrapper<EventStore>> present(EventStore& folder, EventStore* service) {
     return service == nullptr ? std::vector{std::ref(folder)}
                               : std::vector{std::ref(folder), std::ref(*service)};
+}
+
+bool showInSoftwareCentre(TaskLauncher& launcher) {
+    const Applications applications(DesktopEntries(desktopFolders(processEnvironment())), launcher,
+                                    applicationIdentifier() + QStringLiteral(".desktop"));
+    SessionBusPortal portal;
+    const SoftwareCentre centre(applications, isInSandbox() ? &portal : nullptr);
+    return centre.show(applicationIdentifier()).has_value();
 }
 
 std::vector<ToolbarItem*> toolbarItems(ExportItems& items) {
@@ -104,7 +113,7 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
                 .address = releaseListAddress(),
                 .installedVersion = QCoreApplication::applicationVersion(),
                 .languages = paths.languages,
-                .openSoftwareCentre = openSoftwareCentre,
+                .openSoftwareCentre = [this] { return showInSoftwareCentre(taskLauncher_); },
                 .security = &QSslConfiguration::defaultConfiguration,
                 .limits = ReleaseListUpdater::usualLimits})
     , appDelegate_({settings_, workspace_, taskLauncher_, updater_, toolbarItems(exportItems_),

@@ -81,6 +81,8 @@ void HttpsDownload::begin(const QUrl& address) {
         return;
     }
     reply_ = manager_.get(requestFor(address, security_));
+    // More is not taken from the connection before this much has been read.
+    reply_->setReadBufferSize(limits_.bytes + 1);
     connect(reply_, &QNetworkReply::readyRead, this, &HttpsDownload::receive);
     connect(reply_, &QNetworkReply::finished, this, [this] {
         if (reply_->error() != QNetworkReply::NoError) {

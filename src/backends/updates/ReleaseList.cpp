@@ -51,9 +51,19 @@ ReleaseNews readRelease(QXmlStreamReader& xml, const QStringList& languages) {
     return release;
 }
 
-std::vector<ReleaseNews> readReleases(QXmlStreamReader& xml, const QStringList& languages) {
+struct ListContent {
     std::vector<ReleaseNews> releases;
+    /// Such as are only for trying out count too.
+    bool namesAnyRelease = false;
+};
+
+ListContent readReleases(QXmlStreamReader& xml, const QStringList& languages) {
+    ListContent content;
+    auto& [releases, namesAnyRelease] = content;
     while (xml.readNextStartElement()) {
+        namesAnyRelease =
+            namesAnyRelease ||
+            (xml.name() == u"release" && !attribute(xml, QLatin1StringView("version")).isEmpty());
         if (xml.name() != u"release" || !isForEverybody(xml) || releases.size() == mostReleases) {
             xml.skipCurrentElement();
             continue;
@@ -63,7 +73,7 @@ std::vector<ReleaseNews> readReleases(QXmlStreamReader& xml, const QStringList& 
             releases.push_back(std::move(release));
         }
     }
-    return releases;
+    return content;
 }
 
 /// To the start of the next element below the current one. Lists of releases declare no entities,
@@ -109,15 +119,15 @@ std::optional<std::vector<ReleaseNews>> readReleaseList(const QByteArray& xml,
     if (!enterReleases(reader)) {
         return std::nullopt;
     }
-    std::vector<ReleaseNews> releases = readReleases(reader, languages);
+    ListContent content = readReleases(reader, languages);
     // What follows counts too: half a list may lack just the release that matters.
     while (!reader.atEnd()) {
         reader.readNext();
     }
-    if (reader.hasError() || releases.empty()) {
+    if (reader.hasError() || !content.namesAnyRelease) {
         return std::nullopt;
     }
-    return releases;
+    return std::move(content.releases);
 }
 
 std::vector<ReleaseNews> newerReleases(std::vector<ReleaseNews> releases,

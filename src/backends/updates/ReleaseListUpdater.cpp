@@ -3,14 +3,11 @@
 #include "backends/updates/ReleaseList.h"
 #include "platform/Localized.h"
 
-#include <QDesktopServices>
-
 namespace quillet {
 
 namespace {
 
 constexpr const char* releaseList = "https://quillet.example/releases.xml";
-constexpr const char* pageInSoftwareCentre = "appstream:org.quillet.Quillet";
 
 QString sentenceFor(HttpsDownload::Failure failure) {
     using Failure = HttpsDownload::Failure;
@@ -35,10 +32,6 @@ QString sentenceFor(HttpsDownload::Failure failure) {
 
 QUrl releaseListAddress() {
     return QUrl(QString::fromLatin1(releaseList));
-}
-
-bool openSoftwareCentre() {
-    return QDesktopServices::openUrl(QUrl(QString::fromLatin1(pageInSoftwareCentre)));
 }
 
 ReleaseListUpdater::ReleaseListUpdater(Collaborators collaborators)

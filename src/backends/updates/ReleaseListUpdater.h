@@ -11,9 +11,6 @@ namespace quillet {
 /// Where the program's releases are listed.
 [[nodiscard]] QUrl releaseListAddress();
 
-/// Opens the program's page in the desktop's software centre; answers whether there is one.
-[[nodiscard]] bool openSoftwareCentre();
-
 /// Looks into the program's list of releases when the user asks for it, and shows what is new. It
 /// installs nothing: that is the software centre's part.
 class ReleaseListUpdater final : public SoftwareUpdater {

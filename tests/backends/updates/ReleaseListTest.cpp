@@ -69,6 +69,13 @@ TEST(ReleaseListTest, LeavesOutWhatIsNotForEverybody) {
     EXPECT_EQ(versions(releases), QStringList{"1"});
 }
 
+TEST(ReleaseListTest, AListOfNothingButTrialsIsAListAllTheSame) {
+    const auto releases =
+        readReleaseList("<releases><release type='development' version='2'/></releases>", {});
+    ASSERT_TRUE(releases.has_value());
+    EXPECT_TRUE(releases->empty());
+}
+
 TEST(ReleaseListTest, WritesParagraphsAndListsAsPlainText) {
     EXPECT_EQ(notesOf("<p>New:</p><ul><li>One &lt;b&gt;</li><li> two\n words</li></ul><p>Also:</p>"
                       "<ol><li>first</li><li>second</li></ol><p/>"),
@@ -92,8 +99,7 @@ TEST(ReleaseListTest, WhatIsNoListIsNothing) {
          {"", " ", "{}", "<html><body>Sign in to the network</body></html>", "<releases>",
           "<releases/>", "<releases></releases><releases/>", "<component/>",
           "<component><releases/></component>",
-          "<releases><release type='development' version='1'/>"
-          "</releases>",
+          "<releases><release/><news version='1'/></releases>",
           "<releases><release version='1'/></release>", "<releases><release version='1'/>",
           "<releases><release version='1'/></releases>tail",
           "<releases><release version='1'><description><p>a</releases>", "\xff\xfe<", "\0\0"}) {

@@ -195,6 +195,11 @@ TEST_F(ReleaseListUpdaterTest, SaysWhenTheListIsNotThere) {
     }
 }
 
+TEST_F(ReleaseListUpdaterTest, VersionsForTryingOutAreNoNews) {
+    server.answer("/trials", "<releases><release type='development' version='9'/></releases>");
+    EXPECT_EQ(shownFor("/trials"), QStringList{"up to date 0.1"});
+}
+
 TEST_F(ReleaseListUpdaterTest, SaysWhenWhatCameIsNoList) {
     for (const char* text : {"", "<html><body>Sign in to this network</body></html>", "\0\0",
                              "<releases><release version='9'>"}) {

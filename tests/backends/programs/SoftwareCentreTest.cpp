@@ -1,0 +1,73 @@
+#include "backends/programs/SoftwareCentre.h"
+
+#include "ScratchDesktop.h"
+
+namespace quillet {
+
+namespace {
+
+const QString type = QStringLiteral("x-scheme-handler/appstream");
+
+class FakePortal final : public DesktopPortal {
+public:
+    std::expected<void, QString> composeEmail(const QString&, const QString&) override {
+        return {};
+    }
+    std::expected<void, QString> openAddress(const QString& address) override {
+        opened.append(address);
+        return answer;
+    }
+    std::expected<void, QString> openFile(const QString&) override { return {}; }
+
+    QStringList opened;
+    std::expected<void, QString> answer;
+};
+
+class SoftwareCentreTest : public testing::Test {
+protected:
+    [[nodiscard]] bool show(DesktopPortal* portal = nullptr) {
+        const Applications applications = desktop.applications(launcher);
+        return SoftwareCentre(applications, portal).show("org.quillet.Quillet").has_value();
+    }
+
+    using Launches = QList<QPair<QString, QStringList>>;
+    [[nodiscard]] Launches started(const QStringList& arguments) const {
+        return {{desktop.path("bin/centre"), arguments}};
+    }
+
+    test::ScratchDesktop desktop;
+    test::FakeTaskLauncher launcher;
+};
+
+} // namespace
+
+TEST_F(SoftwareCentreTest, ShowsTheProgramsPage) {
+    desktop.install("org.example.Centre.desktop", "centre --open %U", type);
+    EXPECT_TRUE(show());
+    EXPECT_EQ(launcher.launched, started({"--open", "appstream:org.quillet.Quillet"}));
+}
+
+TEST_F(SoftwareCentreTest, SaysWhenThereIsNone) {
+    desktop.install("org.example.Mail.desktop", "mail %u", "x-scheme-handler/mailto");
+    EXPECT_FALSE(show());
+    EXPECT_TRUE(launcher.launched.isEmpty());
+}
+
+TEST_F(SoftwareCentreTest, TriesTheNextOneWhenOneCannotBeStarted) {
+    desktop.install("org.example.A.desktop", "\"unfinished", type);
+    desktop.install("org.example.B.desktop", "centre %u", type);
+    EXPECT_TRUE(show());
+    EXPECT_EQ(launcher.launched, started({"appstream:org.quillet.Quillet"}));
+}
+
+TEST_F(SoftwareCentreTest, InASandboxThePortalIsAsked) {
+    desktop.install("org.example.Centre.desktop", "centre %U", type);
+    FakePortal portal;
+    EXPECT_TRUE(show(&portal));
+    EXPECT_EQ(portal.opened, QStringList{"appstream:org.quillet.Quillet"});
+    portal.answer = std::unexpected(QStringLiteral("no portal"));
+    EXPECT_FALSE(show(&portal));
+    EXPECT_TRUE(launcher.launched.isEmpty());
+}
+
+} // namespace quillet
