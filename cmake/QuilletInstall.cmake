@@ -6,9 +6,9 @@ set(identifier org.quillet.Quillet)
 set(share ${CMAKE_SOURCE_DIR}/share)
 
 install(TARGETS quillet)
-install(TARGETS quillet-open DESTINATION ${CMAKE_INSTALL_LIBEXECDIR})
+install(TARGETS quillet-open DESTINATION ${CMAKE_INSTALL_LIBEXECDIR}/quillet)
 file(RELATIVE_PATH program_from_libexec
-  ${CMAKE_INSTALL_FULL_LIBEXECDIR} ${CMAKE_INSTALL_FULL_BINDIR}/quillet)
+  ${CMAKE_INSTALL_FULL_LIBEXECDIR}/quillet ${CMAKE_INSTALL_FULL_BINDIR}/quillet)
 target_compile_definitions(quillet-open PRIVATE QUILLET_PROGRAM="${program_from_libexec}")
 install(FILES ${share}/${identifier}.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(DIRECTORY ${share}/icons/hicolor DESTINATION ${CMAKE_INSTALL_DATADIR}/icons)

@@ -21,10 +21,10 @@ def install():
     """Beside each other as an installation has them; the helper by a copy, for it looks for the
     program from where it is itself."""
     libexec, program = HOME / "prefix" / "libexec", Path(sys.argv[1])
+    helper = libexec / "quillet" / "quillet-open"
     (HOME / "prefix" / "bin").mkdir(parents=True)
-    libexec.mkdir()
+    helper.parent.mkdir(parents=True)
     (HOME / "prefix" / "bin" / "quillet").symlink_to(program)
-    helper = libexec / "quillet-open"
     helper.write_bytes(program.with_name("quillet-open").read_bytes())
     helper.chmod(0o755)
     text = ENTRY.read_text().replace("@CMAKE_INSTALL_FULL_LIBEXECDIR@", str(libexec))

@@ -52,7 +52,7 @@ def check_what_cannot_be_added(program):
     refused(program, (CALENDARS / "Work" / "event-0-0.ics").as_uri(),
             "is among the calendars already.")
     for address in ("https://quillet.example/a.ics", "file://elsewhere.example/a.ics", "a.ics", "",
-                    "file:///%zz.ics", "file:///a.ics%00b", "\n"):
+                    "file:///a.ics%00b", "\n"):
         ask("Open", [address], {})
         program.wait_for_text("Only files on this computer")
         program.press("OK")

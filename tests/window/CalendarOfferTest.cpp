@@ -116,9 +116,9 @@ TEST_F(CalendarOfferTest, WhatFailsIsSaidInTheReasonsOwnWords) {
 }
 
 TEST_F(CalendarOfferTest, AddressesElsewhereAndNonsenseAreRefused) {
-    for (const char* address : {"https://quillet.example/a.ics", "webcal://a", "", "a.ics", "file:",
-                                "file://%zz", "%", "file:///%zz", "file://elsewhere.example/a.ics",
-                                "file:///a.ics%00.txt", "file:///a b\n.ics"}) {
+    for (const char* address :
+         {"https://quillet.example/a.ics", "webcal://a", "", "a.ics", "file:", "file://%zz", "%",
+          "file://elsewhere.example/a.ics", "file:///a.ics%00.txt", "file:///a b\n.ics"}) {
         offer->offer({address});
         EXPECT_EQ(waitForBox(), QStringLiteral("The calendar could not be added")) << address;
         press("OK");
