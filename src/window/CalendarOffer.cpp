@@ -2,6 +2,7 @@
 
 #include "platform/Localized.h"
 #include "window/LocalFile.h"
+#include "window/PlainMessage.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -97,13 +98,13 @@ void CalendarOffer::showQuestion(const QStringList& addresses) {
     auto* box = new QMessageBox(&window_);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setIcon(QMessageBox::Question);
-    box->setTextFormat(Qt::PlainText);
     box->setText(question(paths));
     const QString promise = localized(
         "Quillet reads calendars where they are and shows their events beside those of your other "
         "calendars. It changes nothing in them.");
     box->setInformativeText(paths.size() == 1 ? promise
                                               : names(paths) + QStringLiteral("\n\n") + promise);
+    showAsPlainText(*box);
     auto* add = box->addButton(localized("Add"), QMessageBox::AcceptRole);
     box->addButton(QMessageBox::Cancel);
     box->setDefaultButton(add);
@@ -133,8 +134,8 @@ void CalendarOffer::showRefusal(const QString& reasons) {
         new QMessageBox(QMessageBox::Warning, {}, localized("The calendar could not be added"),
                         QMessageBox::Ok, &window_);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setTextFormat(Qt::PlainText);
     box->setInformativeText(reasons);
+    showAsPlainText(*box);
     box->setWindowModality(Qt::WindowModal);
     box->open();
 }

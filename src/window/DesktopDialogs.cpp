@@ -1,6 +1,7 @@
 #include "window/DesktopDialogs.h"
 
 #include "platform/Localized.h"
+#include "window/PlainMessage.h"
 #include "window/SaveDialog.h"
 #include "window/ShownRun.h"
 
@@ -18,9 +19,9 @@ int DesktopDialogs::runModal(const Alert& alert) {
     QMessageBox box(below);
     box.setIcon(alert.style == AlertStyle::Warning ? QMessageBox::Warning
                                                    : QMessageBox::Information);
-    box.setTextFormat(Qt::PlainText);
     box.setText(alert.messageText);
     box.setInformativeText(alert.informativeText);
+    showAsPlainText(box);
     QList<QPushButton*> buttons;
     for (const QString& title : alert.buttonTitles) {
         buttons << box.addButton(title, buttons.isEmpty() ? QMessageBox::AcceptRole

@@ -6,6 +6,7 @@
 #include "window/CopyCommand.h"
 #include "window/EventTableView.h"
 #include "window/FittingToolBar.h"
+#include "window/PlainMessage.h"
 #include "window/SearchBox.h"
 #include "window/SettingsBinding.h"
 #include "window/SymbolIcon.h"
@@ -287,6 +288,7 @@ void MainWindow::addCalendar(const QString& path) {
         QMessageBox box(QMessageBox::Warning, {}, localized("The calendar could not be added"),
                         QMessageBox::Ok, this);
         box.setInformativeText(result.error());
+        showAsPlainText(box);
         box.exec();
     }
 }

@@ -1,6 +1,7 @@
 #include "window/UpdateDialogs.h"
 
 #include "platform/Localized.h"
+#include "window/PlainMessage.h"
 
 #include <QDateTime>
 #include <QDialogButtonBox>
@@ -85,8 +86,8 @@ void UpdateDialogs::showMessage(const QString& text, const QString& explanation)
     endSearch();
     auto* box = new QMessageBox(QMessageBox::Information, {}, text, QMessageBox::Ok, window_);
     box->setAttribute(Qt::WA_DeleteOnClose);
-    box->setTextFormat(Qt::PlainText);
     box->setInformativeText(explanation);
+    showAsPlainText(*box);
     box->setWindowModality(Qt::WindowModal);
     box->open();
 }

@@ -1,6 +1,7 @@
 #include "window/DesktopDialogs.h"
 
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -23,6 +24,7 @@ struct Seen {
     QString informativeText;
     QString defaultButton;
     QWidget* parent = nullptr;
+    bool areTextsPlain = true;
 };
 
 int answered(DesktopDialogs& dialogs, Qt::Key key, Seen& seen) {
@@ -31,6 +33,9 @@ int answered(DesktopDialogs& dialogs, Qt::Key key, Seen& seen) {
         ASSERT_NE(box, nullptr);
         seen = {box->text(), box->informativeText(), box->defaultButton()->text(),
                 box->parentWidget()};
+        for (const auto* label : box->findChildren<QLabel*>()) {
+            seen.areTextsPlain = seen.areTextsPlain && label->textFormat() == Qt::PlainText;
+        }
         QTest::keyClick(box, key);
     });
     return dialogs.runModal(question);
@@ -48,6 +53,7 @@ TEST(DesktopDialogsTest, TheFirstButtonOfAnAlertIsWhatReturnPresses) {
     EXPECT_EQ(seen.informativeText, QStringLiteral("Deleted records cannot be restored."));
     EXPECT_EQ(seen.defaultButton.remove(u'&'), QStringLiteral("OK"));
     EXPECT_EQ(seen.parent, &window);
+    EXPECT_TRUE(seen.areTextsPlain);
 }
 
 TEST(DesktopDialogsTest, ClosingAnAlertCountsAsItsLastButton) {
