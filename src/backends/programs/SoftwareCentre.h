@@ -15,7 +15,7 @@ public:
         , portal_(portal) {}
 
     /// Shows the page of a component ("org.example.Program"). The error is a text for the log.
-    std::expected<void, QString> show(const QString& component) const;
+    [[nodiscard]] std::expected<void, QString> show(const QString& component) const;
 
 private:
     const Applications& applications_;
