@@ -1,11 +1,11 @@
 #include "backends/activation/ApplicationNames.h"
 #include "backends/activation/RequestForwarder.h"
+#include "platform/Logging.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QProcess>
 
-#include <cstdio>
 #include <unistd.h>
 
 namespace {
@@ -16,10 +16,6 @@ constexpr std::chrono::seconds patienceWithTheProgram{25};
 QString programPath() {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() +
                            QStringLiteral("/" QUILLET_PROGRAM));
-}
-
-void say(const char* sentence) {
-    std::fputs(sentence, stderr);
 }
 
 } // namespace
@@ -39,7 +35,8 @@ int main(int argc, char** argv) {
         return 0;
     case Outcome::NoBus: {
         if (!request.addresses.isEmpty()) {
-            say("Without a session bus Quillet starts, but takes no files.\n");
+            qCWarning(quillet::quilletLog).noquote()
+                << "without a session bus the program starts, but takes no files";
         }
         const QByteArray path = programPath().toLocal8Bit();
         ::execl(path.constData(), path.constData(), nullptr);
@@ -48,6 +45,6 @@ int main(int argc, char** argv) {
     case Outcome::NoProgram:
         break;
     }
-    say("Quillet does not start, or does not answer.\n");
+    qCWarning(quillet::quilletLog).noquote() << "the program does not start, or does not answer";
     return 1;
 }
