@@ -15,6 +15,10 @@ struct ServiceCalendar::Attempt {
 
     ObjectPointer<GCancellable> cancellable{g_cancellable_new()};
     ObjectPointer<ECalClient> client;
+    /// Tells what changes, from before the reading on.
+    ObjectPointer<ECalClientView> changes;
+    /// Tells everything that there is; only during a reading. For two seconds after it such a view
+    /// keeps changes back.
     ObjectPointer<ECalClientView> view;
     /// Of a calendar that has a server behind it.
     std::unique_ptr<ServerWatch> serverWatch;
@@ -26,6 +30,7 @@ struct ServiceCalendar::Attempt {
     QSet<QString> uidsAwaited;
     QSet<QString> uidsWaiting;
     std::vector<SignalHandler> clientHandlers;
+    std::vector<SignalHandler> changesHandlers;
     std::vector<SignalHandler> viewHandlers;
 };
 

@@ -73,24 +73,71 @@ void ServiceCalendar::connected(Attempt& attempt, ObjectPointer<ECalClient> clie
     attempt.clientHandlers.emplace_back(
         attempt.client.get(), "backend-died",
         G_CALLBACK(+[](EClient*, gpointer data) { self(data).fail(); }), this);
-    askForView(attempt);
+    // The changes first, so that none is missed while everything is being read.
+    askForView(attempt, &ServiceCalendar::changesCame);
 }
 
-void ServiceCalendar::askForView(Attempt& attempt) {
+void ServiceCalendar::askForView(Attempt& attempt, ViewCame came) {
     expectAnswer();
-    e_cal_client_get_view(attempt.client.get(), everything, attempt.cancellable.get(), finishCall,
-                          callOf([this](Attempt* present, GObject* client, GAsyncResult* result) {
-                              CallError error;
-                              ECalClientView* view = nullptr;
-                              e_cal_client_get_view_finish(E_CAL_CLIENT(client), result, &view,
-                                                           error.slot());
-                              ObjectPointer<ECalClientView> owner(view);
-                              if (present != nullptr && owner) {
-                                  viewCame(*present, std::move(owner));
-                              } else if (present != nullptr) {
-                                  fail();
-                              }
-                          }));
+    e_cal_client_get_view(
+        attempt.client.get(), everything, attempt.cancellable.get(), finishCall,
+        callOf([this, came](Attempt* present, GObject* client, GAsyncResult* result) {
+            CallError error;
+            ECalClientView* view = nullptr;
+            e_cal_client_get_view_finish(E_CAL_CLIENT(client), result, &view, error.slot());
+            ObjectPointer<ECalClientView> owner(view);
+            if (present != nullptr && owner) {
+                (this->*came)(*present, std::move(owner));
+            } else if (present != nullptr) {
+                fail();
+            }
+        }));
+}
+
+void ServiceCalendar::changesCame(Attempt& attempt, ObjectPointer<ECalClientView> view) {
+    expectAnswer();
+    attempt.changes = std::move(view);
+    const auto handle = [&](const char* signal, GCallback callback) {
+        attempt.changesHandlers.emplace_back(attempt.changes.get(), signal, callback, this);
+    };
+    const auto changed = +[](ECalClientView*, const GSList* objects, gpointer data) {
+        self(data).objectsChanged(objects);
+    };
+    handle("objects-added", G_CALLBACK(changed));
+    handle("objects-modified", G_CALLBACK(changed));
+    handle("objects-removed", G_CALLBACK(+[](ECalClientView*, const GSList* gone, gpointer data) {
+               self(data).objectsRemoved(gone);
+           }));
+    // The library's own call for this waits for the answer.
+    const QString name = takenText(e_client_dup_bus_name(E_CLIENT(attempt.client.get())));
+    g_dbus_connection_call(
+        e_cal_client_view_get_connection(attempt.changes.get()), name.toUtf8().constData(),
+        e_cal_client_view_get_object_path(attempt.changes.get()),
+        "org.gnome.evolution.dataserver.CalendarView", "SetFlags",
+        g_variant_new("(u)", static_cast<guint32>(E_CAL_CLIENT_VIEW_FLAGS_NONE)), nullptr,
+        G_DBUS_CALL_FLAGS_NO_AUTO_START, static_cast<int>(with_.limits.answer.count()),
+        attempt.cancellable.get(), finishCall,
+        callOf([this](Attempt* present, GObject* bus, GAsyncResult* result) {
+            CallError error;
+            GVariant* answer =
+                g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, error.slot());
+            g_clear_pointer(&answer, g_variant_unref);
+            if (present != nullptr && error) {
+                fail();
+            } else if (present != nullptr) {
+                startChanges(*present);
+            }
+        }));
+}
+
+void ServiceCalendar::startChanges(Attempt& attempt) {
+    CallError error;
+    e_cal_client_view_start(attempt.changes.get(), error.slot());
+    if (error) {
+        fail();
+        return;
+    }
+    askForReading(attempt);
 }
 
 void ServiceCalendar::viewCame(Attempt& attempt, ObjectPointer<ECalClientView> view) {
@@ -101,20 +148,18 @@ void ServiceCalendar::viewCame(Attempt& attempt, ObjectPointer<ECalClientView> v
     attempt.hasNewZone = false;
     attempt.viewHandlers.clear();
     attempt.view = std::move(view);
-    const auto handle = [&](const char* signal, GCallback callback) {
-        attempt.viewHandlers.emplace_back(attempt.view.get(), signal, callback, this);
+    const auto read = +[](ECalClientView*, const GSList* objects, gpointer data) {
+        self(data).objectsRead(objects);
     };
-    const auto changed = +[](ECalClientView*, const GSList* objects, gpointer data) {
-        self(data).objectsChanged(objects);
-    };
-    handle("objects-added", G_CALLBACK(changed));
-    handle("objects-modified", G_CALLBACK(changed));
-    handle("objects-removed", G_CALLBACK(+[](ECalClientView*, const GSList* gone, gpointer data) {
-               self(data).objectsRemoved(gone);
-           }));
-    handle("complete", G_CALLBACK(+[](ECalClientView*, const GError* error, gpointer data) {
-               self(data).readingEnded(error);
-           }));
+    for (const char* signal : {"objects-added", "objects-modified"}) {
+        attempt.viewHandlers.emplace_back(attempt.view.get(), signal, G_CALLBACK(read), this);
+    }
+    attempt.viewHandlers.emplace_back(
+        attempt.view.get(), "complete",
+        G_CALLBACK(+[](ECalClientView*, const GError* error, gpointer data) {
+            self(data).readingEnded(error);
+        }),
+        this);
     CallError error;
     e_cal_client_view_start(attempt.view.get(), error.slot());
     if (error) {
@@ -141,10 +186,12 @@ void ServiceCalendar::endReadingIfComplete(Attempt& attempt) {
     }
     if (attempt.hasNewZone) {
         // Once more, now that the zones are known in which some events were written.
-        askForView(attempt);
+        askForReading(attempt);
         return;
     }
     contents_.endReading();
+    attempt.viewHandlers.clear();
+    attempt.view.reset();
     becomeLive();
 }
 
@@ -159,7 +206,7 @@ void ServiceCalendar::becomeLive() {
     setCondition(CalendarState::Condition::Fine);
     probeTimer_.start(with_.limits.probe, [this] { probe(); });
     watchServer(*attempt_);
-    // What was removed while it was being read.
+    // What changed while it was being read.
     noticesCame();
 }
 
@@ -169,7 +216,7 @@ void ServiceCalendar::watchServer(Attempt& attempt) {
         return;
     }
     attempt.serverWatch = std::make_unique<ServerWatch>(
-        source_.get(), attempt.client.get(), attempt.view.get(), with_.limits,
+        source_.get(), attempt.client.get(), attempt.changes.get(), with_.limits,
         [this](ServerWatch::Server server) {
             switch (server) {
             case ServerWatch::Server::Reachable:

@@ -49,8 +49,14 @@ private:
 
     void connect();
     void connected(Attempt& attempt, ObjectPointer<ECalClient> client);
-    void askForView(Attempt& attempt);
+    using ViewCame = void (ServiceCalendar::*)(Attempt& attempt,
+                                               ObjectPointer<ECalClientView> view);
+    void askForView(Attempt& attempt, ViewCame came);
+    void changesCame(Attempt& attempt, ObjectPointer<ECalClientView> view);
+    void startChanges(Attempt& attempt);
+    void askForReading(Attempt& attempt) { askForView(attempt, &ServiceCalendar::viewCame); }
     void viewCame(Attempt& attempt, ObjectPointer<ECalClientView> view);
+    void objectsRead(const GSList* objects);
     void objectsChanged(const GSList* objects);
     void objectsRemoved(const GSList* identifiers);
     void readingEnded(const GError* error);

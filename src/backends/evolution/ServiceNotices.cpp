@@ -14,25 +14,37 @@ icalcomponent_impl* nativeOf(ICalComponent* component) {
     return static_cast<icalcomponent_impl*>(i_cal_object_get_native(I_CAL_OBJECT(component)));
 }
 
-} // namespace
-
-void ServiceCalendar::objectsChanged(const GSList* objects) {
-    const auto attempt = attempt_;
+template <typename Visitor>
+void forEachNative(const GSList* objects, Visitor visit) {
     for (const GSList* item = objects; item != nullptr; item = item->next) {
         icalcomponent_impl* component = nativeOf(static_cast<ICalComponent*>(item->data));
-        if (component == nullptr) {
-            continue;
-        }
-        if (stage_ == Stage::Reading && !attempt->isComplete) {
-            contents_.read(*component);
-        } else {
-            contents_.noteChanged(*component);
+        if (component != nullptr) {
+            visit(*component);
         }
     }
+}
+
+} // namespace
+
+void ServiceCalendar::objectsRead(const GSList* objects) {
+    const auto attempt = attempt_;
+    if (stage_ != Stage::Reading || attempt->isComplete) {
+        return;
+    }
+    forEachNative(objects, [this](icalcomponent_impl& component) { contents_.read(component); });
     askForZones(*attempt);
-    if (stage_ == Stage::Reading) {
-        expectAnswer();
-    } else {
+    expectAnswer();
+}
+
+void ServiceCalendar::objectsChanged(const GSList* objects) {
+    if (stage_ != Stage::Reading && stage_ != Stage::Live) {
+        return;
+    }
+    const auto attempt = attempt_;
+    forEachNative(objects,
+                  [this](icalcomponent_impl& component) { contents_.noteChanged(component); });
+    askForZones(*attempt);
+    if (stage_ == Stage::Live) {
         noticesCame();
     }
 }
@@ -108,7 +120,7 @@ void ServiceCalendar::zoneCame(Attempt& attempt, const std::string& name, ICalTi
 void ServiceCalendar::askForDoubtful(Attempt& attempt) {
     const QSet<QString> doubtful = contents_.takeDoubtful();
     if (doubtful.size() > mostDoubtful) {
-        askForView(attempt);
+        askForReading(attempt);
         return;
     }
     for (const QString& uid : doubtful) {
@@ -162,7 +174,7 @@ void ServiceCalendar::uidCame(Attempt& attempt, const QString& uid, const GSList
 
 void ServiceCalendar::probe() {
     const QString name = takenText(e_client_dup_bus_name(E_CLIENT(attempt_->client.get())));
-    GDBusConnection* connection = e_cal_client_view_get_connection(attempt_->view.get());
+    GDBusConnection* connection = e_cal_client_view_get_connection(attempt_->changes.get());
     g_dbus_connection_call(
         connection, name.toUtf8().constData(), "/", "org.freedesktop.DBus.Peer", "Ping", nullptr,
         nullptr, G_DBUS_CALL_FLAGS_NO_AUTO_START, static_cast<int>(with_.limits.answer.count()),

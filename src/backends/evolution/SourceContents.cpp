@@ -81,7 +81,7 @@ void SourceContents::noteChanged(icalcomponent_impl& component) {
         RawEvent raw = readEvent(event, context_);
         const auto known = known_.constFind(raw.uid);
         const bool hasExceptions = known != known_.constEnd() && known->hasExceptions;
-        if (!standsAlone(raw) || hasExceptions || doubtful_.contains(raw.uid) ||
+        if (isReading_ || !standsAlone(raw) || hasExceptions || doubtful_.contains(raw.uid) ||
             context_.unknownZones.size() > unknownBefore) {
             doubtful_.insert(raw.uid);
             return;

@@ -29,8 +29,9 @@ public:
     void read(icalcomponent_impl& component);
     void endReading();
 
-    /// A component that is new or has changed, once everything has been read. What it means cannot
-    /// always be told from it alone: then its UID becomes doubtful.
+    /// A component that is new or has changed. What it means cannot always be told from it alone,
+    /// and never during a reading, which may have met it before or after the change: then its UID
+    /// becomes doubtful.
     void noteChanged(icalcomponent_impl& component);
     /// Something under that UID is gone, the event or an exception of it.
     void noteRemoved(const QString& uid);
