@@ -1,12 +1,11 @@
 #include "backends/programs/CalendarBus.h"
 
-#include <QDBusConnection>
+#include "backends/programs/LiveWait.h"
+
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QDBusReply>
-#include <QDeadlineTimer>
+#include <QDBusServiceWatcher>
 #include <QProcess>
-#include <QThread>
 
 #include <array>
 #include <ctime>
@@ -16,35 +15,11 @@ namespace quillet {
 
 namespace {
 
-constexpr int deadlineMilliseconds = 10'000;
-
-/// Has the bus start a program, unless it runs, and waits until it answers to its name.
-std::expected<void, QString> startedService(const QString& service) {
-    QDBusConnectionInterface* bus = QDBusConnection::sessionBus().interface();
-    if (bus == nullptr) {
-        return std::unexpected(QStringLiteral("there is no session bus"));
+std::expected<void, QString> resultOf(const QDBusMessage& answer) {
+    if (answer.type() == QDBusMessage::ReplyMessage) {
+        return {};
     }
-    const QDBusReply<void> reply = bus->startService(service);
-    if (!reply.isValid()) {
-        return std::unexpected(reply.error().message());
-    }
-    return {};
-}
-
-/// Runs a command that hands its arguments to the program that is running already, and ends.
-std::expected<void, QString> ran(const QString& program, const QStringList& arguments) {
-    QProcess process;
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
-    process.start(program, arguments, QIODevice::NotOpen);
-    if (!process.waitForFinished(deadlineMilliseconds)) {
-        return std::unexpected(process.errorString());
-    }
-    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
-        return std::unexpected(
-            QStringLiteral("%1 ended with %2").arg(program).arg(process.exitCode()));
-    }
-    return {};
+    return std::unexpected(answer.errorMessage());
 }
 
 } // namespace
@@ -61,53 +36,90 @@ QString gnomeCalendarDate(const QDateTime& start) {
     return QString::fromLocal8Bit(text.data(), static_cast<qsizetype>(length));
 }
 
+SessionCalendarBus::SessionCalendarBus(QDBusConnection bus, std::chrono::milliseconds patience)
+    : bus_(std::move(bus))
+    , patience_(patience) {}
+
 bool SessionCalendarBus::isRunning(const QString& service) const {
-    QDBusConnectionInterface* bus = QDBusConnection::sessionBus().interface();
+    QDBusConnectionInterface* bus = bus_.interface();
     return bus != nullptr && bus->isServiceRegistered(service).value();
 }
 
 bool SessionCalendarBus::waitUntilRunning(const QString& service) const {
-    constexpr unsigned long pauseMilliseconds = 50;
-    const QDeadlineTimer deadline(deadlineMilliseconds);
-    while (!isRunning(service)) {
-        if (deadline.hasExpired() || !QDBusConnection::sessionBus().isConnected()) {
-            return false;
-        }
-        QThread::msleep(pauseMilliseconds);
+    if (!bus_.isConnected()) {
+        return false;
     }
-    return true;
+    LiveWait wait(patience_);
+    const QDBusServiceWatcher watcher(service, bus_, QDBusServiceWatcher::WatchForRegistration);
+    QObject::connect(&watcher, &QDBusServiceWatcher::serviceRegistered, [&wait] { wait.end(); });
+    return isRunning(service) || wait.run();
 }
 
 std::expected<void, QString>
 SessionCalendarBus::showInGnomeCalendar(const QString& serviceCalendar, const QString& uid,
                                         const std::optional<QDateTime>& start) {
     const QString program = QStringLiteral("gnome-calendar");
-    if (auto started = startedService(QStringLiteral("org.gnome.Calendar")); !started) {
+    if (auto started = startService(QStringLiteral("org.gnome.Calendar")); !started) {
         return started;
     }
     if (start) {
-        if (auto shown = ran(program, {QStringLiteral("--date"), gnomeCalendarDate(*start)});
+        if (auto shown = run(program, {QStringLiteral("--date"), gnomeCalendarDate(*start)});
             !shown) {
             return shown;
         }
     }
-    return ran(program, {QStringLiteral("--uuid"), serviceCalendar + u':' + uid});
+    return run(program, {QStringLiteral("--uuid"), serviceCalendar + u':' + uid});
 }
 
 std::expected<void, QString>
 SessionCalendarBus::showInKdeCalendar(const QString& service, const QString& uid,
                                       const std::optional<QDateTime>& start) {
-    if (auto started = startedService(service); !started) {
+    if (auto started = startService(service); !started) {
         return started;
     }
     QDBusMessage message = QDBusMessage::createMethodCall(
         service, QStringLiteral("/Calendar"), QStringLiteral("org.kde.calendar.Calendar"),
         QStringLiteral("showIncidenceByUid"));
     message.setArguments({uid, start.value_or(QDateTime::currentDateTime()), QString()});
-    const QDBusMessage reply =
-        QDBusConnection::sessionBus().call(message, QDBus::Block, deadlineMilliseconds);
-    if (reply.type() != QDBusMessage::ReplyMessage) {
-        return std::unexpected(reply.errorMessage());
+    return resultOf(liveAnswer(bus_, message, patience_));
+}
+
+std::expected<void, QString> SessionCalendarBus::startService(const QString& service) const {
+    if (!bus_.isConnected()) {
+        return std::unexpected(QStringLiteral("there is no session bus"));
+    }
+    // The bus refuses to start what it has no file for, also when it runs.
+    if (isRunning(service)) {
+        return {};
+    }
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("StartServiceByName"));
+    message.setArguments({service, 0U});
+    return resultOf(liveAnswer(bus_, message, patience_));
+}
+
+std::expected<void, QString> SessionCalendarBus::run(const QString& program,
+                                                     const QStringList& arguments) const {
+    QProcess process;
+    LiveWait wait(patience_);
+    const auto end = [&wait] { wait.end(); };
+    QObject::connect(&process, &QProcess::finished, end);
+    QObject::connect(&process, &QProcess::errorOccurred, end);
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(program, arguments, QIODevice::NotOpen);
+    if (!wait.run()) {
+        process.kill();
+        process.waitForFinished();
+        return std::unexpected(QStringLiteral("%1 does not answer").arg(program));
+    }
+    if (process.error() == QProcess::FailedToStart) {
+        return std::unexpected(process.errorString());
+    }
+    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
+        return std::unexpected(
+            QStringLiteral("%1 ended with %2").arg(program).arg(process.exitCode()));
     }
     return {};
 }

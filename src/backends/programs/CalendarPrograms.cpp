@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
 namespace quillet {
 
@@ -40,10 +41,27 @@ QString calendarAddress(const QString& serviceCalendar, const QString& uid) {
            QStringLiteral("&comp-uid=") + encoded(uid);
 }
 
-std::expected<void, QString> CalendarPrograms::show(const EventRequest& request) const {
-    const EventPlace place = with_.findEvent(request);
+std::expected<void, QString> CalendarPrograms::show(const EventRequest& request) {
+    Wanted wanted{with_.findEvent(request), request.eventIdentifier};
+    if (shown_) {
+        // The user goes on while a program starts: what is asked for last counts.
+        next_ = *shown_ == wanted ? std::nullopt : std::optional(std::move(wanted));
+        return {};
+    }
+    shown_ = std::move(wanted);
+    auto result = showAt(shown_->place, shown_->uid);
+    while (next_) {
+        shown_ = std::exchange(next_, std::nullopt);
+        result = showAt(shown_->place, shown_->uid);
+    }
+    shown_.reset();
+    return result;
+}
+
+std::expected<void, QString> CalendarPrograms::showAt(const EventPlace& place,
+                                                      const QString& uid) const {
     if (!place.serviceCalendar.isEmpty()) {
-        return showOfService(place, request.eventIdentifier);
+        return showOfService(place, uid);
     }
     return place.file.isEmpty() ? noEventThere() : openFile(place.file);
 }

@@ -23,6 +23,8 @@ struct EventPlace {
     QString file;
     /// Local time.
     std::optional<QDateTime> start;
+
+    friend bool operator==(const EventPlace&, const EventPlace&) = default;
 };
 
 /// Asks the user's calendar program to show an event.
@@ -44,10 +46,21 @@ public:
 
     /// Shows the event in the user's preferred program of those that can show one. An event that
     /// comes from a file is opened as that file. The user is told when there is no program for
-    /// calendars at all; any other error is a text for the log alone.
-    [[nodiscard]] std::expected<void, QString> show(const EventRequest& request) const;
+    /// calendars at all; any other error is a text for the log alone. The windows of this program
+    /// stay alive meanwhile. An event that is asked for while another one is being shown is shown
+    /// after it, by the call that shows the first; of several only the last.
+    [[nodiscard]] std::expected<void, QString> show(const EventRequest& request);
 
 private:
+    struct Wanted {
+        EventPlace place;
+        QString uid;
+
+        friend bool operator==(const Wanted&, const Wanted&) = default;
+    };
+
+    [[nodiscard]] std::expected<void, QString> showAt(const EventPlace& place,
+                                                      const QString& uid) const;
     [[nodiscard]] std::expected<void, QString> showOfService(const EventPlace& place,
                                                              const QString& uid) const;
     [[nodiscard]] std::expected<void, QString>
@@ -58,9 +71,13 @@ private:
     [[nodiscard]] std::expected<void, QString> noProgram() const;
 
     Collaborators with_;
+    /// While a program is waited for.
+    std::optional<Wanted> shown_;
+    std::optional<Wanted> next_;
 };
 
-/// The address under which Evolution opens an event of the calendar service.
+/// The address under which Evolution opens an event of the calendar service; of a series, the
+/// whole.
 [[nodiscard]] QString calendarAddress(const QString& serviceCalendar, const QString& uid);
 
 } // namespace quillet

@@ -14,6 +14,9 @@ public:
         return isEvolutionRunning && service == u"org.gnome.Evolution";
     }
     [[nodiscard]] bool waitUntilRunning(const QString& service) const override {
+        if (duringWait) {
+            duringWait();
+        }
         return doesEvolutionAnswer && service == u"org.gnome.Evolution";
     }
     std::expected<void, QString>
@@ -29,6 +32,8 @@ public:
         return kdeAnswer;
     }
 
+    /// What the user does while a program starts.
+    std::function<void()> duringWait;
     bool isEvolutionRunning = true;
     bool doesEvolutionAnswer = true;
     QStringList calls;
@@ -58,12 +63,15 @@ const QString type = QStringLiteral("text/calendar");
 class CalendarProgramsTest : public testing::Test {
 protected:
     std::expected<void, QString> show(const QString& uid = "a \"b\"%20&c\n'$(d)") {
-        return CalendarPrograms({.applications = applications,
-                                 .bus = bus,
-                                 .alerts = alerts,
-                                 .findEvent = [this](const EventRequest&) { return place; },
-                                 .portal = sandbox})
-            .show({"calendar", uid});
+        if (!programs) {
+            programs.emplace(CalendarPrograms::Collaborators{
+                .applications = applications,
+                .bus = bus,
+                .alerts = alerts,
+                .findEvent = [this](const EventRequest&) { return place; },
+                .portal = sandbox});
+        }
+        return programs->show({"calendar", uid});
     }
     void installEvolution() {
         desktop.install("org.gnome.Evolution.desktop", "evolution %U",
@@ -86,6 +94,7 @@ protected:
     EventPlace place{.serviceCalendar = "source 1",
                      .file = {},
                      .start = QDateTime(QDate(2024, 3, 6), QTime(10, 0), Qt::UTC)};
+    std::optional<CalendarPrograms> programs;
 };
 
 } // namespace
@@ -221,19 +230,36 @@ TEST_F(CalendarProgramsTest, InASandboxThePortalOpensAddressesAndFiles) {
     EXPECT_TRUE(launcher.launched.isEmpty());
 }
 
-TEST(CalendarBusTest, WithoutASessionBusNothingIsShownAndTheReasonSaid) {
-    SessionCalendarBus bus;
-    const auto gnome = bus.showInGnomeCalendar("a", "b", {});
-    ASSERT_FALSE(gnome);
-    EXPECT_FALSE(gnome.error().isEmpty());
-    EXPECT_FALSE(bus.showInKdeCalendar("org.kde.korganizer", "b", {}));
-    EXPECT_FALSE(bus.isRunning("org.gnome.Evolution"));
-    EXPECT_FALSE(bus.waitUntilRunning("org.gnome.Evolution"));
+TEST_F(CalendarProgramsTest, WhileAProgramStartsOnlyTheLastOfTheOtherWishesIsKept) {
+    installEvolution();
+    bus.isEvolutionRunning = false;
+    bus.duringWait = [this] {
+        bus.isEvolutionRunning = true;
+        EXPECT_TRUE(show("impatient"));
+        EXPECT_TRUE(show("another"));
+        EXPECT_TRUE(show("last"));
+        EXPECT_EQ(launcher.launched.size(), 1) << "nothing opens before Evolution runs";
+    };
+    ASSERT_TRUE(show("first"));
+    QStringList opened;
+    for (const auto& launched : launcher.launched) {
+        opened.append(launched.second.last().section("comp-uid=", 1));
+    }
+    EXPECT_EQ(opened, (QStringList{"", "first", "last"}));
 }
 
-TEST(CalendarBusTest, DatesAreWrittenAsTheProgramReadsThemInEnglish) {
-    const QDateTime start(QDate(2024, 3, 6), QTime(9, 5));
-    EXPECT_EQ(gnomeCalendarDate(start), QStringLiteral("03/06/2024 09:05"));
+TEST_F(CalendarProgramsTest, TheSameEventAskedForTwiceWhileAProgramStartsIsOpenedOnce) {
+    installEvolution();
+    bus.isEvolutionRunning = false;
+    bus.duringWait = [this] {
+        bus.isEvolutionRunning = true;
+        EXPECT_TRUE(show("other"));
+        EXPECT_TRUE(show("uid"));
+    };
+    ASSERT_TRUE(show("uid"));
+    EXPECT_EQ(launcher.launched.size(), 2);
+    ASSERT_TRUE(show("uid"));
+    EXPECT_EQ(launcher.launched.size(), 3) << "and again once it has been shown";
 }
 
 } // namespace quillet
