@@ -6,6 +6,7 @@
 #include <QVariantMap>
 
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 namespace quillet {
@@ -32,9 +33,11 @@ struct CalendarGroup {
     CalendarGroupEntries calendarGroupArray;
     /// Members that this version does not know, written back as they came.
     QVariantMap otherMembers;
-    /// Where the group stands in the list, from 0: its identity, since names may repeat. Not
-    /// stored.
+    /// Where the group stands in the list, from 0: what a selection follows. Not stored.
     std::size_t position = 0;
+    /// Tells the group from every other of its list, whatever its position: it stays through edits
+    /// and is new where the list was written from elsewhere. 0 before a list holds it. Not stored.
+    std::uint64_t instance = 0;
 };
 
 /// Members of a wrong type are read as the platform's typed getters do; entries that are no

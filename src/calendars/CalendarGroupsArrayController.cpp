@@ -97,6 +97,10 @@ std::size_t CalendarGroupsArrayController::selectionIndex() const {
     return selectedRows().empty() ? 0 : selectedRows().front();
 }
 
+std::uint64_t CalendarGroupsArrayController::selectedInstance() const {
+    return arrangedCount() == 0 ? 0 : arranged(selectionIndex()).instance;
+}
+
 void CalendarGroupsArrayController::setCalendarGroupName(std::size_t position,
                                                          const QString& name) {
     std::vector<CalendarGroup> groups = *content();
@@ -129,6 +133,9 @@ void CalendarGroupsArrayController::sheetChanged() {
 void CalendarGroupsArrayController::show(std::vector<CalendarGroup> groups) {
     for (std::size_t position = 0; position < groups.size(); ++position) {
         groups[position].position = position;
+        if (groups[position].instance == 0) {
+            groups[position].instance = ++lastInstance_;
+        }
     }
     const std::size_t selected = selectionIndex();
     setContent(std::move(groups));

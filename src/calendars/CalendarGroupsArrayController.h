@@ -30,6 +30,8 @@ public:
 
     /// The position of the selected group; 0 while there is none.
     [[nodiscard]] std::size_t selectionIndex() const;
+    /// Which group that is, wherever it stands: CalendarGroup::instance. 0 while there is none.
+    [[nodiscard]] std::uint64_t selectedInstance() const;
     /// A position beyond the list changes nothing, here and below.
     void setCalendarGroupName(std::size_t position, const QString& name);
     void setCalendarGroupArray(std::size_t position, CalendarGroupEntries entries);
@@ -42,6 +44,7 @@ private:
     SettingsStore& settings_;
     AlertPresenter& alerts_;
     bool isWritingBack_ = false;
+    std::uint64_t lastInstance_ = 0;
     std::vector<Observation> observations_;
 };
 

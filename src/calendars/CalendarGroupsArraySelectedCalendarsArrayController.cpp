@@ -1,5 +1,7 @@
 #include "calendars/CalendarGroupsArraySelectedCalendarsArrayController.h"
 
+#include <utility>
+
 namespace quillet {
 
 namespace {
@@ -28,7 +30,7 @@ void CalendarGroupsArraySelectedCalendarsArrayController::awakeFromNib() {
     observations_.push_back(settings_.observe(calendarsKey, [this] { syncWhileSheetIsOpen(); }));
     connect(&groups_, &ListControllerNotices::selectedObjectsChanged, this,
             [this] { selectedGroupChanged(); });
-    shown_ = {groups_.selectionIndex(), groups_.arrangedCount()};
+    shownInstance_ = groups_.selectedInstance();
     reload();
     syncCalendars();
 }
@@ -37,13 +39,13 @@ void CalendarGroupsArraySelectedCalendarsArrayController::syncCalendars() {
     if (groups_.selectionIndex() == 0) {
         return;
     }
-    isCalendarsSyncing_ = true;
+    setIsCalendarsSyncing(true);
     setIfAbsent(settings_, calendarsKey, QVariantList());
     CalendarGroupEntries entries = syncedEntries(*content(), storedCalendarRecords(settings_));
     if (entries != *content()) {
         writeBack(std::move(entries));
     }
-    isCalendarsSyncing_ = false;
+    setIsCalendarsSyncing(false);
 }
 
 void CalendarGroupsArraySelectedCalendarsArrayController::setSelected(std::size_t row,
@@ -65,8 +67,8 @@ void CalendarGroupsArraySelectedCalendarsArrayController::selectedGroupChanged()
     reload();
     // The groups announce their selection also when only a name or a tick was edited. That must
     // not sync: syncing is how further missing calendars come in.
-    const std::pair shown(groups_.selectionIndex(), groups_.arrangedCount());
-    if (shown != std::exchange(shown_, shown)) {
+    const std::uint64_t selected = groups_.selectedInstance();
+    if (selected != std::exchange(shownInstance_, selected)) {
         syncWhileSheetIsOpen();
     }
 }

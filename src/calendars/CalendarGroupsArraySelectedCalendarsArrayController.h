@@ -5,7 +5,7 @@
 #include "platform/ListController.h"
 #include "platform/SettingsStore.h"
 
-#include <utility>
+#include <cstdint>
 #include <vector>
 
 namespace quillet {
@@ -23,7 +23,9 @@ public:
     /// Adds calendars that are missing, drops those that are gone, refreshes titles. Does nothing
     /// for the group at position 0, which has no checklist.
     void syncCalendars();
+    /// While it is set, no change starts a sync.
     [[nodiscard]] bool isCalendarsSyncing() const { return isCalendarsSyncing_; }
+    void setIsCalendarsSyncing(bool isSyncing) { isCalendarsSyncing_ = isSyncing; }
 
     /// Ticks or clears the calendar in an arranged row, and with it the other rows of the same
     /// calendar, which are one entry.
@@ -39,8 +41,8 @@ private:
     CalendarGroupsArrayController& groups_;
     bool isCalendarsSyncing_ = false;
     bool isWritingBack_ = false;
-    /// The position of the group that is shown, and the number of groups.
-    std::pair<std::size_t, std::size_t> shown_;
+    /// The group that was shown last: CalendarGroup::instance.
+    std::uint64_t shownInstance_ = 0;
     std::vector<Observation> observations_;
 };
 

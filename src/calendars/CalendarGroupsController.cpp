@@ -1,7 +1,5 @@
 #include "calendars/CalendarGroupsController.h"
 
-#include "platform/Predicate.h"
-
 namespace quillet {
 
 namespace {

@@ -3,10 +3,13 @@
 #include "calendars/CalendarGroup.h"
 #include "platform/ListController.h"
 #include "platform/OneShotTimer.h"
+#include "platform/Predicate.h"
 #include "platform/SettingsStore.h"
 
 #include <QObject>
 
+#include <optional>
+#include <utility>
 #include <vector>
 
 namespace quillet {
@@ -37,8 +40,17 @@ public:
     [[nodiscard]] std::size_t calendarGroupsSelectedIndex() const;
     void setCalendarGroupsSelectedIndex(std::size_t position);
 
+    /// Kept for whoever sets it: the groups filter the calendar list directly.
+    [[nodiscard]] const std::optional<Predicate>& calendarsArrayControllerFilterPredicate() const {
+        return calendarsArrayControllerFilterPredicate_;
+    }
+    void setCalendarsArrayControllerFilterPredicate(std::optional<Predicate> predicate) {
+        calendarsArrayControllerFilterPredicate_ = std::move(predicate);
+    }
+
 private:
     Collaborators with_;
+    std::optional<Predicate> calendarsArrayControllerFilterPredicate_;
     std::vector<Observation> observations_;
 };
 

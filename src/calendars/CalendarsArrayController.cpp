@@ -75,13 +75,13 @@ void CalendarsArrayController::syncCalendars() {
     if (!eventKitManager_.eventCalendarsAccessGranted()) {
         return;
     }
-    isCalendarsSyncing_ = true;
+    setIsCalendarsSyncing(true);
     const std::vector<CalendarRecord>& before = *content();
     std::vector<CalendarRecord> after = synced(before);
     if (valuesFrom(after) != valuesFrom(before)) {
         writeBack(std::move(after));
     }
-    isCalendarsSyncing_ = false;
+    setIsCalendarsSyncing(false);
 }
 
 std::vector<CalendarRecord> CalendarsArrayController::synced(std::vector<CalendarRecord> records) {

@@ -43,7 +43,9 @@ public:
     [[nodiscard]] QString makeTitleWithStringAndRate(const QString& title,
                                                      const QString& rateText) const;
     [[nodiscard]] QString formatCurrency(const Decimal& amount) const;
+    /// While it is set, no change of a setting starts a sync.
     [[nodiscard]] bool isCalendarsSyncing() const { return isCalendarsSyncing_; }
+    void setIsCalendarsSyncing(bool isSyncing) { isCalendarsSyncing_ = isSyncing; }
 
 private:
     [[nodiscard]] std::vector<CalendarRecord> synced(std::vector<CalendarRecord> records);

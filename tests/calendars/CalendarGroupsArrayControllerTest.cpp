@@ -74,6 +74,48 @@ TEST_F(CalendarGroupsArrayControllerTest, AStoredListThatWasEmptiedGetsNoSecondD
     EXPECT_EQ(alerts.shown.back().messageText, QStringLiteral("Cannot delete All Calendars"));
 }
 
+TEST_F(CalendarGroupsArrayControllerTest,
+       GroupsThatWereStoredBeforeTheFirstLaunchGetTheDefaultBehindThemAndItsNameInFront) {
+    storeGroups({"Clients", "Home"});
+    settings.remove("isDefaultAllCalendarsGroupCreated");
+    wake();
+    EXPECT_EQ(storedNames(), (QStringList{"All Calendars", "Home", "All Calendars"}));
+    EXPECT_EQ(shownNames(), storedNames());
+    EXPECT_EQ(settings.object("isDefaultAllCalendarsGroupCreated"), QVariant(true));
+}
+
+TEST_F(CalendarGroupsArrayControllerTest, ThatTheDefaultWasCreatedIsKnownByTheKeyNotByItsValue) {
+    for (const QVariant& value : {QVariant(false), QVariant(qint64{0}), QVariant("")}) {
+        storeGroups({});
+        settings.setObject("isDefaultAllCalendarsGroupCreated", value);
+        wake();
+        EXPECT_EQ(storedNames(), QStringList()) << value.typeName();
+        EXPECT_EQ(settings.object("isDefaultAllCalendarsGroupCreated"), value) << value.typeName();
+    }
+}
+
+TEST_F(CalendarGroupsArrayControllerTest, AGroupIsTheSameOneThroughEditsAndAnotherAfterAWrite) {
+    storeGroups({"All Calendars", "Clients", "Home"});
+    wake();
+    controller->setSelectedRows({1});
+    const std::uint64_t clients = controller->selectedInstance();
+    controller->setCalendarGroupName(1, "Friends");
+    controller->setCalendarGroupArray(1, {CalendarGroupEntry()});
+    EXPECT_EQ(controller->selectedInstance(), clients);
+    controller->setSelectedRows({2});
+    EXPECT_NE(controller->selectedInstance(), clients);
+    controller->setSelectedRows({1});
+    EXPECT_EQ(controller->selectedInstance(), clients);
+    controller->removeCalendarGroup();
+    EXPECT_EQ(controller->selectionIndex(), 1U);
+    EXPECT_NE(controller->selectedInstance(), clients) << "the next one in its place";
+    const std::uint64_t home = controller->selectedInstance();
+    settings.setObject("calendarGroups", settings.object("calendarGroups"));
+    EXPECT_NE(controller->selectedInstance(), home);
+    storeGroups({});
+    EXPECT_EQ(controller->selectedInstance(), 0U);
+}
+
 TEST_F(CalendarGroupsArrayControllerTest, AddingToAnEmptiedListPutsAllCalendarsFirstAgain) {
     storeGroups({});
     wake();

@@ -110,6 +110,96 @@ TEST_F(ChecklistTest, OfTwoNewCalendarsTheLastComesTwiceAndTheFirstWithTheNextSy
     EXPECT_EQ(stored(1).size(), 5);
 }
 
+TEST_F(ChecklistTest, OfThreeNewCalendarsTheLastComesThriceAndEachSyncAddsOneMore) {
+    openSheet();
+    const QStringList titles{"Work", "Art", "Garden", "Home", "Nap"};
+    QStringList expected{"Work", "Art", "Nap", "Nap", "Nap"};
+    storeCalendars(titles);
+    EXPECT_EQ(stored(1), expected);
+    storeCalendars(titles);
+    expected << "Home"
+             << "Home";
+    EXPECT_EQ(stored(1), expected);
+    storeCalendars(titles);
+    expected << "Garden";
+    EXPECT_EQ(stored(1), expected);
+    storeCalendars(titles);
+    EXPECT_EQ(stored(1), expected);
+}
+
+TEST_F(ChecklistTest, ShowingAGroupAgainSyncsItAgain) {
+    openSheet();
+    storeCalendars({"Work", "Art", "Garden", "Home"});
+    groups.setSelectedRows({0});
+    groups.setSelectedRows({1});
+    EXPECT_EQ(stored(1), (QStringList{"Work", "Art", "Home", "Home", "Garden"}));
+}
+
+TEST_F(ChecklistTest, ANewGroupDoesNotSyncTheOneThatWasShown) {
+    openSheet();
+    storeCalendars({"Work", "Art", "Garden", "Home"});
+    groups.addCalendarGroup();
+    EXPECT_EQ(stored(1), (QStringList{"Work", "Art", "Home", "Home"}));
+    EXPECT_EQ(stored(3), (QStringList{"Work", "Art", "Garden", "Home"}));
+    EXPECT_EQ(shown(), (QStringList{"Art", "Garden", "Home", "Work"}));
+}
+
+TEST_F(ChecklistTest, AsManyOtherGroupsFromElsewhereAreOthersAndTheShownOneIsSynced) {
+    openSheet();
+    storeCalendars({"Art"});
+    QVariantList other = arrayForKey(settings, "calendarGroups");
+    QVariantMap replaced = other[1].toMap();
+    replaced["calendarGroupArray"] = QVariantList{
+        QVariantMap{{"calendarIdentifier", "W"}, {"title", "Work"}, {"isSelected", true}},
+        QVariantMap{{"calendarIdentifier", "A"}, {"title", "Old"}, {"isSelected", true}}};
+    other[1] = replaced;
+    settings.setObject("calendarGroups", other);
+    EXPECT_EQ(stored(1), QStringList{"Art*"});
+    EXPECT_EQ(shown(), QStringList{"Art*"});
+}
+
+TEST_F(ChecklistTest, ASyncUnderWayIsNotJoinedByAnother) {
+    openSheet();
+    checklist.setIsCalendarsSyncing(true);
+    storeCalendars({"Art"});
+    groups.setSelectedRows({2});
+    EXPECT_EQ(stored(1), (QStringList{"Work", "Art"}));
+    EXPECT_EQ(stored(2), (QStringList{"Work", "Art"}));
+    checklist.setIsCalendarsSyncing(false);
+    groups.setSelectedRows({1});
+    EXPECT_EQ(stored(1), QStringList{"Art"});
+}
+
+TEST_F(ChecklistTest, WhereAllCalendarsVanishTheShownGroupKeepsNone) {
+    openSheet();
+    checklist.setSelected(0, true);
+    storeCalendars({});
+    EXPECT_EQ(shown(), QStringList());
+    EXPECT_EQ(stored(1), QStringList());
+    EXPECT_EQ(stored(2), (QStringList{"Work", "Art"})) << "it is not shown";
+    EXPECT_EQ(groups.selectionIndex(), 1U);
+}
+
+TEST_F(ChecklistTest, ACalendarThatVanishedComesBackUnticked) {
+    openSheet();
+    checklist.setSelected(0, true);
+    checklist.setSelected(1, true);
+    storeCalendars({"Work"});
+    EXPECT_EQ(shown(), QStringList{"Work*"});
+    storeCalendars({"Work", "Art"});
+    EXPECT_EQ(shown(), (QStringList{"Art", "Work*"}));
+}
+
+TEST_F(ChecklistTest, EntriesOfCalendarsWithoutAnIdentifierStayUntilTheNextSync) {
+    settings.setObject("calendars",
+                       QVariantList{QVariantMap{{"title", "Nameless"}},
+                                    QVariantMap{{"calendarIdentifier", "A"}, {"title", "Art"}}});
+    groups.addCalendarGroup();
+    EXPECT_EQ(stored(3), (QStringList{"Nameless", "Art"})) << "a new group lists every calendar";
+    openSheet();
+    EXPECT_EQ(stored(3), QStringList{"Art"});
+}
+
 TEST_F(ChecklistTest, RowsOfOneCalendarAreTickedTogether) {
     openSheet();
     storeCalendars({"Work", "Art", "Garden", "Home"});

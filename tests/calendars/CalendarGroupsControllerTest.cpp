@@ -121,6 +121,41 @@ TEST_F(CalendarGroupsControllerTest, TicksCountWhenTheSheetCloses) {
     EXPECT_EQ(shown(), QStringLiteral("B"));
 }
 
+TEST_F(CalendarGroupsControllerTest, TicksCountInTheOpenSheetOnceTheArrangedCalendarsChange) {
+    choose(1);
+    controller.awakeFromNib();
+    settings.setObject("isCalendarGroupsSheetActive", true);
+    setGroup({entry("A", false), entry("B", true)});
+    ASSERT_EQ(shown(), QStringLiteral("AC"));
+    calendars.setContent({record("A"), record("B"), record("C"), record("D")});
+    EXPECT_EQ(shown(), QStringLiteral("B"));
+}
+
+TEST_F(CalendarGroupsControllerTest, IdentifiersStandInTheConditionAsTheyAre) {
+    choose(1);
+    controller.awakeFromNib();
+    setGroup({entry("A\" OR calendarIdentifier = \"C", true)});
+    controller.updateFilterPredicate();
+    EXPECT_EQ(calendars.filterName(),
+              QStringLiteral(R"(calendarIdentifier = "A" OR calendarIdentifier = "C")"));
+    EXPECT_EQ(shown(), QStringLiteral("AC"));
+    setGroup({entry("\\B", true)});
+    controller.updateFilterPredicate();
+    EXPECT_EQ(calendars.filterName(), QStringLiteral(R"(calendarIdentifier = "\B")"));
+    EXPECT_EQ(shown(), QStringLiteral("B")) << "a backslash takes the letter behind it";
+}
+
+TEST_F(CalendarGroupsControllerTest, ThePredicateThatIsKeptIsNotTheFilter) {
+    choose(1);
+    controller.awakeFromNib();
+    EXPECT_FALSE(controller.calendarsArrayControllerFilterPredicate().has_value());
+    const auto kept = Predicate::parse("calendarIdentifier = \"B\"");
+    controller.setCalendarsArrayControllerFilterPredicate(kept);
+    controller.updateFilterPredicate();
+    EXPECT_EQ(controller.calendarsArrayControllerFilterPredicate(), kept);
+    EXPECT_EQ(shown(), QStringLiteral("AC"));
+}
+
 TEST_F(CalendarGroupsControllerTest, AnArrivedCalendarIsFilteredToo) {
     choose(1);
     controller.awakeFromNib();
