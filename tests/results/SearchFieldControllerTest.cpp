@@ -101,6 +101,38 @@ TEST_F(SearchFieldControllerTest, AnyOtherViewHasAnEmptyMenuAndKeepsTheRest) {
     EXPECT_EQ(shown(), QStringList{"Team meeting"}) << "nothing happens in such a view";
 }
 
+TEST_F(SearchFieldControllerTest, AnEmptyTextShowsEveryEventInAnyOtherViewToo) {
+    controller.awakeFromNib();
+    for (int view : {2, 3, -1}) {
+        settings.setObject("viewMode", 0);
+        type("lunch");
+        settings.setObject("viewMode", view);
+        EXPECT_EQ(shown(), QStringList{"Lunch"}) << view;
+        type("");
+        EXPECT_EQ(shown(), all) << view;
+    }
+}
+
+TEST_F(SearchFieldControllerTest, InAnyOtherViewBothLabelsStayThoseOfTheViewBefore) {
+    settings.setObject("viewMode", 1);
+    controller.awakeFromNib();
+    for (int view : {2, 3, -1}) {
+        settings.setObject("viewMode", view);
+        EXPECT_EQ(field.label, QStringLiteral("Search Reminders")) << view;
+        EXPECT_EQ(field.paletteLabel, QStringLiteral("Search Reminders")) << view;
+    }
+}
+
+TEST_F(SearchFieldControllerTest, ACategoryThatIsNoneOfTheMenusSearchesEverywhere) {
+    controller.awakeFromNib();
+    for (const qint64 category : {qint64{0}, qint64{1}, qint64{5}, qint64{-1}}) {
+        controller.setSearchCategory(category);
+        type("");
+        type("MEET");
+        EXPECT_EQ(shown(), (QStringList{"Team meeting", "Lunch", "Call"})) << category;
+    }
+}
+
 TEST_F(SearchFieldControllerTest, AllFindsTitlesLocationsAndNotesInAnyCase) {
     controller.awakeFromNib();
     type("MEET");
