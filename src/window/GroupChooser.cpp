@@ -6,6 +6,7 @@
 #include "window/SettingsBinding.h"
 #include "window/SymbolIcon.h"
 
+#include <QAbstractItemView>
 #include <QHBoxLayout>
 #include <QToolButton>
 
@@ -26,9 +27,12 @@ GroupChooser::GroupChooser(const WindowGroups& groups, SettingsStore& settings, 
     chooser_->setAccessibleName(localized("Calendar Group"));
     chooser_->setToolTip(localized("The calendars of the chosen group are listed"));
     chooser_->setObjectName(indexKey);
-    // A long name must not widen the list.
+    // A long name must widen neither the pane nor the list that opens.
     chooser_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     chooser_->setMinimumContentsLength(8);
+    constexpr int widestNameInCharacters = 50;
+    chooser_->view()->window()->setMaximumWidth(fontMetrics().averageCharWidth() *
+                                                widestNameInCharacters);
     auto* edit = new QToolButton(this);
     edit->setIcon(symbolIcon(Symbol::Edit));
     edit->setAutoRaise(true);

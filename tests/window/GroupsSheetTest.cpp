@@ -2,15 +2,18 @@
 
 #include "WindowFixture.h"
 
+#include "backends/settingsfile/SettingsFile.h"
 #include "window/EmptyState.h"
 #include "window/GroupChooser.h"
 #include "window/NameListModel.h"
 #include "window/NameListView.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAccessible>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QTemporaryDir>
 #include <QTest>
 
 namespace quillet {
@@ -124,8 +127,11 @@ TEST_F(GroupsSheetTest, AGroupWithoutCalendarsSaysSoAndOffersTheSheet) {
     openSheet();
     addGroup("Nothing");
     closeSheet();
+    ASSERT_EQ(model.rowCount(), 3);
+    const int queries = store.queries;
     groupsFilter.setCalendarGroupsSelectedIndex(1);
     fetch();
+    EXPECT_EQ(store.queries, queries) << "without a calendar the store is not asked";
     auto* empty = window->findChild<EmptyState*>();
     ASSERT_TRUE(empty->isVisible());
     EXPECT_EQ(model.rowCount(), 0);
@@ -217,6 +223,69 @@ TEST_F(GroupsSheetTest, CalendarsThatComeAndGoShowInTheOpenSheetWithoutEndingAnE
     EXPECT_EQ(groups.arranged(1).calendarGroupName, QStringLiteral("Renamed"));
 }
 
+TEST_F(GroupsSheetTest, WhereEveryCalendarVanishesTheOpenSheetStaysAndTheListIsEmpty) {
+    openSheet();
+    addGroup("A");
+    tick(0);
+    tick(1);
+    store.storedCalendars = {};
+    store.storedEvents = {};
+    calendars.storeChanged();
+    fetch();
+    EXPECT_TRUE(sheet->isVisible());
+    EXPECT_TRUE(checks->isVisible());
+    EXPECT_EQ(checks->model()->rowCount(), 0);
+    EXPECT_EQ(shownCalendars(), QStringList());
+    addGroup("B");
+    EXPECT_EQ(checks->model()->rowCount(), 0);
+    store.storedCalendars = {calendar("w", "Work", "red")};
+    calendars.storeChanged();
+    EXPECT_EQ(texts(*checks->model()), QStringList{"Work"});
+    select(1);
+    EXPECT_EQ(texts(*checks->model()), QStringList{"Work"});
+    EXPECT_EQ(checks->model()->index(0, 0).data(Qt::CheckStateRole), QVariant(Qt::Unchecked));
+    closeSheet();
+    EXPECT_EQ(chooserTexts(), (QStringList{"All Calendars", "A", "B"}));
+}
+
+TEST_F(GroupsSheetTest, TypedNamesOfEveryKindAreThereAtTheNextStart) {
+    const QString quoted = QStringLiteral(R"(Q "1" 'n' \ 100% %1 %@ &quot; {"x": 1})");
+    const QString longName = QString(5000, u'x') + QString(5000, u'y');
+    openSheet();
+    addGroup(quoted);
+    press("addCalendarGroup");
+    // Keys cannot type these quickly, or at all: they are pasted.
+    list->findChild<QLineEdit*>()->setText(longName);
+    list->commitEditing();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    press("addCalendarGroup");
+    list->findChild<QLineEdit*>()->setText("two\nlines\r\nand\u2028three");
+    list->commitEditing();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    addGroup(" ");
+    closeSheet();
+
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("settings.json");
+    {
+        SettingsFile file(path);
+        for (const QString& key : settings.keys()) {
+            file.setObject(key, settings.object(key));
+        }
+    }
+    SettingsFile file(path);
+    CalendarGroupsArrayController next(file, alerts);
+    next.awakeFromNib();
+    QStringList names;
+    for (const CalendarGroup& group : *next.content()) {
+        names << group.calendarGroupName;
+    }
+    EXPECT_EQ(names, (QStringList{"All Calendars", quoted, longName, "two lines and three",
+                                  "New Group 4"}))
+        << "a name that nobody could see is refused";
+    EXPECT_FALSE(file.startMessage().has_value());
+}
+
 TEST_F(GroupsSheetTest, NamesOfEveryKindAreShownOnOneLine) {
     const QString longName(5000, u'x');
     openSheet();
@@ -232,6 +301,10 @@ TEST_F(GroupsSheetTest, NamesOfEveryKindAreShownOnOneLine) {
     groups.setCalendarGroupName(1, "  ");
     EXPECT_EQ(chooserTexts(), (QStringList{"All Calendars", "(no name)", longName}));
     EXPECT_LT(chooser->sizeHint().width(), window->width() / 2);
+    closeSheet();
+    chooser->showPopup();
+    EXPECT_LT(chooser->view()->window()->width(), window->width() / 2);
+    chooser->hidePopup();
 }
 
 TEST_F(GroupsSheetTest, AListChangedFromElsewhereIsShownAndEditsOfVanishedGroupsAreDropped) {
