@@ -1,12 +1,15 @@
 """Groups narrow the calendars, the search the events of those: by keyboard and as a screen reader
 does."""
 
+import json
+
 from accessibility import (ROLE, Atspi, children, has_state, press_key, type_keys, type_text,
                            wait_for)
 from months import entries, show_this_month, titles, write_calendars
 from program import SETTINGS, Quillet
 
 TICKED = Atspi.StateType.CHECKED
+GROUP = 'Bill "1" & 100% %@'
 
 
 def names(program, listed):
@@ -43,7 +46,7 @@ def choose_group(program, key):
 
 
 def check_groups(program):
-    make_group(program, "Billable", "Work")
+    make_group(program, GROUP, "Work")
     choose_group(program, "Down")
     program.wait_for_calendars(["Work"])
     program.wait_for_titles(titles([entry for entry in entries(0) if entry.calendar == "Work"]))
@@ -71,7 +74,7 @@ def check_search(program):
 
 def check_removal(program):
     program.press("Edit Calendar Groups")
-    wait_for("the groups", lambda: group_names(program) == ["All Calendars", "Billable"])
+    wait_for("the groups", lambda: group_names(program) == ["All Calendars", GROUP])
     program.focus("Calendar Groups", {ROLE.LIST})
     press_key("Home")
     program.press("Delete")
@@ -82,7 +85,7 @@ def check_removal(program):
     program.press("Delete")
     program.wait_for_text("Delete the group?")
     program.press("Cancel")
-    assert group_names(program) == ["All Calendars", "Billable"]
+    assert group_names(program) == ["All Calendars", GROUP]
     program.press("Delete")
     program.press("OK")
     wait_for("the group to go", lambda: group_names(program) == ["All Calendars"])
@@ -102,7 +105,8 @@ def main():
         check_search(program)
         check_removal(program)
     assert program.log == "", f"the program logged:\n{program.log}"
-    assert "Billable" not in SETTINGS.read_text()
+    groups = json.loads(SETTINGS.read_text())["calendarGroups"]
+    assert [group["calendarGroupName"] for group in groups] == ["All Calendars"]
 
 
 main()
