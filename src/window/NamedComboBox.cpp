@@ -2,6 +2,8 @@
 
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
+#include <QStyle>
+#include <QStyleOptionComboBox>
 
 namespace quillet {
 
@@ -70,5 +72,14 @@ NamedComboBox::NamedComboBox(QWidget* parent)
 }
 
 NamedComboBox::~NamedComboBox() = default;
+
+void NamedComboBox::initStyleOption(QStyleOptionComboBox* option) const {
+    QComboBox::initStyleOption(option);
+    const QRect field =
+        style()->subControlRect(QStyle::CC_ComboBox, option, QStyle::SC_ComboBoxEditField, this);
+    // The style leaves a pixel free on either side of the text.
+    option->currentText =
+        option->fontMetrics.elidedText(option->currentText, Qt::ElideRight, field.width() - 2);
+}
 
 } // namespace quillet

@@ -7,12 +7,14 @@
 #include "window/GroupChooser.h"
 #include "window/NameListModel.h"
 #include "window/NameListView.h"
+#include "window/NamedComboBox.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QStyleOptionComboBox>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -315,6 +317,24 @@ TEST_F(GroupsSheetTest, NamesOfEveryKindAreShownOnOneLine) {
     EXPECT_EQ(chooserTexts(), (QStringList{"All Calendars", "(no name)", longName}));
     EXPECT_LT(chooser->sizeHint().width(), window->width() / 2);
     EXPECT_LT(chooser->view()->window()->maximumWidth(), window->width() / 2);
+}
+
+TEST_F(GroupsSheetTest, AChosenNameWithoutRoomEndsInAnEllipsisForTheEyeAlone) {
+    struct Box final : NamedComboBox {
+        [[nodiscard]] QString drawnText() const {
+            QStyleOptionComboBox option;
+            initStyleOption(&option);
+            return option.currentText;
+        }
+    };
+    Box box;
+    box.resize(box.fontMetrics().averageCharWidth() * 20, box.sizeHint().height());
+    box.addItems({"Short", QStringLiteral("Long ").repeated(20)});
+    EXPECT_EQ(box.drawnText(), QStringLiteral("Short"));
+    box.setCurrentIndex(1);
+    EXPECT_TRUE(box.drawnText().startsWith("Long L")) << box.drawnText().toStdString();
+    EXPECT_TRUE(box.drawnText().endsWith(u'…')) << box.drawnText().toStdString();
+    EXPECT_EQ(box.currentText(), QStringLiteral("Long ").repeated(20));
 }
 
 TEST_F(GroupsSheetTest, AListChangedFromElsewhereIsShownAndEditsOfVanishedGroupsAreDropped) {
