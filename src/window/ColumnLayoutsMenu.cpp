@@ -24,16 +24,16 @@ void ColumnLayoutsMenu::listLayouts() {
     listed_.clear();
     for (std::size_t row = 0; row < layouts_.arrangedCount(); ++row) {
         const NamedRecord& layout = layouts_.arranged(row);
-        addLayout(*this, layout, &ColumnLayoutsArrayController::setColumnLayout);
+        addLayout(*this, layout, [this] { layouts_.setColumnLayout(); });
         if (row > 0) {
-            addLayout(*deletion_, layout, &ColumnLayoutsArrayController::removeColumnLayout);
+            addLayout(*deletion_, layout, [this] { layouts_.removeColumnLayout(); });
         }
     }
     deletion_->setEnabled(!deletion_->isEmpty());
 }
 
 void ColumnLayoutsMenu::addLayout(QMenu& menu, const NamedRecord& layout,
-                                  void (ColumnLayoutsArrayController::*act)()) {
+                                  const std::function<void()>& act) {
     QAction* entry = menu.addAction(menuText(layout.name, menu.fontMetrics()));
     listed_.push_back(entry);
     const auto choose = [this, layout, act] {
@@ -42,7 +42,7 @@ void ColumnLayoutsMenu::addLayout(QMenu& menu, const NamedRecord& layout,
         if (found != layouts_.content()->end()) {
             layouts_.setSelectedRows(
                 {static_cast<std::size_t>(found - layouts_.content()->begin())});
-            (layouts_.*act)();
+            act();
         }
     };
     // Later: an assistive program's choice must be answered before an alert waits for the user.

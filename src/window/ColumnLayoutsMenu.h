@@ -4,6 +4,7 @@
 
 #include <QMenu>
 
+#include <functional>
 #include <vector>
 
 namespace quillet {
@@ -21,8 +22,7 @@ public:
 private:
     void listLayouts();
     /// An entry with a layout's name, which selects the layout and then acts.
-    void addLayout(QMenu& menu, const NamedRecord& layout,
-                   void (ColumnLayoutsArrayController::*act)());
+    void addLayout(QMenu& menu, const NamedRecord& layout, const std::function<void()>& act);
 
     ColumnLayoutsArrayController& layouts_;
     QMenu* deletion_;
