@@ -139,8 +139,15 @@ TEST_F(RemoteCalendarTest, keepsWhatWasFetchedWhileTheServerIsAway) {
     open();
     ASSERT_TRUE(waitForTitles({"Daily", "Daily"}, patientMilliseconds));
     stopServer();
-    refresh(remote);
-    EXPECT_TRUE(waitUntil([&] { return problemOf("Remote") == unreachable; }, patientMilliseconds));
+    // The service drops a request to refresh while it is still refreshing.
+    bool isTold = false;
+    constexpr int requests = 10;
+    for (int request = 0; request < requests && !isTold; ++request) {
+        refresh(remote);
+        isTold = waitUntil([&] { return problemOf("Remote") == unreachable; },
+                           patientMilliseconds / requests);
+    }
+    EXPECT_TRUE(isTold);
     EXPECT_EQ(titles(), QStringList({"Daily", "Daily"}));
     write(QStringLiteral("two.ics"),
           eventFile("two", "DTSTART:20240306T100000Z\r\nDURATION:PT1H\r\nSUMMARY:Once"));
