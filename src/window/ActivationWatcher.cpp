@@ -1,6 +1,7 @@
 #include "window/ActivationWatcher.h"
 
 #include <QApplication>
+#include <QTimer>
 
 namespace quillet {
 
@@ -18,8 +19,13 @@ void ActivationWatcher::stateChanged(Qt::ApplicationState state) {
         wasLeft_ = QApplication::activeModalWidget() == nullptr;
         return;
     }
-    if (std::exchange(wasLeft_, false) && QApplication::activeModalWidget() == nullptr) {
-        becameActive_();
+    if (std::exchange(wasLeft_, false)) {
+        // An alert that opened in the midst of the change of focus would not get the keys.
+        QTimer::singleShot(0, this, [this] {
+            if (QApplication::activeModalWidget() == nullptr) {
+                becameActive_();
+            }
+        });
     }
 }
 
