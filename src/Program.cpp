@@ -56,7 +56,8 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
     , access_(
           paths.stateFolder,
           [this](const CalendarAccess::Answer& answer) { answer(dialogs_.askForCalendarAccess()); })
-    , folderStore_(paths.calendarsFolder, access_)
+    , folderStore_(paths.calendarsFolder, access_, QTimeZone::systemTimeZone(),
+                   paths.stateFolder + QStringLiteral("/folder-calendars.json"))
     , calendarService_(
           makeCalendarService(access_, paths.stateFolder,
                               [this](Instant instant) { return formats_.shortTime(instant); }))

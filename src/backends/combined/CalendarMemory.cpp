@@ -1,4 +1,4 @@
-#include "backends/evolution/RememberedCalendars.h"
+#include "backends/combined/CalendarMemory.h"
 
 #include "platform/FileWriting.h"
 #include "platform/Logging.h"
@@ -10,6 +10,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+#include <utility>
+
 namespace quillet {
 
 namespace {
@@ -19,9 +22,7 @@ const QString titleKey = QStringLiteral("title");
 const QString colorKey = QStringLiteral("color");
 constexpr qint64 largestFile = 1'000'000;
 
-} // namespace
-
-CalendarList rememberedCalendars(const QString& path) {
+CalendarList readFrom(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly) || file.size() > largestFile) {
         return {};
@@ -38,7 +39,12 @@ CalendarList rememberedCalendars(const QString& path) {
     return calendars;
 }
 
-void rememberCalendars(const QString& path, const CalendarList& calendars) {
+bool isSame(const CalendarList& left, const CalendarList& right) {
+    return std::ranges::equal(left, right,
+                              [](const auto& one, const auto& other) { return *one == *other; });
+}
+
+std::expected<void, QString> write(const QString& path, const CalendarList& calendars) {
     QJsonArray kept;
     for (const auto& calendar : calendars) {
         kept.append(QJsonObject{{identifierKey, calendar->calendarIdentifier},
@@ -46,12 +52,25 @@ void rememberCalendars(const QString& path, const CalendarList& calendars) {
                                 {colorKey, calendar->colorName}});
     }
     const QString folder = QFileInfo(path).path();
-    const auto written = QDir().mkpath(folder)
-                             ? writeAtomically(path, QJsonDocument(kept).toJson())
-                             : std::unexpected(QStringLiteral("%1: cannot be created").arg(folder));
-    if (!written) {
+    return QDir().mkpath(folder)
+               ? writeAtomically(path, QJsonDocument(kept).toJson())
+               : std::unexpected(QStringLiteral("%1: cannot be created").arg(folder));
+}
+
+} // namespace
+
+CalendarMemory::CalendarMemory(QString path)
+    : path_(std::move(path))
+    , calendars_(path_.isEmpty() ? CalendarList() : readFrom(path_)) {}
+
+void CalendarMemory::keep(const CalendarList& calendars) {
+    if (path_.isEmpty() || isSame(calendars, calendars_)) {
+        return;
+    }
+    calendars_ = calendars;
+    if (const auto written = write(path_, calendars); !written) {
         qCWarning(quilletLog).noquote()
-            << "the list of desktop calendars cannot be kept: " + written.error();
+            << "the list of calendars cannot be kept: " + written.error();
     }
 }
 

@@ -1,7 +1,7 @@
 #include "backends/evolution/EvolutionStore.h"
 
+#include "backends/combined/CalendarMemory.h"
 #include "backends/evolution/Glib.h"
-#include "backends/evolution/RememberedCalendars.h"
 #include "backends/evolution/ServiceSession.h"
 #include "platform/Localized.h"
 
@@ -58,7 +58,8 @@ ServicePicture pictureBeforeStart(const QString& stateFolder) {
     const bool canStart = service == ServicePicture::Service::Starting;
     const Instant now = SystemClock().now();
     ServicePicture picture{service, now, {}};
-    for (const auto& calendar : rememberedCalendars(memoryPath(stateFolder))) {
+    const CalendarMemory memory(memoryPath(stateFolder));
+    for (const auto& calendar : memory.calendars()) {
         CalendarState state;
         state.calendar = calendar;
         state.condition =

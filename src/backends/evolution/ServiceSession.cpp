@@ -1,6 +1,5 @@
 #include "backends/evolution/ServiceSession.h"
 
-#include "backends/evolution/RememberedCalendars.h"
 #include "backends/evolution/SourceDescription.h"
 
 #include <algorithm>
@@ -12,9 +11,26 @@ namespace {
 
 using Service = ServicePicture::Service;
 
-bool isSame(const CalendarList& left, const CalendarList& right) {
-    return std::ranges::equal(left, right,
-                              [](const auto& one, const auto& other) { return *one == *other; });
+/// Whether anybody answers behind the registry: the service has sources of its own, whatever the
+/// user's are, but the library opens a registry that is empty where no service can be started.
+bool hasSources(ESourceRegistry* registry) {
+    GList* sources = e_source_registry_list_sources(registry, nullptr);
+    const bool isAny = sources != nullptr;
+    g_list_free_full(sources, g_object_unref);
+    return isAny;
+}
+
+/// Whether one of the names "(as)" is that of the service's registry, in whichever version.
+bool namesTheService(GVariant* names) {
+    GVariantIter* each = nullptr;
+    g_variant_get(names, "(as)", &each);
+    const char* name = nullptr;
+    bool isFound = false;
+    while (g_variant_iter_next(each, "&s", &name) != FALSE) {
+        isFound = isFound || g_str_has_prefix(name, "org.gnome.evolution.dataserver.Sources");
+    }
+    g_variant_iter_free(each);
+    return isFound;
 }
 
 } // namespace
@@ -23,9 +39,9 @@ ServiceSession::ServiceSession(Setup setup)
     : with_(std::move(setup))
     , zones_(with_.zone)
     , since_(clock_.now())
-    , remembered_(rememberedCalendars(with_.memoryPath))
+    , memory_(with_.memoryPath)
     , retryDelay_(with_.limits) {
-    for (const auto& calendar : remembered_) {
+    for (const auto& calendar : memory_.calendars()) {
         calendars_.push_back(newCalendar(calendar));
     }
     publish();
@@ -84,17 +100,16 @@ void ServiceSession::connectToRegistry() {
             if (registry) {
                 registryCame(std::move(registry));
             } else {
-                registryFailed(error);
+                serviceIsGone();
             }
         }));
 }
 
-void ServiceSession::registryFailed(const CallError& error) {
-    const bool isMissing = error.is(G_DBUS_ERROR, G_DBUS_ERROR_SERVICE_UNKNOWN);
-    loseService(isMissing ? Service::Missing : Service::Unreachable);
-}
-
 void ServiceSession::registryCame(ObjectPointer<ESourceRegistry> registry) {
+    if (!hasSources(registry.get())) {
+        serviceIsGone();
+        return;
+    }
     answerTimer_.stop();
     retryDelay_.succeeded();
     registry_ = std::move(registry);
@@ -107,6 +122,25 @@ void ServiceSession::registryCame(ObjectPointer<ESourceRegistry> registry) {
         registryHandlers_.emplace_back(registry_.get(), signal, G_CALLBACK(changed), this);
     }
     refreshSources();
+}
+
+void ServiceSession::serviceIsGone() {
+    g_dbus_connection_call(
+        bus_.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+        "ListActivatableNames", nullptr, nullptr, G_DBUS_CALL_FLAGS_NONE, -1, cancellable_.get(),
+        finishCall,
+        pendingCall([this, cancellable = newReference(cancellable_.get()).release()](
+                        GObject* bus, GAsyncResult* result) {
+            const ObjectPointer<GCancellable> owner(cancellable);
+            CallError error;
+            GVariant* names =
+                g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, error.slot());
+            const bool isMissing = names != nullptr && !namesTheService(names);
+            g_clear_pointer(&names, g_variant_unref);
+            if (g_cancellable_is_cancelled(cancellable) == FALSE) {
+                loseService(isMissing ? Service::Missing : Service::Unreachable);
+            }
+        }));
 }
 
 void ServiceSession::loseService(Service service) {
@@ -135,6 +169,10 @@ void ServiceSession::sourcesChanged() {
 }
 
 void ServiceSession::refreshSources() {
+    if (!hasSources(registry_.get())) {
+        serviceIsGone();
+        return;
+    }
     GList* listed = e_source_registry_list_enabled(registry_.get(), E_SOURCE_EXTENSION_CALENDAR);
     std::vector<ESource*> sources;
     for (const GList* item = listed; item != nullptr; item = item->next) {
@@ -179,10 +217,7 @@ void ServiceSession::remember() {
     for (const auto& calendar : calendars_) {
         present.push_back(calendar->state().calendar);
     }
-    if (!isSame(present, remembered_)) {
-        rememberCalendars(with_.memoryPath, present);
-        remembered_ = std::move(present);
-    }
+    memory_.keep(present);
 }
 
 void ServiceSession::publishSoon() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "backends/combined/CalendarMemory.h"
 #include "backends/evolution/Glib.h"
 #include "backends/evolution/ServiceCalendar.h"
 #include "backends/evolution/ServiceLimits.h"
@@ -40,7 +41,8 @@ private:
     void busCame(GDBusConnection* bus);
     void connectToRegistry();
     void registryCame(ObjectPointer<ESourceRegistry> registry);
-    void registryFailed(const CallError& error);
+    /// Finds out whether it is to come back or was never installed.
+    void serviceIsGone();
     void loseService(ServicePicture::Service service);
     void sourcesChanged();
     void refreshSources();
@@ -63,7 +65,7 @@ private:
     std::vector<SignalHandler> busHandlers_;
     std::vector<SignalHandler> registryHandlers_;
     Calendars calendars_;
-    CalendarList remembered_;
+    CalendarMemory memory_;
     RetryDelay retryDelay_;
     LoopTimer answerTimer_;
     LoopTimer retryTimer_;

@@ -4,15 +4,19 @@
 
 namespace quillet {
 
-FolderLoader::FolderLoader(std::string rootPath, const QTimeZone& zone,
+FolderLoader::FolderLoader(std::string rootPath, const QTimeZone& zone, CalendarMemory memory,
                            std::function<void()> changed)
     : rootPath_(std::move(rootPath))
     , zones_(zone)
+    , memory_(std::move(memory))
     , changed_(std::move(changed))
     , picture_(std::make_shared<const Picture>()) {
     // Watching begins before looking, so that no change falls in between.
     (void)watch_.watchOnly({rootPath_});
     findCalendarsAgain({});
+    if (rootProblem_) {
+        listRemembered();
+    }
     publish(false);
     thread_ = std::jthread([this](const std::stop_token& stop) { run(stop); });
 }

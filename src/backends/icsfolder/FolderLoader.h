@@ -1,5 +1,6 @@
 #pragma once
 
+#include "backends/combined/CalendarMemory.h"
 #include "backends/icsfolder/FolderWatch.h"
 #include "backends/icsfolder/LoadedCalendar.h"
 #include "platform/EventStore.h"
@@ -24,9 +25,11 @@ namespace quillet {
 /// answers come from an immutable picture of all calendars, which is replaced as a whole.
 class FolderLoader {
 public:
-    /// Finds the calendars before it returns; their events follow. `changed` is called on the
-    /// loader's thread after each change, and once when the first load has ended.
-    FolderLoader(std::string rootPath, const QTimeZone& zone, std::function<void()> changed);
+    /// Finds the calendars before it returns; their events follow. Until the root folder can be
+    /// reached its calendars are those that the memory holds. `changed` is called on the loader's
+    /// thread after each change, and once when the first load has ended.
+    FolderLoader(std::string rootPath, const QTimeZone& zone, CalendarMemory memory,
+                 std::function<void()> changed);
     ~FolderLoader();
     FolderLoader(const FolderLoader&) = delete;
     FolderLoader& operator=(const FolderLoader&) = delete;
@@ -67,11 +70,13 @@ private:
     void addListedFiles(std::vector<FileCheck>& checks);
     /// Whether any event or problem changed.
     [[nodiscard]] bool readFiles(std::vector<FileCheck>& checks, const std::stop_token& stop);
+    void listRemembered();
     void publish(bool isLoaded);
     [[nodiscard]] std::shared_ptr<const Picture> picture() const;
 
     std::string rootPath_;
     ZoneCatalog zones_;
+    CalendarMemory memory_;
     std::function<void()> changed_;
     std::vector<LoadedCalendar> loaded_;
     std::optional<QString> rootProblem_;

@@ -250,6 +250,15 @@ bool FolderLoader::watchFolders() {
     return hasNewFolder;
 }
 
+void FolderLoader::listRemembered() {
+    for (const auto& calendar : memory_.calendars()) {
+        CalendarSource source;
+        // No entry of a folder has an empty name: what the folder holds is read anew later.
+        source.calendar = calendar;
+        loaded_.emplace_back(std::move(source));
+    }
+}
+
 void FolderLoader::publish(bool isLoaded) {
     auto next = std::make_shared<Picture>();
     next->isLoaded = isLoaded;
@@ -261,6 +270,9 @@ void FolderLoader::publish(bool isLoaded) {
         next->calendars.push_back(calendar.source().calendar);
         next->contents.insert(calendar.source().calendar->calendarIdentifier, calendar.contents());
         calendar.appendProblems(next->problems);
+    }
+    if (!rootProblem_) {
+        memory_.keep(next->calendars);
     }
     {
         const std::scoped_lock lock(mutex_);

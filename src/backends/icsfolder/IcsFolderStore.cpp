@@ -25,10 +25,11 @@ bool canReach(const QString& path) {
 } // namespace
 
 IcsFolderStore::IcsFolderStore(const QString& rootPath, CalendarAccess& access,
-                               const QTimeZone& zone)
+                               const QTimeZone& zone, const QString& memoryPath)
     : rootPath_(QDir::cleanPath(rootPath))
     , access_(access)
-    , zone_(zone) {
+    , zone_(zone)
+    , memory_(memoryPath) {
     accessObservation_ = access_.observeStatus([this] { (void)loader(); });
     (void)loader();
 }
@@ -36,7 +37,8 @@ IcsFolderStore::IcsFolderStore(const QString& rootPath, CalendarAccess& access,
 IcsFolderStore::~IcsFolderStore() = default;
 
 AuthorizationStatus IcsFolderStore::authorizationStatus() const {
-    return canReach(rootPath_) ? access_.status() : AuthorizationStatus::Restricted;
+    return canReach(rootPath_) || knowsCalendars() ? access_.status()
+                                                   : AuthorizationStatus::Restricted;
 }
 
 void IcsFolderStore::requestAccess(AccessCompletion completion) {
@@ -89,12 +91,18 @@ QString IcsFolderStore::fileOf(const QString& calendarIdentifier,
 
 FolderLoader* IcsFolderStore::loader() const {
     const std::scoped_lock lock(loaderMutex_);
-    if (!loader_ && authorizationStatus() == AuthorizationStatus::Authorized) {
+    if (!loader_ && access_.status() == AuthorizationStatus::Authorized &&
+        (canReach(rootPath_) || !memory_.calendars().empty())) {
         loader_ = std::make_unique<FolderLoader>(
-            QFile::encodeName(rootPath_).toStdString(), zone_,
+            QFile::encodeName(rootPath_).toStdString(), zone_, memory_,
             [this] { mainQueue_->async([this] { observers_.notify(); }); });
     }
     return loader_.get();
+}
+
+bool IcsFolderStore::knowsCalendars() const {
+    const FolderLoader* running = loader();
+    return running != nullptr ? !running->calendars().empty() : !memory_.calendars().empty();
 }
 
 } // namespace quillet

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "backends/combined/CalendarAccess.h"
+#include "backends/combined/CalendarMemory.h"
 #include "platform/EventStore.h"
 #include "platform/ObserverList.h"
 #include "platform/SerialQueue.h"
@@ -21,14 +22,17 @@ class FolderLoader;
 class IcsFolderStore final : public EventStore {
 public:
     /// The root folder is created when it is missing. Floating times and whole days are those of
-    /// the zone. `access` must outlive the store.
+    /// the zone. The file at `memoryPath` keeps which calendars there are, for times when the root
+    /// folder is out of reach; without one nothing is kept. `access` must outlive the store.
     IcsFolderStore(const QString& rootPath, CalendarAccess& access,
-                   const QTimeZone& zone = QTimeZone::systemTimeZone());
+                   const QTimeZone& zone = QTimeZone::systemTimeZone(),
+                   const QString& memoryPath = {});
     IcsFolderStore(const IcsFolderStore&) = delete;
     IcsFolderStore& operator=(const IcsFolderStore&) = delete;
     ~IcsFolderStore() override;
 
-    /// The user's answer; Restricted when the root folder cannot be read or created.
+    /// The user's answer; Restricted when the root folder cannot be read or created, and no
+    /// calendar of it is known.
     [[nodiscard]] AuthorizationStatus authorizationStatus() const override;
     void requestAccess(AccessCompletion completion) override;
     /// Sorted by the names of their files. Known as soon as access is granted, before any event
@@ -52,10 +56,12 @@ public:
 private:
     /// The loader, which starts as soon as it may; null before. Any thread.
     [[nodiscard]] FolderLoader* loader() const;
+    [[nodiscard]] bool knowsCalendars() const;
 
     QString rootPath_;
     CalendarAccess& access_;
     QTimeZone zone_;
+    CalendarMemory memory_;
     ObserverList<> observers_;
     /// Receives the loader's notices on the main thread.
     std::unique_ptr<SerialQueue> mainQueue_ = makeMainQueue();

@@ -50,7 +50,8 @@ protected:
     }
 
     IcsFolderStore& open() {
-        store = std::make_unique<IcsFolderStore>(rootPath(), access, zone);
+        store = std::make_unique<IcsFolderStore>(rootPath(), access, zone,
+                                                 folder.filePath(QStringLiteral("memory.json")));
         observation = store->observeChanges([this] { ++notices; });
         return *store;
     }
