@@ -134,6 +134,11 @@ class Quillet:
             window.get_name() == title and has_state(window, Atspi.StateType.ACTIVE)
             for window in children(self._application)))
 
+    def wait_until_left(self):
+        """Until the program knows that keys go to another one, which is a while after they do."""
+        wait_for("no active window", lambda: not any(
+            has_state(window, Atspi.StateType.ACTIVE) for window in children(self._application)))
+
     def press(self, name):
         """A button of any kind."""
         press(self.control(name, {ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON, ROLE.RADIO_BUTTON,
