@@ -3,6 +3,7 @@
 #include "platform/Instant.h"
 
 #include <QMetaType>
+#include <QSharedData>
 #include <QString>
 
 #include <memory>
@@ -21,6 +22,21 @@ struct StoreCalendar {
     friend bool operator==(const StoreCalendar&, const StoreCalendar&) = default;
 };
 
+/// How other programs tell the occurrences of one recurring event apart.
+class OccurrenceNames : public QSharedData {
+public:
+    OccurrenceNames() = default;
+    OccurrenceNames(const OccurrenceNames&) = delete;
+    OccurrenceNames& operator=(const OccurrenceNames&) = delete;
+    virtual ~OccurrenceNames() = default;
+
+    /// The name of the occurrence of that Event::occurrenceDate: its original start in the zone of
+    /// the series ("20240306T100000").
+    [[nodiscard]] virtual QString nameOf(Instant occurrenceDate) const = 0;
+    /// Whether the calendar holds the occurrence as an exception of the rule, by that name.
+    [[nodiscard]] virtual bool isException() const = 0;
+};
+
 /// What all occurrences of one event share. A missing text is a null QString.
 struct EventDetails {
     std::shared_ptr<const StoreCalendar> calendar;
@@ -31,6 +47,8 @@ struct EventDetails {
     /// The identifier under which the outside knows the event (its UID).
     QString eventIdentifier;
     bool isAllDay = false;
+    /// Null for an event that does not recur. One pointer, for most events do not.
+    QExplicitlySharedDataPointer<const OccurrenceNames> occurrenceNames = {};
 };
 
 /// One event of a calendar, or one occurrence of a recurring one, as the store delivers it. Small

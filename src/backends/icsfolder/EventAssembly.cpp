@@ -1,5 +1,6 @@
 #include "backends/icsfolder/EventAssembly.h"
 
+#include "backends/icsfolder/OccurrenceNaming.h"
 #include "platform/Localized.h"
 
 #include <QHash>
@@ -64,7 +65,8 @@ public:
         for (const RawEvent* moved : family.overrides) {
             if (!moved->isCancelled) {
                 const sys_seconds original = originalOf(*moved, family);
-                file_.events.push_back(eventFrom(*moved, original));
+                file_.events.push_back(
+                    eventFrom(*moved, original, nameOfException(moved->recurrenceText)));
             }
         }
     }
@@ -102,11 +104,13 @@ private:
         }
         if (master.rules.empty() && master.extras.empty() && master.exceptions.empty() &&
             overrides.empty()) {
-            file_.events.push_back(eventFrom(master, sys_seconds()));
+            file_.events.push_back(eventFrom(master, sys_seconds(), {}));
             return;
         }
         auto series = std::make_shared<Series>();
-        series->details = detailsFrom(master);
+        const bool recurs = !master.rules.empty() || !master.extras.empty();
+        series->details =
+            detailsFrom(master, recurs ? namesInSeries(*master.start) : OccurrenceNamesPointer());
         series->zone = master.start->zone;
         series->start = master.start->local;
         series->length = master.length();
@@ -189,10 +193,12 @@ private:
         const LocalSeconds original = inZoneOf(master, *moved.recurrenceId);
         series.variations.push_back(
             {series.zone->toInstant(original), moved.start->local - original, moved.length(),
-             moved.start->zone, moved.isCancelled ? nullptr : detailsFrom(moved)});
+             moved.start->zone,
+             moved.isCancelled ? nullptr : detailsFrom(moved, series.details->occurrenceNames)});
     }
 
-    [[nodiscard]] std::shared_ptr<const EventDetails> detailsFrom(const RawEvent& event) const {
+    [[nodiscard]] std::shared_ptr<const EventDetails>
+    detailsFrom(const RawEvent& event, OccurrenceNamesPointer occurrenceNames) const {
         return std::make_shared<const EventDetails>(EventDetails{
             .calendar = calendar_,
             .title = event.title,
@@ -201,13 +207,15 @@ private:
             .url = event.url,
             .eventIdentifier = event.uid.isEmpty() ? identifierFor(event) : event.uid,
             .isAllDay = event.isAllDay(),
+            .occurrenceNames = std::move(occurrenceNames),
         });
     }
 
-    [[nodiscard]] Event eventFrom(const RawEvent& event, sys_seconds occurrence) const {
+    [[nodiscard]] Event eventFrom(const RawEvent& event, sys_seconds occurrence,
+                                  OccurrenceNamesPointer occurrenceNames) const {
         return {event.start->instant(),
                 endOf(event.start->local, event.length(), *event.start->zone), occurrence,
-                detailsFrom(event)};
+                detailsFrom(event, std::move(occurrenceNames))};
     }
 
     void note(const QString& problem) {

@@ -33,6 +33,13 @@ QString freeTextFrom(const icalproperty* property) {
     return isGuarded ? text.sliced(1, text.size() - 2) : text;
 }
 
+QString writtenForm(const icalproperty* property) {
+    char* const text = icalproperty_get_value_as_string_r(property);
+    const QString form = QString::fromUtf8(text);
+    icalmemory_free_buffer(text);
+    return form;
+}
+
 class EventReader {
 public:
     explicit EventReader(ReadingContext& context)
@@ -99,6 +106,7 @@ private:
             break;
         case ICAL_RECURRENCEID_PROPERTY:
             event_.recurrenceId = timeFrom(property);
+            event_.recurrenceText = writtenForm(property);
             takeRange(property);
             break;
         case ICAL_EXDATE_PROPERTY:
@@ -162,7 +170,7 @@ private:
         if (icaltime_is_utc(time) != 0) {
             static const auto utc =
                 std::make_shared<const ZoneRules>(seconds(0), std::vector<ZoneRules::Transition>());
-            return RawTime{*local, RawTime::Kind::Zoned, utc};
+            return RawTime{*local, RawTime::Kind::Zoned, utc, true};
         }
         icalparameter* parameter = icalproperty_get_first_parameter(property, ICAL_TZID_PARAMETER);
         const char* name = parameter == nullptr ? nullptr : icalparameter_get_tzid(parameter);

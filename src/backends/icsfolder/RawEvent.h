@@ -23,6 +23,8 @@ struct RawTime {
     Kind kind = Kind::Floating;
     /// Never null; the system zone for dates and floating times.
     ZoneCatalog::Rules zone;
+    /// Whether the file gives it in UTC.
+    bool isUtc = false;
 
     [[nodiscard]] std::chrono::sys_seconds instant() const { return zone->toInstant(local); }
 };
@@ -49,6 +51,8 @@ struct RawEvent {
     std::optional<RawTime> end;
     std::optional<EventLength> duration;
     std::optional<RawTime> recurrenceId;
+    /// The same as the file writes it.
+    QString recurrenceText;
     std::vector<RecurrenceRule> rules;
     std::vector<RecurrenceRule> exceptionRules;
     std::vector<Extra> extras;

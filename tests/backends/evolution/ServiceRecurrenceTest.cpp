@@ -60,6 +60,18 @@ TEST_F(ServiceRecurrenceTest, leavesOutExceptionsAndShowsAMovedOccurrenceOnce) {
     EXPECT_EQ(may[0].details->title, QStringLiteral("Moved far"));
     EXPECT_EQ(may[0].occurrenceDate, utc(2024, 3, 6, 9));
     EXPECT_EQ(may[0].endDate, utc(2024, 5, 1, 14));
+    // Other programs ask the service for it by the name that the service gives it.
+    ASSERT_TRUE(may[0].details->occurrenceNames);
+    EXPECT_TRUE(may[0].details->occurrenceNames->isException());
+    const QByteArray name =
+        may[0].details->occurrenceNames->nameOf(may[0].occurrenceDate).toLatin1();
+    CallError error;
+    ICalComponent* found = nullptr;
+    e_cal_client_get_object_sync(clientOf(work), "daily", name.constData(), &found, nullptr,
+                                 error.slot());
+    EXPECT_FALSE(error) << error.message().toStdString();
+    const ObjectPointer<ICalComponent> owner(found);
+    EXPECT_EQ(QByteArrayView(i_cal_component_get_summary(found)), QByteArrayView("Moved far"));
 }
 
 TEST_F(ServiceRecurrenceTest, showsDatesThatAListAddsAndLeavesOutCancelledOnes) {
