@@ -252,6 +252,10 @@ EventPlace Program::placeOf(const EventRequest& request) const {
         if (event.details->eventIdentifier == request.eventIdentifier) {
             place.start =
                 QDateTime::fromMSecsSinceEpoch(event.startDate.time_since_epoch().count());
+            if (const auto& names = event.details->occurrenceNames) {
+                place.occurrence = names->nameOf(event.occurrenceDate);
+                place.isException = names->isException();
+            }
         }
     }
     return place;

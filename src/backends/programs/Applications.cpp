@@ -13,8 +13,8 @@ std::vector<DesktopEntry> Applications::handlers(const QString& mimeType) const 
 }
 
 std::expected<void, QString> Applications::open(const DesktopEntry& entry,
-                                                const QString& address) const {
-    const auto command = commandLine(entry, address);
+                                                const QStringList& addresses) const {
+    const auto command = commandLine(entry, addresses);
     return run(entry, command.value_or(QStringList()));
 }
 

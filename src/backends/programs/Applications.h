@@ -22,9 +22,9 @@ public:
 
     /// See DesktopEntries::handlers().
     [[nodiscard]] std::vector<DesktopEntry> handlers(const QString& mimeType) const;
-    /// The error is a text for the user.
+    /// See commandLine(). The error is a text for the user.
     [[nodiscard]] std::expected<void, QString> open(const DesktopEntry& entry,
-                                                    const QString& address) const;
+                                                    const QStringList& addresses) const;
     /// Starts the entry's program with these arguments instead of those of its command.
     [[nodiscard]] std::expected<void, QString> start(const DesktopEntry& entry,
                                                      const QStringList& arguments) const;

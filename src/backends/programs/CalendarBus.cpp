@@ -55,20 +55,21 @@ bool SessionCalendarBus::waitUntilRunning(const QString& service) const {
     return isRunning(service) || wait.run();
 }
 
-std::expected<void, QString>
-SessionCalendarBus::showInGnomeCalendar(const QString& serviceCalendar, const QString& uid,
-                                        const std::optional<QDateTime>& start) {
+std::expected<void, QString> SessionCalendarBus::showInGnomeCalendar(const EventPlace& place,
+                                                                     const QString& uid) {
     const QString program = QStringLiteral("gnome-calendar");
     if (auto started = startService(QStringLiteral("org.gnome.Calendar")); !started) {
         return started;
     }
-    if (start) {
-        if (auto shown = run(program, {QStringLiteral("--date"), gnomeCalendarDate(*start)});
+    if (place.start) {
+        if (auto shown = run(program, {QStringLiteral("--date"), gnomeCalendarDate(*place.start)});
             !shown) {
             return shown;
         }
     }
-    return run(program, {QStringLiteral("--uuid"), serviceCalendar + u':' + uid});
+    const QString event = place.serviceCalendar + u':' + uid;
+    return run(program, {QStringLiteral("--uuid"),
+                         place.occurrence.isEmpty() ? event : event + u':' + place.occurrence});
 }
 
 std::expected<void, QString>

@@ -1,12 +1,11 @@
 #pragma once
 
+#include "backends/programs/EventPlace.h"
+
 #include <QDBusConnection>
-#include <QDateTime>
-#include <QString>
 
 #include <chrono>
 #include <expected>
-#include <optional>
 
 namespace quillet {
 
@@ -19,10 +18,9 @@ public:
     [[nodiscard]] virtual bool isRunning(const QString& service) const = 0;
     /// Waits until a program has that name; false when none takes it in time.
     [[nodiscard]] virtual bool waitUntilRunning(const QString& service) const = 0;
-    /// The program looks only among the days that it shows: `start`, local time, takes it there.
-    virtual std::expected<void, QString>
-    showInGnomeCalendar(const QString& serviceCalendar, const QString& uid,
-                        const std::optional<QDateTime>& start) = 0;
+    /// The program looks only among the days that it shows: the place's start takes it there.
+    virtual std::expected<void, QString> showInGnomeCalendar(const EventPlace& place,
+                                                             const QString& uid) = 0;
     /// `service` is the program's name on the bus.
     virtual std::expected<void, QString>
     showInKdeCalendar(const QString& service, const QString& uid,
@@ -40,9 +38,8 @@ public:
 
     [[nodiscard]] bool isRunning(const QString& service) const override;
     [[nodiscard]] bool waitUntilRunning(const QString& service) const override;
-    std::expected<void, QString>
-    showInGnomeCalendar(const QString& serviceCalendar, const QString& uid,
-                        const std::optional<QDateTime>& start) override;
+    std::expected<void, QString> showInGnomeCalendar(const EventPlace& place,
+                                                     const QString& uid) override;
     std::expected<void, QString> showInKdeCalendar(const QString& service, const QString& uid,
                                                    const std::optional<QDateTime>& start) override;
 

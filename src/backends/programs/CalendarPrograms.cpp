@@ -33,12 +33,19 @@ std::unexpected<QString> noEventThere() {
 
 } // namespace
 
-QString calendarAddress(const QString& serviceCalendar, const QString& uid) {
+QString eventAddress(const EventPlace& place, const QString& uid) {
     const auto encoded = [](const QString& text) {
         return QString::fromLatin1(QUrl::toPercentEncoding(text));
     };
-    return QStringLiteral("calendar:///?source-uid=") + encoded(serviceCalendar) +
-           QStringLiteral("&comp-uid=") + encoded(uid);
+    const QString address = QStringLiteral("calendar:///?source-uid=") +
+                            encoded(place.serviceCalendar) + QStringLiteral("&comp-uid=") +
+                            encoded(uid);
+    return place.isException ? address + QStringLiteral("&comp-rid=") + encoded(place.occurrence)
+                             : address;
+}
+
+QString dayAddress(QDate day) {
+    return QStringLiteral("calendar:///?startdate=") + day.toString(u"yyyyMMdd");
 }
 
 std::expected<void, QString> CalendarPrograms::show(const EventRequest& request) {
@@ -69,7 +76,7 @@ std::expected<void, QString> CalendarPrograms::showAt(const EventPlace& place,
 std::expected<void, QString> CalendarPrograms::showOfService(const EventPlace& place,
                                                              const QString& uid) const {
     if (with_.portal != nullptr) {
-        return with_.portal->openAddress(calendarAddress(place.serviceCalendar, uid));
+        return with_.portal->openAddress(eventAddress(place, uid));
     }
     auto entries = with_.applications.handlers(QStringLiteral("text/calendar"));
     for (DesktopEntry& entry :
@@ -102,9 +109,9 @@ std::expected<void, QString> CalendarPrograms::showIn(const DesktopEntry& entry,
                                                       const QString& uid) const {
     switch (programOf(entry)) {
     case Program::Evolution:
-        return showInEvolution(entry, calendarAddress(place.serviceCalendar, uid));
+        return showInEvolution(entry, place, uid);
     case Program::GnomeCalendar:
-        return with_.bus.showInGnomeCalendar(place.serviceCalendar, uid, place.start);
+        return with_.bus.showInGnomeCalendar(place, uid);
     case Program::KdeCalendar: {
         const QString service = entry.id.chopped(QLatin1StringView(".desktop").size());
         const auto result = with_.bus.showInKdeCalendar(service, uid, place.start);
@@ -118,7 +125,8 @@ std::expected<void, QString> CalendarPrograms::showIn(const DesktopEntry& entry,
 }
 
 std::expected<void, QString> CalendarPrograms::showInEvolution(const DesktopEntry& entry,
-                                                               const QString& address) const {
+                                                               const EventPlace& place,
+                                                               const QString& uid) const {
     const QString service = QStringLiteral("org.gnome.Evolution");
     if (!with_.bus.isRunning(service)) {
         // Started with an address, the program drops it and shows nothing at all.
@@ -128,7 +136,12 @@ std::expected<void, QString> CalendarPrograms::showInEvolution(const DesktopEntr
             return started ? std::unexpected(QStringLiteral("Evolution does not answer")) : started;
         }
     }
-    return with_.applications.open(entry, address);
+    QStringList addresses{eventAddress(place, uid)};
+    if (place.start) {
+        // Asked for both at once it shows them in this order, and the event stays in front.
+        addresses.prepend(dayAddress(place.start->date()));
+    }
+    return with_.applications.open(entry, addresses);
 }
 
 std::expected<void, QString> CalendarPrograms::openFile(const QString& path) const {
@@ -136,7 +149,7 @@ std::expected<void, QString> CalendarPrograms::openFile(const QString& path) con
         return with_.portal->openFile(path);
     }
     const auto entries = with_.applications.handlers(QStringLiteral("text/calendar"));
-    return entries.empty() ? noProgram() : with_.applications.open(entries.front(), path);
+    return entries.empty() ? noProgram() : with_.applications.open(entries.front(), {path});
 }
 
 std::expected<void, QString> CalendarPrograms::noProgram() const {

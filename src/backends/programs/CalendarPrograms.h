@@ -3,29 +3,15 @@
 #include "backends/programs/Applications.h"
 #include "backends/programs/CalendarBus.h"
 #include "backends/programs/DesktopPortal.h"
+#include "backends/programs/EventPlace.h"
 #include "backends/scripts/ScriptRequests.h"
 #include "platform/Alert.h"
-
-#include <QDateTime>
 
 #include <expected>
 #include <functional>
 #include <optional>
 
 namespace quillet {
-
-/// Where an event is to be found by other programs.
-struct EventPlace {
-    /// The identifier under which the desktop's calendar service knows its calendar; empty when
-    /// that is not one of the service's.
-    QString serviceCalendar;
-    /// The iCalendar file that holds it; empty when it is in none.
-    QString file;
-    /// Local time.
-    std::optional<QDateTime> start;
-
-    friend bool operator==(const EventPlace&, const EventPlace&) = default;
-};
 
 /// Asks the user's calendar program to show an event.
 class CalendarPrograms {
@@ -65,8 +51,8 @@ private:
                                                              const QString& uid) const;
     [[nodiscard]] std::expected<void, QString>
     showIn(const DesktopEntry& entry, const EventPlace& place, const QString& uid) const;
-    [[nodiscard]] std::expected<void, QString> showInEvolution(const DesktopEntry& entry,
-                                                               const QString& address) const;
+    [[nodiscard]] std::expected<void, QString>
+    showInEvolution(const DesktopEntry& entry, const EventPlace& place, const QString& uid) const;
     [[nodiscard]] std::expected<void, QString> openFile(const QString& path) const;
     [[nodiscard]] std::expected<void, QString> noProgram() const;
 
@@ -76,8 +62,11 @@ private:
     std::optional<Wanted> next_;
 };
 
-/// The address under which Evolution opens an event of the calendar service; of a series, the
-/// whole.
-[[nodiscard]] QString calendarAddress(const QString& serviceCalendar, const QString& uid);
+/// The address under which Evolution opens an event of the calendar service in a window of its own:
+/// an exception for itself, and for any other occurrence its whole series, since it refuses to open
+/// what only a rule brings forth.
+[[nodiscard]] QString eventAddress(const EventPlace& place, const QString& uid);
+/// The address at which Evolution shows a day.
+[[nodiscard]] QString dayAddress(QDate day);
 
 } // namespace quillet

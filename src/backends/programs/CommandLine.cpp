@@ -4,12 +4,12 @@ namespace quillet {
 
 namespace {
 
-/// Takes an entry's command apart and puts the address in.
+/// Takes an entry's command apart and puts the addresses in.
 class Command {
 public:
-    Command(const DesktopEntry& entry, const QString& address)
+    Command(const DesktopEntry& entry, const QStringList& addresses)
         : entry_(entry)
-        , address_(address) {}
+        , addresses_(addresses) {}
 
     std::optional<QStringList> run() {
         for (; position_ < entry_.exec.size(); ++position_) {
@@ -31,8 +31,8 @@ public:
         if (isMalformed_ || arguments_.isEmpty() || arguments_.front().isEmpty()) {
             return std::nullopt;
         }
-        if (!hasAddress_ && !address_.isEmpty()) {
-            arguments_.append(address_);
+        if (!hasAddress_ && !addresses_.isEmpty()) {
+            arguments_.append(addresses_.back());
         }
         return arguments_;
     }
@@ -74,8 +74,11 @@ private:
             // An address is never the program.
             isMalformed_ = isMalformed_ || arguments_.isEmpty();
             // Once is enough, and some entries name several.
-            if (!hasAddress_ && !address_.isEmpty()) {
-                append(address_);
+            if (!hasAddress_ && !addresses_.isEmpty()) {
+                if (code.isUpper() && !isWithinArgument_) {
+                    arguments_.append(addresses_.first(addresses_.size() - 1));
+                }
+                append(addresses_.back());
             }
             hasAddress_ = true;
         } else if (code == u'c') {
@@ -94,7 +97,7 @@ private:
     }
 
     const DesktopEntry& entry_;
-    const QString& address_;
+    const QStringList& addresses_;
     qsizetype position_ = 0;
     QStringList arguments_;
     QString argument_;
@@ -105,8 +108,8 @@ private:
 
 } // namespace
 
-std::optional<QStringList> commandLine(const DesktopEntry& entry, const QString& address) {
-    return Command(entry, address).run();
+std::optional<QStringList> commandLine(const DesktopEntry& entry, const QStringList& addresses) {
+    return Command(entry, addresses).run();
 }
 
 } // namespace quillet

@@ -38,10 +38,11 @@ struct DesktopEntry {
     bool needsTerminal = false;
 };
 
-/// The command of an entry for one address or file, program first. The address is data: it takes
-/// the place of one argument or part of it. Nothing when the entry is malformed.
+/// The command of an entry for some addresses or files, program first. An entry that takes only one
+/// gets the last. The addresses are data: each takes the place of one argument or part of it.
+/// Nothing when the entry is malformed.
 [[nodiscard]] std::optional<QStringList> commandLine(const DesktopEntry& entry,
-                                                     const QString& address);
+                                                     const QStringList& addresses);
 
 /// The installed programs. Everything is read from disk at every call, since users install programs
 /// and choose others while this one runs.

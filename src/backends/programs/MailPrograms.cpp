@@ -50,7 +50,7 @@ std::expected<void, QString> MailPrograms::compose(const MessageRequest& request
         takesMessageFile(entry)
             ? composeWithFile(entry, request)
             : composeWithAddress(request, [&](const QString& body) {
-                  return with_.applications.open(entry, mailtoAddress(request.subject, body));
+                  return with_.applications.open(entry, {mailtoAddress(request.subject, body)});
               });
     if (!result) {
         tell(localized("“%1” could not be started").arg(entry.name), result.error());

@@ -59,6 +59,10 @@ protected:
                                                 desktop.path("arguments") + "\n" + commands + "\n");
         ASSERT_TRUE(other.registerService(gnome));
     }
+    static EventPlace placeIn(const QString& serviceCalendar,
+                              const std::optional<QDateTime>& day = {}) {
+        return {.serviceCalendar = serviceCalendar, .file = {}, .start = day};
+    }
     QStringList arguments() {
         QFile file(desktop.path("arguments"));
         return file.open(QIODevice::ReadOnly)
@@ -102,34 +106,45 @@ TEST_F(CalendarBusTest, AProgramThatNeverComesIsWaitedForWithALiveWindowAndNotFo
 TEST_F(CalendarBusTest, AServiceThatStartsAndSaysNothingIsWaitedForWithALiveWindow) {
     daemon.addService(gnome, "/bin/sleep 60");
     Heartbeat heart;
-    EXPECT_FALSE(bus.showInGnomeCalendar("source", "uid", start));
+    EXPECT_FALSE(bus.showInGnomeCalendar(placeIn("source", start), "uid"));
     EXPECT_GE(heart.beats, 10);
     EXPECT_LT(heart.elapsed.elapsed(), 3000);
 }
 
 TEST_F(CalendarBusTest, GnomeCalendarIsToldTheDayAndThenTheEvent) {
     installGnomeCalendar("exit 0");
-    const auto shown = bus.showInGnomeCalendar("source 1", "a \"b\"%20$(d)", start);
+    const auto shown = bus.showInGnomeCalendar(placeIn("source 1", start), "a \"b\"%20$(d)");
     ASSERT_TRUE(shown) << qPrintable(shown.error());
     EXPECT_EQ(arguments(),
               (QStringList{"--date", "03/06/2024 10:00", "--uuid", "source 1:a \"b\"%20$(d)"}));
 }
 
+TEST_F(CalendarBusTest, GnomeCalendarKnowsAnOccurrenceByItsOwnNameAlone) {
+    installGnomeCalendar("exit 0");
+    EventPlace place = placeIn("source");
+    place.occurrence = "20240306T100000";
+    ASSERT_TRUE(bus.showInGnomeCalendar(place, "uid"));
+    place.isException = true;
+    ASSERT_TRUE(bus.showInGnomeCalendar(place, "uid"));
+    EXPECT_EQ(arguments(), (QStringList{"--uuid", "source:uid:20240306T100000", "--uuid",
+                                        "source:uid:20240306T100000"}));
+}
+
 TEST_F(CalendarBusTest, WhatGnomeCalendarMissesIsTheReason) {
-    EXPECT_TRUE(bus.showInGnomeCalendar("s", "u", {}).error().contains(gnome))
+    EXPECT_TRUE(bus.showInGnomeCalendar(placeIn("s"), "u").error().contains(gnome))
         << "nobody has the name";
     installGnomeCalendar("exit 3");
-    EXPECT_EQ(bus.showInGnomeCalendar("s", "u", start).error(),
+    EXPECT_EQ(bus.showInGnomeCalendar(placeIn("s", start), "u").error(),
               QStringLiteral("gnome-calendar ended with 3"));
     EXPECT_EQ(arguments(), (QStringList{"--date", "03/06/2024 10:00"})) << "and no more is tried";
     installGnomeCalendar("exec sleep 60");
     Heartbeat heart;
-    EXPECT_EQ(bus.showInGnomeCalendar("s", "u", {}).error(),
+    EXPECT_EQ(bus.showInGnomeCalendar(placeIn("s"), "u").error(),
               QStringLiteral("gnome-calendar does not answer"));
     EXPECT_GE(heart.beats, 10);
     EXPECT_LT(heart.elapsed.elapsed(), 3000);
     qputenv("PATH", "/nonexistent");
-    EXPECT_FALSE(bus.showInGnomeCalendar("s", "u", {}).error().isEmpty());
+    EXPECT_FALSE(bus.showInGnomeCalendar(placeIn("s"), "u").error().isEmpty());
 }
 
 TEST_F(CalendarBusTest, KdeProgramsGetTheEventInTheFormThatTheyDeclare) {
@@ -146,12 +161,12 @@ TEST_F(CalendarBusTest, ABusThatEndsWhileAProgramIsWaitedForEndsNothingElse) {
     QTimer::singleShot(50ms, [this] { daemon.end(); });
     EXPECT_FALSE(bus.waitUntilRunning(evolution));
     EXPECT_FALSE(bus.waitUntilRunning(evolution));
-    EXPECT_FALSE(bus.showInGnomeCalendar("s", "u", {}));
+    EXPECT_FALSE(bus.showInGnomeCalendar(placeIn("s"), "u"));
 }
 
 TEST(NoCalendarBusTest, WithoutASessionBusNothingIsShownAndTheReasonSaid) {
     SessionCalendarBus bus;
-    const auto gnomeResult = bus.showInGnomeCalendar("a", "b", {});
+    const auto gnomeResult = bus.showInGnomeCalendar({}, "b");
     ASSERT_FALSE(gnomeResult);
     EXPECT_EQ(gnomeResult.error(), QStringLiteral("there is no session bus"));
     EXPECT_FALSE(bus.showInKdeCalendar("org.kde.korganizer", "b", {}));

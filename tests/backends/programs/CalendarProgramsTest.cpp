@@ -19,11 +19,11 @@ public:
         }
         return doesEvolutionAnswer && service == u"org.gnome.Evolution";
     }
-    std::expected<void, QString>
-    showInGnomeCalendar(const QString& serviceCalendar, const QString& uid,
-                        const std::optional<QDateTime>& start) override {
-        calls.append("gnome " + serviceCalendar + ' ' + uid + ' ' +
-                     (start ? start->toString(Qt::ISODate) : QString()));
+    std::expected<void, QString> showInGnomeCalendar(const EventPlace& place,
+                                                     const QString& uid) override {
+        calls.append("gnome " + place.serviceCalendar + ' ' + uid + ' ' +
+                     (place.start ? place.start->toString(Qt::ISODate) : QString()) +
+                     place.occurrence);
         return gnomeAnswer;
     }
     std::expected<void, QString> showInKdeCalendar(const QString& service, const QString& uid,
@@ -99,14 +99,15 @@ protected:
 
 } // namespace
 
-TEST_F(CalendarProgramsTest, EvolutionOpensAnEventOfTheServiceByItsAddress) {
+TEST_F(CalendarProgramsTest, EvolutionShowsTheDayAndThenTheEventByTheirAddresses) {
     installEvolution();
     ASSERT_TRUE(show());
     ASSERT_EQ(launcher.launched.size(), 1);
     EXPECT_EQ(launcher.launched.front().first, desktop.path("bin/evolution"));
     EXPECT_EQ(launcher.launched.front().second,
-              QStringList{"calendar:///?source-uid=source%201&comp-uid="
-                          "a%20%22b%22%2520%26c%0A%27%24%28d%29"});
+              (QStringList{"calendar:///?startdate=20240306",
+                           "calendar:///?source-uid=source%201&comp-uid="
+                           "a%20%22b%22%2520%26c%0A%27%24%28d%29"}));
     EXPECT_TRUE(bus.calls.isEmpty());
 }
 
@@ -117,10 +118,34 @@ TEST_F(CalendarProgramsTest, AnEvolutionThatDoesNotRunIsStartedBeforeItGetsTheAd
     ASSERT_EQ(launcher.launched.size(), 2);
     EXPECT_EQ(launcher.launched[0].second, (QStringList{"-c", "calendar"}));
     EXPECT_EQ(launcher.launched[1].second,
-              QStringList{"calendar:///?source-uid=source%201&comp-uid=uid"});
+              (QStringList{"calendar:///?startdate=20240306",
+                           "calendar:///?source-uid=source%201&comp-uid=uid"}));
     bus.doesEvolutionAnswer = false;
     EXPECT_EQ(show("uid").error(), QStringLiteral("Evolution does not answer"));
     EXPECT_EQ(launcher.launched.size(), 3);
+}
+
+TEST_F(CalendarProgramsTest, EvolutionIsNamedAnExceptionOfASeriesButNoOccurrenceOfTheRule) {
+    installEvolution();
+    place.start.reset();
+    place.occurrence = "2024 03&06";
+    ASSERT_TRUE(show("uid"));
+    EXPECT_EQ(launcher.launched.last().second,
+              QStringList{"calendar:///?source-uid=source%201&comp-uid=uid"})
+        << "it would find nothing";
+    place.isException = true;
+    ASSERT_TRUE(show("uid"));
+    EXPECT_EQ(launcher.launched.last().second,
+              QStringList{"calendar:///?source-uid=source%201&comp-uid=uid"
+                          "&comp-rid=2024%2003%2606"});
+}
+
+TEST_F(CalendarProgramsTest, AnEvolutionThatTakesOneAddressGetsThatOfTheEvent) {
+    desktop.install("org.gnome.Evolution.desktop", "evolution %u", type);
+    ASSERT_TRUE(show("uid"));
+    ASSERT_EQ(launcher.launched.size(), 1);
+    EXPECT_EQ(launcher.launched.front().second,
+              QStringList{"calendar:///?source-uid=source%201&comp-uid=uid"});
 }
 
 TEST_F(CalendarProgramsTest, GnomeCalendarIsToldTheDayAsWell) {

@@ -162,14 +162,18 @@ TEST_F(DesktopEntriesTest, KeyFilesUnescapeTextsAndKeepTheFirstOfEqualKeys) {
 
 namespace {
 
-QStringList commandOf(const QString& exec, const QString& address) {
+QStringList commandOf(const QString& exec, const QStringList& addresses) {
     const DesktopEntry entry{.id = "a.desktop",
                              .path = "/apps/a.desktop",
                              .name = "The %u Program",
                              .icon = "an icon",
                              .exec = exec,
                              .mimeTypes = {}};
-    return commandLine(entry, address).value_or(QStringList{"(none)"});
+    return commandLine(entry, addresses).value_or(QStringList{"(none)"});
+}
+
+QStringList commandOf(const QString& exec, const QString& address) {
+    return commandOf(exec, address.isEmpty() ? QStringList() : QStringList{address});
 }
 
 } // namespace
@@ -182,6 +186,17 @@ TEST(CommandLineTest, TheAddressTakesThePlaceOfItsCode) {
     EXPECT_EQ(commandOf("mail %u %F", "mailto:a"), (QStringList{"mail", "mailto:a"}));
     EXPECT_EQ(commandOf("mail", "mailto:a"), (QStringList{"mail", "mailto:a"}));
     EXPECT_EQ(commandOf("mail %u", ""), QStringList{"mail"});
+}
+
+TEST(CommandLineTest, SeveralAddressesGoWhereTheEntryTakesSeveralAndElseTheLastGoes) {
+    const QStringList two{"a 1", "b"};
+    EXPECT_EQ(commandOf("show -x %U -y", two), (QStringList{"show", "-x", "a 1", "b", "-y"}));
+    EXPECT_EQ(commandOf("show %F", two), (QStringList{"show", "a 1", "b"}));
+    EXPECT_EQ(commandOf("show @@u %U @@", two), (QStringList{"show", "@@u", "a 1", "b", "@@"}));
+    for (const char* one : {"show %u", "show %f", "show \"%U\"", "show"}) {
+        EXPECT_EQ(commandOf(one, two), (QStringList{"show", "b"})) << one;
+    }
+    EXPECT_EQ(commandOf("show --at=%U", two), (QStringList{"show", "--at=b"}));
 }
 
 TEST(CommandLineTest, TheAddressIsDataWhateverItHolds) {
