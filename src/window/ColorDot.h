@@ -5,7 +5,8 @@
 
 namespace quillet {
 
-/// A filled circle the size of a small icon; an empty icon for an invalid colour.
+/// A filled circle the size of a small icon; a grey ring for an invalid colour, which keeps the
+/// names of calendars without a colour in line with the others.
 [[nodiscard]] QIcon colorDot(const QColor& color);
 
 } // namespace quillet
