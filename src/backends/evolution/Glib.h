@@ -40,6 +40,9 @@ public:
     [[nodiscard]] bool is(GQuark domain, int code) const {
         return g_error_matches(error_, domain, code) != FALSE;
     }
+    [[nodiscard]] bool isOf(GQuark domain) const {
+        return error_ != nullptr && error_->domain == domain;
+    }
     [[nodiscard]] QString message() const {
         return error_ == nullptr ? QString() : QString::fromUtf8(error_->message);
     }

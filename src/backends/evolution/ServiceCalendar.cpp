@@ -15,6 +15,13 @@ ServiceCalendar& self(gpointer data) {
     return *static_cast<ServiceCalendar*>(data);
 }
 
+/// What the service itself says; what only tells that nobody answered says nothing.
+QString refusalIn(const CallError& error) {
+    const bool isOfService =
+        error.isOf(E_CLIENT_ERROR) || error.is(G_IO_ERROR, G_IO_ERROR_NOT_FOUND);
+    return isOfService ? error.message() : QString();
+}
+
 } // namespace
 
 ServiceCalendar::ServiceCalendar(std::shared_ptr<const StoreCalendar> calendar,
@@ -63,7 +70,7 @@ void ServiceCalendar::connect() {
             if (attempt != nullptr && owner) {
                 connected(*attempt, std::move(owner));
             } else if (attempt != nullptr) {
-                fail();
+                fail(refusalIn(error));
             }
         }));
 }
@@ -243,8 +250,9 @@ void ServiceCalendar::expectAnswer() {
     answerTimer_.start(with_.limits.answer, [this] { fail(); });
 }
 
-void ServiceCalendar::fail() {
+void ServiceCalendar::fail(const QString& refusal) {
     stage_ = Stage::Idle;
+    state_.refusal = refusal;
     attempt_.reset();
     answerTimer_.stop();
     gatheringTimer_.stop();

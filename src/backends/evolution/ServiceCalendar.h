@@ -74,8 +74,8 @@ private:
     /// The data for an asynchronous call of the present attempt.
     [[nodiscard]] gpointer callOf(AttemptCall finish) const;
     void expectAnswer();
-    /// Gives the attempt up and begins another one later.
-    void fail();
+    /// Gives the attempt up and begins another one later. A refusal is what the service said.
+    void fail(const QString& refusal = {});
     void becomeLive();
     void setCondition(CalendarState::Condition condition);
 

@@ -17,6 +17,9 @@ QString conditionText(const CalendarState& state, const QString& since) {
     case Condition::BeingRead:
         return localized("is still being read");
     case Condition::Unreachable:
+        if (!state.refusal.isEmpty()) {
+            return localized("cannot be read: %1").arg(state.refusal);
+        }
         return localized("not reachable since %1, retrying").arg(since);
     case Condition::ServerUnreachable:
         return localized("its server is not reachable since %1, retrying").arg(since);

@@ -35,6 +35,8 @@ struct CalendarState {
     bool isSettled = false;
     /// Since when it is unreachable.
     Instant since;
+    /// Why the service would not open it, in the service's own words; empty when it does not say.
+    QString refusal;
     QStringList problems;
 };
 

@@ -122,6 +122,11 @@ TEST_F(ServiceBadInputTest, readsWhatItCanOfAFileThatIsGarbage) {
     ASSERT_TRUE(waitForCalendars({"Garbage", "Work"}));
     ASSERT_TRUE(waitForTitles({"First"}));
     EXPECT_TRUE(problemOf(QStringLiteral("Work")).isEmpty());
+    EXPECT_TRUE(waitUntil([this] {
+        const QString problem = problemOf(QStringLiteral("Garbage"));
+        return problem.startsWith(QStringLiteral("cannot be read: ")) &&
+               problem.contains(QStringLiteral("garbage/calendar.ics"));
+    })) << qPrintable(problemOf(QStringLiteral("Garbage")));
 }
 
 TEST_F(ServiceBadInputTest, keepsRunningWithRulesThatNeverEnd) {
