@@ -106,10 +106,9 @@ void ServiceCalendar::zoneCame(Attempt& attempt, const std::string& name, ICalTi
     --attempt.zonesAwaited;
     const ObjectPointer<ICalComponent> component(
         zone == nullptr ? nullptr : i_cal_timezone_get_component(zone));
-    if (component) {
-        const QString definition = takenText(i_cal_component_as_ical_string(component.get()));
-        attempt.hasNewZone = contents_.define(name, definition.toStdString()) || attempt.hasNewZone;
-    }
+    const QString definition =
+        component ? takenText(i_cal_component_as_ical_string(component.get())) : QString();
+    attempt.hasNewZone = contents_.define(name, definition.toStdString()) || attempt.hasNewZone;
     if (stage_ == Stage::Live) {
         noticesCame();
     } else {

@@ -48,6 +48,10 @@ void SourceContents::beginReading() {
     isReading_ = true;
     reading_.clear();
     doubtful_.clear();
+    // Asked for again: whoever was asked before may have gone without an answer.
+    context_.unknownZones.clear();
+    reportedZones_ = 0;
+    awaitedZones_.clear();
 }
 
 void SourceContents::read(icalcomponent_impl& component) {
@@ -77,12 +81,11 @@ void SourceContents::endReading() {
 
 void SourceContents::noteChanged(icalcomponent_impl& component) {
     forEachEvent(component, [this](icalcomponent_impl& event) {
-        const std::size_t unknownBefore = context_.unknownZones.size();
         RawEvent raw = readEvent(event, context_);
         const auto known = known_.constFind(raw.uid);
         const bool hasExceptions = known != known_.constEnd() && known->hasExceptions;
         if (isReading_ || !standsAlone(raw) || hasExceptions || doubtful_.contains(raw.uid) ||
-            context_.unknownZones.size() > unknownBefore) {
+            (raw.hasUnknownZone && areZonesAwaited())) {
             doubtful_.insert(raw.uid);
             return;
         }
@@ -105,14 +108,13 @@ void SourceContents::noteRemoved(const QString& uid) {
 
 void SourceContents::replace(const QString& uid,
                              const std::vector<icalcomponent_impl*>& components) {
-    const std::size_t unknownBefore = context_.unknownZones.size();
     std::vector<RawEvent> events;
     for (icalcomponent_impl* component : components) {
         forEachEvent(*component, [&](icalcomponent_impl& event) {
             events.push_back(readEvent(event, context_));
         });
     }
-    if (context_.unknownZones.size() > unknownBefore) {
+    if (areZonesAwaited() && std::ranges::any_of(events, &RawEvent::hasUnknownZone)) {
         doubtful_.insert(uid);
     }
     if (events.empty()) {
@@ -147,10 +149,16 @@ std::vector<std::string> SourceContents::takeUnknownZones() {
         unknown.begin() + static_cast<std::ptrdiff_t>(std::min(reportedZones_, unknown.size())),
         unknown.end());
     reportedZones_ = unknown.size();
+    awaitedZones_.insert(names.begin(), names.end());
     return names;
 }
 
+bool SourceContents::areZonesAwaited() const {
+    return !awaitedZones_.empty() || context_.unknownZones.size() > reportedZones_;
+}
+
 bool SourceContents::define(const std::string& name, const std::string& definition) {
+    awaitedZones_.erase(name);
     // The parser behind wants lines without folds.
     const IcsBlocks blocks =
         takeApart("BEGIN:VCALENDAR\r\n" + definition + "\r\nEND:VCALENDAR\r\n");

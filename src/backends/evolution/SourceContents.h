@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -64,6 +65,8 @@ private:
     };
 
     [[nodiscard]] Known knownFrom(std::vector<RawEvent> events, WorkBudget& budget) const;
+    /// Whether an event whose zone means nothing now may be understood soon.
+    [[nodiscard]] bool areZonesAwaited() const;
     void setKnown(const QString& uid, Known known);
     void forget(const QString& uid);
 
@@ -74,6 +77,8 @@ private:
     QHash<QString, Known> known_;
     QSet<QString> doubtful_;
     std::size_t reportedZones_ = 0;
+    /// Those of the reported ones that define() was not called for yet.
+    std::set<std::string> awaitedZones_;
     /// What is in contents() but no longer holds, and what is not in it yet. By UID, so that of
     /// several changes only the last one counts.
     QHash<QString, std::shared_ptr<const IcsFile>> gone_;

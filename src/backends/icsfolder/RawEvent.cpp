@@ -189,6 +189,7 @@ private:
             return found->second;
         }
         auto zone = context_.zones.named(std::string(name));
+        event_.hasUnknownZone = event_.hasUnknownZone || !zone;
         if (!zone &&
             std::ranges::find(context_.unknownZones, name) == context_.unknownZones.end() &&
             context_.unknownZones.size() < 10) {

@@ -47,6 +47,8 @@ struct RawEvent {
     bool isThisAndFuture = false;
     /// Whether it names a rule that cannot be followed.
     bool hasUnusableRule = false;
+    /// Whether it names a time zone that means nothing here, and is taken as local time.
+    bool hasUnknownZone = false;
     std::optional<RawTime> start;
     std::optional<RawTime> end;
     std::optional<EventLength> duration;
