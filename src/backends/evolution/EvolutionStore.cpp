@@ -163,7 +163,13 @@ void EvolutionStore::startIfAllowed() {
     }
     const ServiceSession::Setup setup{with_.zone, with_.limits, memoryPath(with_.stateFolder),
                                       board_,
-                                      [this] { mainQueue_->async([this] { announce(); }); }};
+                                      [this, queue = mainQueue_, life = std::weak_ptr(life_)] {
+                                          queue->async([this, life] {
+                                              if (!life.expired()) {
+                                                  announce();
+                                              }
+                                          });
+                                      }};
     thread_ = std::make_unique<LoopThread>(
         [setup]() -> std::shared_ptr<void> { return std::make_shared<ServiceSession>(setup); });
 }

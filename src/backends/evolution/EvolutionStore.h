@@ -65,8 +65,11 @@ private:
     mutable std::atomic<int> runningQueries_ = 0;
     mutable std::atomic<std::chrono::steady_clock::time_point> lastQueryEnd_;
     mutable std::atomic<bool> hasTooMany_ = false;
-    /// Brings the thread's notices to the main thread.
-    std::unique_ptr<SerialQueue> mainQueue_ = makeMainQueue();
+    /// Brings the thread's notices to the main thread. The thread's as well, for one that hangs in
+    /// a call of the service outlives this object.
+    std::shared_ptr<SerialQueue> mainQueue_ = makeMainQueue();
+    /// Gone with this object, for notices that come later.
+    std::shared_ptr<bool> life_ = std::make_shared<bool>(true);
     std::unique_ptr<LoopThread> thread_;
     Observation accessObservation_;
 };
