@@ -15,6 +15,7 @@ namespace {
 
 /// Long enough for a mail program to start, however slow the machine is.
 constexpr qint64 messageFileMinutes = 15;
+const QString messageFiles = QStringLiteral("message-");
 
 /// Those that compose from a file. Programs in containers are started through another one, and
 /// would not see the file.
@@ -25,7 +26,8 @@ bool takesMessageFile(const DesktopEntry& entry) {
 
 void removeOldFiles(const QString& folder) {
     const QDateTime limit = QDateTime::currentDateTime().addSecs(-messageFileMinutes * 60);
-    for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files)) {
+    for (const QFileInfo& file :
+         QDir(folder).entryInfoList({messageFiles + QStringLiteral("*")}, QDir::Files)) {
         if (file.lastModified() < limit) {
             QFile::remove(file.filePath());
         }
@@ -101,7 +103,7 @@ std::expected<QString, QString> MailPrograms::writtenFile(const MessageRequest& 
     removeOldFiles(with_.messageFolder);
     QDir().mkpath(with_.messageFolder);
     // Readable by this user only. It stays, since nobody tells when it has been read.
-    QTemporaryFile file(with_.messageFolder + QStringLiteral("/message-XXXXXX") +
+    QTemporaryFile file(with_.messageFolder + u'/' + messageFiles + QStringLiteral("XXXXXX") +
                         (isStyled(request) ? QStringLiteral(".html") : QStringLiteral(".txt")));
     file.setAutoRemove(false);
     const QByteArray content = isStyled(request) ? messagePage(request) : request.content.toUtf8();

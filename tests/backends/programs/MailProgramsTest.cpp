@@ -120,9 +120,15 @@ TEST_F(MailProgramsTest, FilesOfOldMessagesAreRemovedAndNewOnesStay) {
     ASSERT_TRUE(file.open(QIODevice::ReadWrite));
     file.setFileTime(QDateTime::currentDateTime().addSecs(-3600), QFile::FileModificationTime);
     file.close();
+    desktop.write("run/quillet/notes.txt", "not of this program's making");
+    QFile other(desktop.path("run/quillet/notes.txt"));
+    ASSERT_TRUE(other.open(QIODevice::ReadWrite));
+    other.setFileTime(QDateTime::currentDateTime().addSecs(-3600), QFile::FileModificationTime);
+    other.close();
     ASSERT_TRUE(compose("third"));
-    EXPECT_EQ(messageFiles().size(), 2);
+    EXPECT_EQ(messageFiles().size(), 3);
     EXPECT_FALSE(QFile::exists(old));
+    EXPECT_TRUE(other.exists());
 }
 
 TEST_F(MailProgramsTest, AFileThatCannotBeWrittenIsToldWithItsReason) {
@@ -144,6 +150,14 @@ TEST_F(MailProgramsTest, AThunderbirdInAContainerIsAskedByAddress) {
     desktop.install("a.desktop", "env HINT=x /snap/bin/thunderbird %u", mailto);
     ASSERT_TRUE(compose("text", 10));
     EXPECT_EQ(launcher.launched.last().first, desktop.path("bin/env"));
+    EXPECT_TRUE(messageFiles().isEmpty());
+    const QString snap = desktop.path("snap/bin/thunderbird");
+    desktop.write("snap/bin/thunderbird", "#!/bin/false\n");
+    QFile::setPermissions(snap, QFile::ReadOwner | QFile::ExeOwner);
+    desktop.write("system/applications/a.desktop",
+                  test::ScratchDesktop::entryText(snap + " %u", mailto));
+    ASSERT_TRUE(compose("text", 10));
+    EXPECT_EQ(launcher.launched.last().first, snap);
     EXPECT_TRUE(messageFiles().isEmpty());
 }
 
