@@ -13,6 +13,22 @@ namespace {
 
 using test::utc;
 
+/// Notes what is written about the access while an alert is shown.
+class WatchingAlerts final : public AlertPresenter {
+public:
+    explicit WatchingAlerts(const SettingsStore& settings)
+        : settings_(settings) {}
+    [[nodiscard]] int runModal(const Alert&) override {
+        seen.append(settings_.object("isCalendarAccessGranted"));
+        return 0;
+    }
+
+    QList<QVariant> seen;
+
+private:
+    const SettingsStore& settings_;
+};
+
 class EventKitManagerTest : public testing::Test {
 protected:
     EventKitManagerTest() {
@@ -102,6 +118,63 @@ TEST_F(EventKitManagerTest, WithoutADateOrACalendarTheStoreIsNotAsked) {
     EXPECT_TRUE(
         manager.eventsInCalendars(store.storedCalendars, utc(2024, 3, 2), std::nullopt).empty());
     EXPECT_EQ(store.queries, 0);
+}
+
+TEST_F(EventKitManagerTest, WhatIsKnownOfTheAccessIsWrittenEachTime) {
+    manager.becomeActive();
+    EXPECT_EQ(settings.object("isCalendarAccessGranted"), QVariant(true));
+    store.status = AuthorizationStatus::Denied;
+    manager.becomeActive();
+    EXPECT_EQ(settings.object("isCalendarAccessGranted"), QVariant(false));
+    store.status = AuthorizationStatus::Authorized;
+    manager.becomeActive();
+    EXPECT_EQ(settings.object("isCalendarAccessGranted"), QVariant(true));
+}
+
+TEST_F(EventKitManagerTest, TheRefusalIsWrittenBeforeItIsShown) {
+    WatchingAlerts watching(settings);
+    EventKitManager other(store, settings, watching, main);
+    settings.setObject("isCalendarAccessGranted", true);
+    store.status = AuthorizationStatus::Denied;
+    other.becomeActive();
+    EXPECT_EQ(watching.seen, QList<QVariant>{false});
+}
+
+TEST_F(EventKitManagerTest, TheGrantIsAnnouncedBeforeItIsWritten) {
+    QStringList order;
+    const auto note = [&](const char* what) {
+        return [&order, what] { order.append(QString::fromLatin1(what)); };
+    };
+    QObject::connect(&manager, &EventKitManager::eventCalendarsAccessGrantedChanged,
+                     note("changed"));
+    QObject::connect(&manager, &EventKitManager::accessGranted, note("granted"));
+    const Observation written = settings.observe("isCalendarAccessGranted", note("written"));
+    store.status = AuthorizationStatus::NotDetermined;
+    manager.becomeActive();
+    store.status = AuthorizationStatus::Authorized;
+    store.requests.front()(true, std::nullopt);
+    main.runAll();
+    EXPECT_EQ(order, (QStringList{"changed", "granted", "written"}));
+}
+
+TEST_F(EventKitManagerTest, AnErrorIsLoggedWhateverTheAnswerIs) {
+    store.status = AuthorizationStatus::NotDetermined;
+    manager.becomeActive();
+    const test::ExpectedLog log("failure requesting Events access: disk full");
+    store.requests.front()(true, QStringLiteral("disk full"));
+    main.runAll();
+    EXPECT_EQ(grants, 1);
+}
+
+TEST_F(EventKitManagerTest, AnAnswerThatComesAfterTheEndReachesNobody) {
+    store.status = AuthorizationStatus::NotDetermined;
+    auto ending = std::make_unique<EventKitManager>(store, settings, alerts, main);
+    ending->becomeActive();
+    store.requests.front()(true, std::nullopt);
+    ending.reset();
+    store.requests.front()(true, std::nullopt);
+    main.runAll();
+    EXPECT_FALSE(settings.object("isCalendarAccessGranted").isValid());
 }
 
 } // namespace quillet
