@@ -142,7 +142,24 @@ TEST(ScriptRequestsTest, HugeTextsTakeNoTime) {
               body.replace(QStringLiteral("\\\""), QStringLiteral("\"")));
 }
 
+TEST(ScriptRequestsTest, OnlyTheCalendarShowsEvents) {
+    const QString found = "tell application \"Calendar\"\n"
+                          "set c to (first calendar whose uid is \"work\")\n"
+                          "tell c\nset e to (first event whose uid is \"one\")\nend tell\n"
+                          "end tell\n";
+    EXPECT_FALSE(requestsOfScript(found + "tell application \"Mail\"\nshow e\nend tell"));
+    EXPECT_FALSE(requestsOfScript(found + "show e"));
+    EXPECT_EQ(requestsOf(found + "tell application \"Calendar\"\nshow e\nend tell"),
+              Requests{(EventRequest{"work", "one"})});
+}
+
 TEST(ScriptRequestsTest, DeepNestingIsRefused) {
+    const auto nested = [](int depth) {
+        return QStringLiteral("tell application \"Mail\"\n").repeated(depth) +
+               QStringLiteral("end tell\n").repeated(depth);
+    };
+    EXPECT_TRUE(requestsOfScript(nested(32)));
+    EXPECT_FALSE(requestsOfScript(nested(33)));
     const QString many = QStringLiteral("tell application \"Mail\"\n").repeated(100'000);
     EXPECT_TRUE(errorOf(many).contains("nested too deeply"));
     const QString parentheses = messageOf(QString(1'000'000, u'(') + "\"x\"");
@@ -189,6 +206,8 @@ TEST(ScriptRequestsTest, WhatTheProgramsDoNotKnowGivesNoResult) {
                                   "set color of content to {1,2,3",
                                   "set color of content to (1,2,3)",
                                   "set color of content to {nan,0,0}",
+                                  "set color of content to {1.2.3,0,0}",
+                                  "set color of content to {-,0,0}",
                                   "set colour of content to {1,2,3}",
                                   "set content of content to \"x\"",
                                   "set content to (\"x\"",
