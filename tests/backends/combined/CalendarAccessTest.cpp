@@ -56,6 +56,36 @@ TEST_F(CalendarAccessTest, asksOnlyOnce) {
     EXPECT_EQ(answers, (std::vector<bool>{false, false}));
 }
 
+TEST_F(CalendarAccessTest, asksNobodyWhoHasAllowedItInAnEarlierRun) {
+    access.request(completion());
+    questions.at(0)(true);
+    CalendarAccess later(statePath, asker());
+    later.request(completion());
+    EXPECT_EQ(questions.size(), 1U);
+    EXPECT_EQ(answers, (std::vector<bool>{true, true}));
+}
+
+TEST_F(CalendarAccessTest, takesTheFirstAnswerToAQuestion) {
+    access.request(completion());
+    questions.at(0)(false);
+    questions.at(0)(true);
+    EXPECT_EQ(access.status(), AuthorizationStatus::Denied);
+    EXPECT_EQ(CalendarAccess(statePath, asker()).status(), AuthorizationStatus::Denied);
+    EXPECT_EQ(answers, std::vector<bool>{false});
+}
+
+TEST_F(CalendarAccessTest, tellsOnlyOfAStatusThatIsAnother) {
+    int changes = 0;
+    const Observation observation = access.observeStatus([&] { ++changes; });
+    access.forget();
+    EXPECT_EQ(changes, 0);
+    access.request(completion());
+    questions.at(0)(true);
+    access.forget();
+    access.forget();
+    EXPECT_EQ(changes, 2);
+}
+
 TEST_F(CalendarAccessTest, answersAllRequestsMadeWhileTheQuestionIsOpen) {
     access.request(completion());
     access.request(completion());

@@ -59,7 +59,9 @@ public:
     [[nodiscard]] Observation observeChanges(std::function<void()> /*callback*/) override {
         return {};
     }
-    [[nodiscard]] std::vector<StoreProblem> problems() const override { return {}; }
+    [[nodiscard]] std::vector<StoreProblem> problems() const override {
+        throw std::runtime_error("gone");
+    }
 };
 
 TEST_F(CombinedEventStoreTest, listsTheCalendarsOfAllStoresInTheirOrder) {
@@ -78,6 +80,15 @@ TEST_F(CombinedEventStoreTest, leavesOutAStoreThatIsClosed) {
     EXPECT_EQ(combined.authorizationStatus(), AuthorizationStatus::Authorized);
     EXPECT_EQ(combined.calendars().size(), 1U);
     EXPECT_EQ(titles(), QStringList({"one", "three"}));
+    // Nor is it asked by somebody who still knows its calendars.
+    EXPECT_TRUE(combined.events(second.storedCalendars, utc(2024, 1, 1), utc(2025, 1, 1)).empty());
+    EXPECT_EQ(second.queries, 0);
+}
+
+TEST_F(CombinedEventStoreTest, countsTheSameEventInEachStoreAndOrdersEqualTimesByTitle) {
+    second.storedEvents = {eventAt(second.storedCalendars[0], 9, QStringLiteral("a half of it")),
+                           eventAt(second.storedCalendars[0], 9, QStringLiteral("one"))};
+    EXPECT_EQ(titles(), QStringList({"a half of it", "one", "one", "three"}));
 }
 
 TEST_F(CombinedEventStoreTest, losesOnlyTheCalendarsOfAStoreThatFails) {
@@ -88,6 +99,9 @@ TEST_F(CombinedEventStoreTest, losesOnlyTheCalendarsOfAStoreThatFails) {
     const CalendarList calendars = withFailure.calendars();
     EXPECT_EQ(calendars.size(), 1U);
     EXPECT_EQ(withFailure.events(calendars, utc(2024, 1, 1), utc(2025, 1, 1)).size(), 2U);
+    const ExpectedLog forProblems(QStringLiteral("a calendar store failed: gone"));
+    first.storedProblems = {{QStringLiteral("a"), QStringLiteral("broken")}};
+    EXPECT_EQ(withFailure.problems().size(), 1U);
 }
 
 TEST_F(CombinedEventStoreTest, answersTheBestStatusOfItsStores) {
@@ -113,6 +127,40 @@ TEST_F(CombinedEventStoreTest, completesOnceWhenAllStoresHaveAnswered) {
     EXPECT_TRUE(answers.empty());
     second.requests.at(0)(true, std::nullopt);
     EXPECT_EQ(answers, std::vector<bool>{true});
+}
+
+TEST_F(CombinedEventStoreTest, isGrantedWhenAnyStoreIsAndTellsTheFirstError) {
+    first.status = AuthorizationStatus::NotDetermined;
+    second.status = AuthorizationStatus::NotDetermined;
+    std::vector<std::pair<bool, std::optional<QString>>> answers;
+    combined.requestAccess([&](bool isGranted, const std::optional<QString>& error) {
+        answers.emplace_back(isGranted, error);
+    });
+    first.requests.at(0)(true, QStringLiteral("disk full"));
+    second.requests.at(0)(false, QStringLiteral("no service"));
+    ASSERT_EQ(answers.size(), 1U);
+    EXPECT_TRUE(answers[0].first);
+    EXPECT_EQ(answers[0].second, QStringLiteral("disk full"));
+}
+
+TEST_F(CombinedEventStoreTest, asksOnlyStoresThatHaveNoAnswerYet) {
+    first.status = AuthorizationStatus::Denied;
+    second.status = AuthorizationStatus::NotDetermined;
+    combined.requestAccess([](bool, const std::optional<QString>&) {});
+    EXPECT_TRUE(first.requests.empty());
+    EXPECT_EQ(second.requests.size(), 1U);
+}
+
+TEST_F(CombinedEventStoreTest, answersAtOnceWhatAllStoresHaveAnswered) {
+    std::vector<bool> answers;
+    const auto note = [&](bool isGranted, const std::optional<QString>&) {
+        answers.push_back(isGranted);
+    };
+    first.status = AuthorizationStatus::Denied;
+    combined.requestAccess(note);
+    second.status = AuthorizationStatus::Restricted;
+    combined.requestAccess(note);
+    EXPECT_EQ(answers, (std::vector<bool>{true, false}));
 }
 
 TEST_F(CombinedEventStoreTest, tellsOfTheChangesOfEveryStoreUntilTheObservationEnds) {
