@@ -117,6 +117,18 @@ TEST_F(ReleaseListUpdaterTest, TellsTheServerNothingOfTheComputer) {
     shownFor("/releases.xml");
     EXPECT_TRUE(server.requests().startsWith("GET /releases.xml HTTP/1.1\r\n"));
     EXPECT_TRUE(server.requests().contains("User-Agent: Quillet\r\n"));
+    // What came packed could unfold beyond every limit.
+    EXPECT_TRUE(server.requests().contains("Accept-Encoding: identity\r\n"));
+}
+
+TEST_F(ReleaseListUpdaterTest, KeepsNothingByWhichTheServerCouldKnowItAgain) {
+    server.answer("/releases.xml", goodList, "200 OK", "Set-Cookie: known=again; Path=/\r\n");
+    ReleaseListUpdater search = updater(server.address("/releases.xml"));
+    for (const int results : {2, 4}) {
+        search.checkForUpdates();
+        EXPECT_TRUE(waitFor([&] { return presenter.shown.size() == results; }));
+    }
+    EXPECT_EQ(server.requests().count("GET /releases.xml"), 2);
     EXPECT_FALSE(server.requests().contains("Cookie"));
 }
 
