@@ -60,6 +60,30 @@ TEST_F(ApplicationServiceTest, AStartAfterTheEndIsTheFirstAgain) {
     EXPECT_EQ(start(), Standing::First);
 }
 
+TEST_F(ApplicationServiceTest, TheNameIsFreeOnceTheServiceEndsWhateverBecomesOfItsConnection) {
+    const QDBusConnection own = bus.connection();
+    auto ending = std::make_unique<ApplicationService>(own);
+    ASSERT_EQ(ending->claim({}, 10s), Standing::First);
+    ending.reset();
+    EXPECT_FALSE(own.interface()->isServiceRegistered(applicationIdentifier()));
+    EXPECT_EQ(start({}, 1s), Standing::First);
+    EXPECT_TRUE(own.isConnected());
+}
+
+TEST_F(ApplicationServiceTest, ADialogThatARequestOpensKeepsNoCallerWaiting) {
+    RunningProgram program(bus);
+    QSemaphore isOpen;
+    QSemaphore close;
+    program.duringRequest = [&] {
+        isOpen.release();
+        close.acquire();
+    };
+    EXPECT_EQ(start("click", 5s), Standing::HandedOver);
+    EXPECT_TRUE(isOpen.tryAcquire(1, 10'000));
+    close.release();
+    EXPECT_EQ(program.requests(1), QStringList{"activate click"});
+}
+
 TEST_F(ApplicationServiceTest, FilesAndActionsArriveWithTheirTokens) {
     RunningProgram program(bus);
     ask(callTo("Open") << QStringList{"file:///tmp/a%20b.ics", "nonsense"}

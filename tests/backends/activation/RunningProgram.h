@@ -93,8 +93,14 @@ public:
         return requests_;
     }
 
+    /// What a handler does before it has done with a request.
+    std::function<void()> duringRequest;
+
 private:
     void note(const QString& request) {
+        if (duringRequest) {
+            duringRequest();
+        }
         const std::scoped_lock lock(mutex_);
         requests_ << request;
         noted_.release();
