@@ -236,6 +236,13 @@ TEST_F(CalendarProgramsTest, WithoutAnyCalendarProgramTheUserIsToldOnce) {
     EXPECT_EQ(alerts.shown.size(), 2U);
 }
 
+TEST_F(CalendarProgramsTest, ProgramsThatCouldOnlyImportTheEventAgainAreNone) {
+    desktop.install("import.desktop", "import %u", type);
+    EXPECT_EQ(show("uid").error(), QStringLiteral("no calendar program"));
+    EXPECT_EQ(alerts.shown.size(), 1U);
+    EXPECT_TRUE(launcher.launched.isEmpty());
+}
+
 TEST_F(CalendarProgramsTest, AnEventThatIsInNoPlaceIsNoMatterForTheUser) {
     installEvolution();
     place = {};

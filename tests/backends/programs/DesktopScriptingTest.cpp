@@ -1,5 +1,9 @@
 #include "backends/programs/DesktopScripting.h"
 
+#include "ScratchDesktop.h"
+#include "export/MailScript.h"
+#include "results/OpenCalendarEvent.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
@@ -38,6 +42,76 @@ TEST(DesktopScriptingTest, ThePasteboardIsTheClipboardAndHoldsPlainText) {
     EXPECT_FALSE(clipboard.mimeData()->hasHtml());
     pasteboard.clear();
     EXPECT_EQ(clipboard.text(), QString());
+}
+
+namespace {
+
+class DesktopScriptRunnerTest : public testing::Test {
+protected:
+    DesktopScriptRunnerTest() {
+        desktop.install("reader.desktop", "reader %u", "x-scheme-handler/mailto");
+        desktop.install("viewer.desktop", "viewer %f", "text/calendar");
+    }
+    QString variable(const char* name) const {
+        const QHash<QByteArray, QString> variables{{"XDG_CONFIG_HOME", desktop.path("config")},
+                                                   {"XDG_DATA_HOME", desktop.path("data")},
+                                                   {"XDG_DATA_DIRS", desktop.path("system")},
+                                                   {"XDG_RUNTIME_DIR", desktop.path("run")},
+                                                   {"PATH", desktop.path("bin")}};
+        return variables.value(name);
+    }
+    QStringList launchedPrograms() const {
+        QStringList names;
+        for (const auto& launched : launcher.launched) {
+            names << QFileInfo(launched.first).fileName();
+        }
+        return names;
+    }
+
+    test::ScratchDesktop desktop;
+    test::FakeTaskLauncher launcher;
+    test::FakePasteboard pasteboard;
+    test::FakeAlerts alerts;
+    QList<EventRequest> looked;
+    EventPlace place{.serviceCalendar = {}, .file = "/calendars/a.ics", .start = {}};
+    DesktopScriptRunner runner{
+        {.launcher = launcher,
+         .pasteboard = pasteboard,
+         .alerts = alerts,
+         .findEvent =
+             [this](const EventRequest& request) {
+                 looked << request;
+                 return place;
+             },
+         .environment = [this](const char* name) { return variable(name); }}};
+};
+
+} // namespace
+
+TEST_F(DesktopScriptRunnerTest, AMessageGoesToTheMailProgramAndAnEventToThatOfItsFile) {
+    ASSERT_TRUE(runner.run(plainMailScript("Text", "Subject")));
+    EXPECT_EQ(launcher.launched.last().second, QStringList{"mailto:?subject=Subject&body=Text"});
+    ASSERT_TRUE(runner.run(showEventScript("folder:Work", "one%20'two'")));
+    EXPECT_EQ(looked, QList<EventRequest>{(EventRequest{"folder:Work", "one%20'two'"})});
+    EXPECT_EQ(launcher.launched.last().second, QStringList{"/calendars/a.ics"});
+    EXPECT_EQ(launchedPrograms(), (QStringList{"reader", "viewer"}));
+}
+
+TEST_F(DesktopScriptRunnerTest, AMalformedScriptAsksForNothingAndGivesNoResult) {
+    EXPECT_FALSE(runner.run(showEventScript("folder:Work", "a\"b")));
+    EXPECT_FALSE(runner.run(plainMailScript("Text", "Subject") + "\nand so on"));
+    EXPECT_TRUE(launcher.launched.isEmpty());
+    EXPECT_TRUE(looked.isEmpty());
+    EXPECT_TRUE(alerts.shown.empty());
+}
+
+TEST_F(DesktopScriptRunnerTest, AfterARequestThatFailedNoOtherIsTried) {
+    place = {};
+    const auto result = runner.run(showEventScript("folder:Work", "gone") + "\n" +
+                                   plainMailScript("Text", "Subject"));
+    ASSERT_FALSE(result);
+    EXPECT_EQ(result.error(), QStringLiteral("the event is in no place that others can open"));
+    EXPECT_TRUE(launcher.launched.isEmpty());
 }
 
 } // namespace quillet

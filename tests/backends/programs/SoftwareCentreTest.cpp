@@ -60,6 +60,19 @@ TEST_F(SoftwareCentreTest, TriesTheNextOneWhenOneCannotBeStarted) {
     EXPECT_EQ(launcher.launched, started({"appstream:org.quillet.Quillet"}));
 }
 
+TEST_F(SoftwareCentreTest, OneThatIsThereAndDoesNotStartIsNotTheLast) {
+    // There is no terminal to run it in.
+    desktop.install("org.example.A.desktop", "terminalcentre %u", type, "Terminal=true");
+    EXPECT_FALSE(show());
+    desktop.install("org.example.B.desktop", "centre %u", type);
+    EXPECT_TRUE(show());
+    EXPECT_EQ(launcher.launched, started({"appstream:org.quillet.Quillet"}));
+    // And one that does is the last.
+    desktop.install("org.example.C.desktop", "another %u", type);
+    EXPECT_TRUE(show());
+    EXPECT_EQ(launcher.launched.size(), 2);
+}
+
 TEST_F(SoftwareCentreTest, InASandboxThePortalIsAsked) {
     desktop.install("org.example.Centre.desktop", "centre %U", type);
     FakePortal portal;
