@@ -187,6 +187,11 @@ TEST_F(EvolutionStoreTest, asksNothingOfTheServiceWithoutTheUsersConsent) {
     access.forget();
     EXPECT_TRUE(store->calendars().empty());
     EXPECT_TRUE(store->events(listed, utc(2024, 1, 1), utc(2025, 1, 1)).empty());
+    // Nor is anything followed any more, once what was on its way has come.
+    EXPECT_FALSE(waitUntil([] { return false; }, second / 2));
+    const int before = notices;
+    addEvent(work, event("two", "20240302T090000Z", "20240302T100000Z", "Later"));
+    EXPECT_FALSE(waitUntil([&] { return notices > before; }, second / 2));
 }
 
 TEST_F(EvolutionStoreTest, listsTheCalendarsOfTheLastRunBeforeTheServiceAnswers) {

@@ -124,6 +124,22 @@ TEST_F(RecoveryTest, letsAQueryWaitForASilentServiceForAMomentOnly) {
     EXPECT_TRUE(waitUntil([&] { return store->problems().empty(); }));
 }
 
+TEST_F(RecoveryTest, saysThatTheServiceDoesNotAnswerAndGoesOnWhenItDoes) {
+    addCalendar(QStringLiteral("Work"), "work");
+    limits.answer = std::chrono::milliseconds(500);
+    const pid_t silent = *registryProcess();
+    leaveService();
+    kill(silent, SIGSTOP);
+    open();
+    EXPECT_TRUE(waitUntil([&] { return problemOf("Desktop calendars") == unreachable; }));
+    EXPECT_TRUE(store->calendars().empty());
+    kill(silent, SIGCONT);
+    EXPECT_TRUE(waitForCalendars({"Work"}, patientMilliseconds));
+    EXPECT_TRUE(waitUntil([&] { return store->problems().empty(); }));
+    meetService();
+    (void)sourceNamed(QStringLiteral("work"));
+}
+
 TEST_F(RecoveryTest, livesOnWhenTheSessionBusEnds) {
     ESource* work = addCalendar(QStringLiteral("Work"));
     addEvent(work, event("one", "First"));
@@ -163,6 +179,9 @@ TEST_F(RecoveryTest, keepsTheCalendarsOfTheLastRunWithoutASessionBus) {
     EXPECT_EQ(store->authorizationStatus(), AuthorizationStatus::Authorized);
     EXPECT_EQ(calendarTitles(), QStringList({"Work"}));
     EXPECT_EQ(problemOf("Work"), unreachable);
+    access.forget();
+    EXPECT_TRUE(store->problems().empty()) << "of calendars that may not be read nothing is said";
+    EXPECT_TRUE(store->calendars().empty());
     qputenv("DBUS_SESSION_BUS_ADDRESS", address);
 }
 

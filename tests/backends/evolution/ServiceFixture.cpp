@@ -19,9 +19,7 @@ ServiceFixture::ServiceFixture() {
     limits.firstRetry = std::chrono::milliseconds(100);
     limits.longestRetry = std::chrono::milliseconds(1000);
     access.request([](bool, const std::optional<QString>&) {});
-    CallError error;
-    registry_.reset(e_source_registry_new_sync(nullptr, error.slot()));
-    EXPECT_FALSE(error) << error.message().toStdString();
+    meetService();
     // What a new home has of its own accord.
     const ObjectPointer<ESource> own(
         e_source_registry_ref_source(registry_.get(), "system-calendar"));
@@ -38,6 +36,18 @@ ServiceFixture::~ServiceFixture() {
     for (const auto& source : sources_) {
         e_source_remove_sync(source.get(), nullptr, nullptr);
     }
+}
+
+void ServiceFixture::leaveService() {
+    clients_.clear();
+    sources_.clear();
+    registry_.reset();
+}
+
+void ServiceFixture::meetService() {
+    CallError error;
+    registry_.reset(e_source_registry_new_sync(nullptr, error.slot()));
+    EXPECT_FALSE(error) << error.message().toStdString();
 }
 
 ESource* ServiceFixture::addCalendar(const QString& title, const QByteArray& uid) {

@@ -30,6 +30,10 @@ protected:
                          const std::function<void(ESource*)>& describe);
     /// A calendar that is there already.
     ESource* sourceNamed(const QString& uid);
+    /// Gives up what the fixture holds of the service and would share with the store. Sources that
+    /// it added are to be looked for again after meetService().
+    void leaveService();
+    void meetService();
     void commit(ESource* source) const;
     void remove(ESource* source);
     /// A connection to the calendar other than the store's.
