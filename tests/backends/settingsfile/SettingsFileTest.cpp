@@ -226,9 +226,9 @@ TEST_F(SettingsFileTest, EveryValueReadsBackAsItWasWritten) {
             return QVariant(QString::fromLatin1("") + text);
         }
         case 3:
-            // Milliseconds of the years 0 to 9999, as the file can name them.
+            // Milliseconds of the years 1 to 9999, as the file can name them: there is no year 0.
             return QVariant::fromValue(Instant(std::chrono::milliseconds(
-                *rc::gen::inRange<qint64>(-62'167'219'200'000, 253'402'300'800'000))));
+                *rc::gen::inRange<qint64>(-62'135'596'800'000, 253'402'300'800'000))));
         case 4:
             return QVariant::fromValue(Decimal::fromInteger(*rc::gen::arbitrary<qint64>()) /
                                        Decimal::fromInteger(*rc::gen::inRange(1, 1'000'000)));
