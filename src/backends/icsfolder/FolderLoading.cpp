@@ -271,7 +271,8 @@ void FolderLoader::publish(bool isLoaded) {
         next->contents.insert(calendar.source().calendar->calendarIdentifier, calendar.contents());
         calendar.appendProblems(next->problems);
     }
-    if (!rootProblem_) {
+    if (isLoaded && !rootProblem_) {
+        // Before that it is the main thread that publishes, which writes no files.
         memory_.keep(next->calendars);
     }
     {
