@@ -3,7 +3,6 @@ a second, and outlive its death."""
 # needs the calendar service
 
 import signal
-import time
 from datetime import timedelta
 
 from accessibility import wait_for
@@ -12,8 +11,6 @@ from program import Quillet
 from service import CalendarService
 
 SECONDS = 1.0
-# For two seconds after a calendar was read the service keeps its changes back.
-SERVICE_REST_SECONDS = 2.2
 CALENDARS = ["Home", "Personal", "Projects", "Work"]
 
 
@@ -35,7 +32,6 @@ def main():
         program.press("Current")
         program.wait_for_titles(expected)
 
-        time.sleep(SERVICE_REST_SECONDS)
         service.add_event(projects, "new", "Call", start - timedelta(hours=2), start)
         with_call = [*expected[:1], "Call", *expected[1:]]
         program.wait_for_titles(with_call, SECONDS)
@@ -59,7 +55,6 @@ def main():
         program.wait_for_titles(expected)
         wait_for("the service to be back", lambda: not any(
             "not reachable" in text for text in program.texts()))
-        time.sleep(SERVICE_REST_SECONDS)
         service.add_event(projects, "new", "Call", start - timedelta(hours=2), start)
         program.wait_for_titles(with_call, SECONDS)
     assert program.log == "", f"the program logged:\n{program.log}"
