@@ -5,7 +5,7 @@ import subprocess
 import sys
 from pathlib import Path
 
-from accessibility import (ROLE, Atspi, GLib, application, below, cell_names, children,
+from accessibility import (ROLE, Atspi, GLib, application, below, cell, cell_names, children,
                            column_titles, has_state, press, press_key, row_names, type_keys,
                            type_text, wait_for)
 
@@ -218,6 +218,11 @@ class Quillet:
 
     def select_row(self, row):
         self._events().get_table_iface().add_row_selection(row)
+
+    def double_click_event(self, row):
+        area = cell(self._events(), row, 0).get_component_iface().get_extents(0)
+        subprocess.run(["xdotool", "mousemove", str(area.x + 5), str(area.y + area.height // 2),
+                        "click", "--repeat", "2", "--delay", "50", "1"], check=True)
 
     def selected_titles(self):
         cells = self._events().get_table_iface()

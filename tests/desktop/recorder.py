@@ -13,7 +13,7 @@ APPLICATIONS = Path(os.environ["XDG_DATA_HOME"]) / "applications"
 CHOICES = Path(os.environ["XDG_CONFIG_HOME"]) / "mimeapps.list"
 PROGRAMS = HOME / "bin"
 SOURCE = """#!/usr/bin/python3
-import json, os, sys, urllib.parse
+import json, os, sys, time, urllib.parse
 started = {"arguments": sys.argv[1:], "message": None}
 for part in sys.argv[-1].split(","):
     if part.startswith("message="):
@@ -21,34 +21,37 @@ for part in sys.argv[-1].split(","):
             started["message"] = file.read()
 with open(__file__ + ".new", "w") as file:
     json.dump(started, file)
-os.rename(__file__ + ".new", __file__ + ".started")
+os.rename(__file__ + ".new", f"{__file__}.{time.time_ns()}.started")
 """
 
 
 class Recorder:
-    """An installed program that the user has chosen for a type."""
+    """An installed program that the user has chosen for a type. Its desktop entry is named like it,
+    unless it has an identifier."""
 
-    def __init__(self, name, mime_type):
+    def __init__(self, name, mime_type, identifier=None):
         self._program = PROGRAMS / name
-        self._record = PROGRAMS / f"{name}.started"
         PROGRAMS.mkdir(exist_ok=True)
         APPLICATIONS.mkdir(parents=True, exist_ok=True)
         self._program.write_text(SOURCE)
         self._program.chmod(stat.S_IRWXU)
-        (APPLICATIONS / f"{name}.desktop").write_text(
+        (APPLICATIONS / f"{identifier or name}.desktop").write_text(
             f"[Desktop Entry]\nType=Application\nName={name.title()}\n"
-            f"Exec=\"{self._program}\" %u\nMimeType={mime_type};\n")
-        choose(name, mime_type)
+            f"Exec=\"{self._program}\" %U\nMimeType={mime_type};\n")
+        choose(identifier or name, mime_type)
 
     def started(self):
-        """What it was started with; once for each start."""
-        wait_for(f"{self._program.name} to be started", self._record.exists)
-        started = json.loads(self._record.read_text())
-        self._record.unlink()
+        """What it was started with; once for each start, the first one first."""
+        record = wait_for(f"{self._program.name} to be started", self._records)[0]
+        started = json.loads(record.read_text())
+        record.unlink()
         return started
 
     def was_started(self):
-        return self._record.exists()
+        return bool(self._records())
+
+    def _records(self):
+        return sorted(PROGRAMS.glob(f"{self._program.name}.*.started"))
 
 
 def choose(name, mime_type):

@@ -15,6 +15,10 @@ from accessibility import wait_for
 WITHOUT_WAITING = 0xFFFFFFFF
 
 
+def in_utc(moment):
+    return moment.astimezone(timezone.utc).strftime("%Y%m%dT%H%M%SZ")
+
+
 class CalendarService:
     def __init__(self):
         self._registry = EDataServer.SourceRegistry.new_sync(None)
@@ -37,13 +41,14 @@ class CalendarService:
         self._registry.commit_source_sync(source, None)
 
     def add_event(self, source, uid, title, start, end, extra=()):
-        form = "%Y%m%dT%H%M%SZ"
-        lines = ["BEGIN:VEVENT", f"UID:{uid}",
-                 f"DTSTART:{start.astimezone(timezone.utc).strftime(form)}",
-                 f"DTEND:{end.astimezone(timezone.utc).strftime(form)}", f"SUMMARY:{title}",
-                 *extra, "END:VEVENT", ""]
-        component = ICalGLib.Component.new_from_string("\r\n".join(lines))
-        self._client(source).create_object_sync(component, ECal.OperationFlags.NONE, None)
+        self._client(source).create_object_sync(
+            self._component(uid, title, start, end, extra), ECal.OperationFlags.NONE, None)
+
+    def move_occurrence(self, source, uid, occurrence, title, start, end):
+        """Makes an exception of the occurrence that was to start then."""
+        component = self._component(uid, title, start, end, [f"RECURRENCE-ID:{in_utc(occurrence)}"])
+        self._client(source).modify_object_sync(component, ECal.ObjModType.THIS,
+                                                ECal.OperationFlags.NONE, None)
 
     def remove_event(self, source, uid):
         self._client(source).remove_object_sync(uid, None, ECal.ObjModType.ALL,
@@ -56,6 +61,12 @@ class CalendarService:
             os.kill(process, number)
         if number == signal.SIGKILL:
             self._clients.clear()
+
+    @staticmethod
+    def _component(uid, title, start, end, extra):
+        lines = ["BEGIN:VEVENT", f"UID:{uid}", f"DTSTART:{in_utc(start)}", f"DTEND:{in_utc(end)}",
+                 f"SUMMARY:{title}", *extra, "END:VEVENT", ""]
+        return ICalGLib.Component.new_from_string("\r\n".join(lines))
 
     def _client(self, source):
         uid = source.get_uid()

@@ -8,9 +8,9 @@ from datetime import timezone
 from html import unescape
 from pathlib import Path
 
-from accessibility import ROLE, cell, press_key, text_of, wait_for
+from accessibility import ROLE, press_key, text_of, wait_for
 from months import entries, show_this_month, titles, write_calendars
-from program import CALENDARS, TABLES, Quillet, write_event
+from program import CALENDARS, Quillet, write_event
 from recorder import Recorder, choose, composed, mail_in
 
 MAILTO = "x-scheme-handler/mailto"
@@ -109,15 +109,9 @@ def check_styles(program, thunderbird):
     close(program, "Text Report")
 
 
-def double_click(program, row, column):
-    area = cell(program.control("Events", TABLES), row, column).get_component_iface().get_extents(0)
-    subprocess.run(["xdotool", "mousemove", str(area.x + 5), str(area.y + area.height // 2),
-                    "click", "--repeat", "2", "--delay", "50", "1"], check=True)
-
-
 def check_events(program, calendar):
     """By a double click, then by the Enter key: the event's own file."""
-    double_click(program, 3, 2)
+    program.double_click_event(3)
     assert calendar.started()["arguments"] == [str(CALENDARS / "Work" / "event-0-3.ics")]
     assert program.selected_titles() == [entries(0)[3].title]
     press_key("Down", "Return")
@@ -159,7 +153,7 @@ def check_without_programs():
         wait_for("the events", lambda: len(program.rows("Events")) == len(expected))
         press_key("ctrl+m")
         dismiss(program, "No mail program is set up")
-        double_click(program, 2, 2)
+        program.double_click_event(2)
         dismiss(program, "No calendar program is set up")
         assert program.selected_titles() == [expected[2]]
     assert program.log.strip() == "quillet: it was an error", f"the program logged:\n{program.log}"
