@@ -43,6 +43,12 @@ public:
     [[nodiscard]] bool isOf(GQuark domain) const {
         return error_ != nullptr && error_->domain == domain;
     }
+    /// The name that the other side gave its error; empty when it did not come over the bus.
+    [[nodiscard]] QByteArray remoteName() const {
+        const std::unique_ptr<char, decltype(&g_free)> name(
+            error_ == nullptr ? nullptr : g_dbus_error_get_remote_error(error_), g_free);
+        return QByteArray(name.get());
+    }
     [[nodiscard]] QString message() const {
         return error_ == nullptr ? QString() : QString::fromUtf8(error_->message);
     }

@@ -20,17 +20,27 @@ bool hasSources(ESourceRegistry* registry) {
     return isAny;
 }
 
-/// Whether one of the names "(as)" is that of the service's registry, in whichever version.
-bool namesTheService(GVariant* names) {
+/// The one of the names "(as)" that is that of the service's registry, in whichever version.
+QByteArray registryName(GVariant* names) {
     GVariantIter* each = nullptr;
     g_variant_get(names, "(as)", &each);
     const char* name = nullptr;
-    bool isFound = false;
+    QByteArray found;
     while (g_variant_iter_next(each, "&s", &name) != FALSE) {
-        isFound = isFound || g_str_has_prefix(name, "org.gnome.evolution.dataserver.Sources");
+        if (g_str_has_prefix(name, "org.gnome.evolution.dataserver.Sources") != FALSE) {
+            found = name;
+        }
     }
     g_variant_iter_free(each);
-    return isFound;
+    return found;
+}
+
+/// Whether a start failed because there is nothing to start. The bus may know the service by name
+/// all the same: Debian installs that knowledge with the library already.
+bool isWithoutProgram(const CallError& error) {
+    return error.is(G_DBUS_ERROR, G_DBUS_ERROR_SPAWN_EXEC_FAILED) ||
+           error.is(G_DBUS_ERROR, G_DBUS_ERROR_SERVICE_UNKNOWN) ||
+           error.remoteName() == "org.freedesktop.systemd1.NoSuchUnit";
 }
 
 } // namespace
@@ -135,10 +145,34 @@ void ServiceSession::serviceIsGone() {
             CallError error;
             GVariant* names =
                 g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, error.slot());
-            const bool isMissing = names != nullptr && !namesTheService(names);
+            const QByteArray name = names == nullptr ? QByteArray() : registryName(names);
             g_clear_pointer(&names, g_variant_unref);
+            if (g_cancellable_is_cancelled(cancellable) != FALSE) {
+                return;
+            }
+            if (name.isEmpty()) {
+                loseService(error ? Service::Unreachable : Service::Missing);
+            } else {
+                tryToStart(name);
+            }
+        }));
+}
+
+void ServiceSession::tryToStart(const QByteArray& name) {
+    // What the library says of a failed start does not tell why it failed.
+    g_dbus_connection_call(
+        bus_.get(), "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+        "StartServiceByName", g_variant_new("(su)", name.constData(), 0U), nullptr,
+        G_DBUS_CALL_FLAGS_NONE, -1, cancellable_.get(), finishCall,
+        pendingCall([this, cancellable = newReference(cancellable_.get()).release()](
+                        GObject* bus, GAsyncResult* result) {
+            const ObjectPointer<GCancellable> owner(cancellable);
+            CallError error;
+            GVariant* answer =
+                g_dbus_connection_call_finish(G_DBUS_CONNECTION(bus), result, error.slot());
+            g_clear_pointer(&answer, g_variant_unref);
             if (g_cancellable_is_cancelled(cancellable) == FALSE) {
-                loseService(isMissing ? Service::Missing : Service::Unreachable);
+                loseService(isWithoutProgram(error) ? Service::Missing : Service::Unreachable);
             }
         }));
 }

@@ -43,6 +43,7 @@ private:
     void registryCame(ObjectPointer<ESourceRegistry> registry);
     /// Finds out whether it is to come back or was never installed.
     void serviceIsGone();
+    void tryToStart(const QByteArray& name);
     void loseService(ServicePicture::Service service);
     void sourcesChanged();
     void refreshSources();

@@ -43,6 +43,13 @@ protected:
                 StoreCalendar{QStringLiteral("evolution:work"), QStringLiteral("Work"), {}})});
     }
 
+    void addService(const QByteArray& program) const {
+        QFile service(folder.filePath(QStringLiteral("registry.service")));
+        ASSERT_TRUE(service.open(QIODevice::WriteOnly));
+        service.write("[D-BUS Service]\nName=org.gnome.evolution.dataserver.Sources5\nExec=" +
+                      program + "\n");
+    }
+
     [[nodiscard]] bool saysOnly(const QString& subject, const QString& reason) const {
         const auto problems = store->problems();
         return problems.size() == 1 && problems[0].subject == subject &&
@@ -67,12 +74,17 @@ TEST_F(MissingServiceTest, saysNothingOfAServiceThatWasNeverInstalled) {
     EXPECT_TRUE(store->calendars().empty());
 }
 
+TEST_F(MissingServiceTest, saysNothingOfAServiceThatOnlyTheBusKnows) {
+    // As Debian has it where the library is installed without the service.
+    addService("/usr/libexec/not-installed");
+    open();
+    ASSERT_TRUE(waitUntil(
+        [this] { return store->authorizationStatus() == AuthorizationStatus::Restricted; }));
+    EXPECT_FALSE(waitUntil([this] { return !store->problems().empty(); }, 300));
+}
+
 TEST_F(MissingServiceTest, saysThatAServiceCannotBeStarted) {
-    QFile service(folder.filePath(QStringLiteral("registry.service")));
-    ASSERT_TRUE(service.open(QIODevice::WriteOnly));
-    service.write(
-        "[D-BUS Service]\nName=org.gnome.evolution.dataserver.Sources5\nExec=/bin/false\n");
-    service.close();
+    addService("/bin/false");
     open();
     EXPECT_TRUE(
         waitUntil([this] { return saysOnly(QStringLiteral("Desktop calendars"), unreachable); }));
