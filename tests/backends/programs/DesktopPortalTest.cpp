@@ -161,7 +161,7 @@ TEST_F(DesktopPortalTest, AUserWhoIsStillChoosingAProgramIsNotWaitedFor) {
     QObject::connect(&heart, &QTimer::timeout, [&beats] { ++beats; });
     heart.start(10ms);
     EXPECT_TRUE(portal.composeEmail("S", "B"));
-    EXPECT_GE(beats, 10) << "the window lives meanwhile";
+    EXPECT_GE(beats, 3) << "the window lives meanwhile";
 }
 
 TEST_F(DesktopPortalTest, APortalThatIsNotThereIsTheReason) {
