@@ -178,6 +178,12 @@ void MainWindow::followState() {
     for (const QString& key : {accessKey, progressKey}) {
         observeWhileAlive(*this, with_.settings, key, reason);
     }
+    observeWhileAlive(*this, with_.settings, progressKey, [this] {
+        if (!boolForKey(with_.settings, progressKey)) {
+            // A query may have found one, or shown that one is gone.
+            refreshProblems();
+        }
+    });
     connect(&with_.dateInspectorController, &DateInspectorController::labelsChanged, this,
             &MainWindow::showPeriodTitle);
     showPeriodTitle();

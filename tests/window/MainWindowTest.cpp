@@ -298,6 +298,14 @@ TEST_F(MainWindowTest, ProblemsStandAtTheFootOfTheList) {
     EXPECT_EQ(foot->text(), problems.first());
 }
 
+TEST_F(MainWindowTest, ProblemsOfAQueryShowWhenItEnds) {
+    open();
+    settings.setObject("isProgressIndicatorOn", true);
+    problems = {"Calendars: repetitions too many to show them all"};
+    settings.setObject("isProgressIndicatorOn", false);
+    EXPECT_EQ(named<QLabel>("calendarProblems")->text(), problems.first());
+}
+
 TEST_F(MainWindowTest, WithoutAccessTheWindowSaysSo) {
     settings.setObject("isCalendarAccessGranted", false);
     open();

@@ -128,9 +128,7 @@ EventList EvolutionStore::events(const CalendarList& calendars, Instant from, In
         }
     }
     CalendarsAnswer answer = eventsOf(wanted, from, to);
-    if (!answer.isComplete) {
-        hasTooMany_ = true;
-    }
+    hasTooMany_ = !answer.isComplete;
     lastQueryEnd_ = steady_clock::now();
     --runningQueries_;
     return std::move(answer.events);

@@ -52,9 +52,7 @@ EventList FolderLoader::events(const CalendarList& calendars, Instant from, Inst
         }
     }
     CalendarsAnswer answer = eventsOf(wanted, from, to);
-    if (!answer.isComplete) {
-        hasTooMany_ = true;
-    }
+    hasTooMany_ = !answer.isComplete;
     return std::move(answer.events);
 }
 
