@@ -87,4 +87,9 @@ QString composeArgument(const MessageRequest& request, const QString& file) {
            QStringLiteral(",message=") + encoded(file);
 }
 
+QStringList kmailArguments(const MessageRequest& request, const QString& file) {
+    return {QStringLiteral("--composer"), QStringLiteral("--subject=") + inOneLine(request.subject),
+            QStringLiteral("--msg"), file};
+}
+
 } // namespace quillet

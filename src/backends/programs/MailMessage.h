@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 namespace quillet {
 
@@ -21,5 +22,9 @@ namespace quillet {
 /// What Thunderbird is told to compose: the request's subject, and as its body the file, which
 /// holds a messagePage() when the request is styled and plain text when not.
 [[nodiscard]] QString composeArgument(const MessageRequest& request, const QString& file);
+
+/// What KMail is started with: the request's subject, and as the body the file, which holds plain
+/// text, for the program takes no other.
+[[nodiscard]] QStringList kmailArguments(const MessageRequest& request, const QString& file);
 
 } // namespace quillet

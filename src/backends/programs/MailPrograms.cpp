@@ -17,11 +17,29 @@ namespace {
 constexpr qint64 messageFileMinutes = 15;
 const QString messageFiles = QStringLiteral("message-");
 
-/// Those that compose from a file. Programs in containers are started through another one, and
-/// would not see the file.
-bool takesMessageFile(const DesktopEntry& entry) {
-    return Applications::programName(entry).startsWith(u"thunderbird") &&
-           !entry.exec.contains(QStringLiteral("/snap/"));
+enum class Program { Thunderbird, KMail, Other };
+
+/// Programs in containers are started through another one, and would not see a file.
+Program programOf(const DesktopEntry& entry) {
+    if (entry.exec.contains(QStringLiteral("/snap/"))) {
+        return Program::Other;
+    }
+    const QString name = Applications::programName(entry);
+    if (name.startsWith(u"thunderbird")) {
+        return Program::Thunderbird;
+    }
+    return name == u"kmail" ? Program::KMail : Program::Other;
+}
+
+QStringList thunderbirdArguments(const MessageRequest& request, const QString& file) {
+    return {QStringLiteral("-compose"), composeArgument(request, file)};
+}
+
+MessageRequest withoutStyle(MessageRequest request) {
+    request.fontName.reset();
+    request.fontSizePoints.reset();
+    request.color.reset();
+    return request;
 }
 
 void removeOldFiles(const QString& folder) {
@@ -48,16 +66,28 @@ std::expected<void, QString> MailPrograms::compose(const MessageRequest& request
         return std::unexpected(QStringLiteral("no mail program"));
     }
     const DesktopEntry& entry = handlers.front();
-    const auto result =
-        takesMessageFile(entry)
-            ? composeWithFile(entry, request)
-            : composeWithAddress(request, [&](const QString& body) {
-                  return with_.applications.open(entry, {mailtoAddress(request.subject, body)});
-              });
+    auto result = composeIn(entry, request);
     if (!result) {
         tell(localized("“%1” could not be started").arg(entry.name), result.error());
     }
     return result;
+}
+
+std::expected<void, QString> MailPrograms::composeIn(const DesktopEntry& entry,
+                                                     const MessageRequest& request) const {
+    switch (programOf(entry)) {
+    case Program::Thunderbird:
+        return composeWithFile(entry, request, thunderbirdArguments);
+    case Program::KMail:
+        // It decodes a whole address before it takes it apart: an event's text could name further
+        // recipients, or files to attach.
+        return composeWithFile(entry, withoutStyle(request), kmailArguments);
+    case Program::Other:
+        break;
+    }
+    return composeWithAddress(request, [&](const QString& body) {
+        return with_.applications.open(entry, {mailtoAddress(request.subject, body)});
+    });
 }
 
 std::expected<void, QString>
@@ -89,14 +119,14 @@ std::expected<void, QString> MailPrograms::composeWithAddress(
     return result;
 }
 
-std::expected<void, QString> MailPrograms::composeWithFile(const DesktopEntry& entry,
-                                                           const MessageRequest& request) const {
+std::expected<void, QString> MailPrograms::composeWithFile(
+    const DesktopEntry& entry, const MessageRequest& request,
+    QStringList (*arguments)(const MessageRequest& request, const QString& file)) const {
     const auto file = writtenFile(request);
     if (!file) {
         return std::unexpected(file.error());
     }
-    return with_.applications.start(entry,
-                                    {QStringLiteral("-compose"), composeArgument(request, *file)});
+    return with_.applications.start(entry, arguments(request, *file));
 }
 
 std::expected<QString, QString> MailPrograms::writtenFile(const MessageRequest& request) const {

@@ -33,11 +33,14 @@ public:
     [[nodiscard]] std::expected<void, QString> compose(const MessageRequest& request) const;
 
 private:
+    [[nodiscard]] std::expected<void, QString> composeIn(const DesktopEntry& entry,
+                                                         const MessageRequest& request) const;
     [[nodiscard]] std::expected<void, QString> composeWithAddress(
         const MessageRequest& request,
         const std::function<std::expected<void, QString>(const QString& body)>& send) const;
-    [[nodiscard]] std::expected<void, QString> composeWithFile(const DesktopEntry& entry,
-                                                               const MessageRequest& request) const;
+    [[nodiscard]] std::expected<void, QString> composeWithFile(
+        const DesktopEntry& entry, const MessageRequest& request,
+        QStringList (*arguments)(const MessageRequest& request, const QString& file)) const;
     [[nodiscard]] std::expected<QString, QString> writtenFile(const MessageRequest& request) const;
     [[nodiscard]] std::expected<void, QString>
     composeThroughPortal(const MessageRequest& request) const;

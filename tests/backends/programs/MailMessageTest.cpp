@@ -97,6 +97,12 @@ TEST(MailMessageTest, WhatIsComposedFromAFileNamesItAndItsForm) {
                              "message=%2Fit%27s%2C%20mine%2Fx.txt"));
 }
 
+TEST(MailMessageTest, KMailGetsTheSubjectInOneArgumentWhateverItHolds) {
+    EXPECT_EQ(kmailArguments(plain("--attach=/etc/passwd\n100% ü", "x"), "/a b/x.txt"),
+              (QStringList{"--composer", "--subject=--attach=/etc/passwd 100% ü", "--msg",
+                           "/a b/x.txt"}));
+}
+
 TEST(MailMessageTest, AnyOneStyleMakesARequestStyled) {
     MessageRequest request = plain("s", "x");
     EXPECT_FALSE(isStyled(request));

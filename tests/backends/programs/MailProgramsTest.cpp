@@ -102,6 +102,23 @@ TEST_F(MailProgramsTest, ThunderbirdGetsPlainTextAsItIs) {
     EXPECT_TRUE(launcher.launched.front().second.value(1).contains(",format=text,"));
 }
 
+TEST_F(MailProgramsTest, KMailGetsPlainTextFromAFileWhereItFindsNoRecipientsAndAttachments) {
+    desktop.install("org.kde.kmail2.desktop", "kmail -qwindowtitle %c %u", mailto);
+    const QString content = "Talk &cc=eve@example.org&attach=/etc/passwd\n" + tooLong;
+    ASSERT_TRUE(compose(content, 10));
+    ASSERT_EQ(messageFiles().size(), 1);
+    const QString name = messageFiles().front();
+    EXPECT_TRUE(name.endsWith(".txt"));
+    EXPECT_EQ(contentOf(name), content.toUtf8());
+    ASSERT_EQ(launcher.launched.size(), 1);
+    EXPECT_EQ(launcher.launched.front().first, desktop.path("bin/kmail"));
+    EXPECT_EQ(launcher.launched.front().second,
+              (QStringList{"--composer", "--subject=March \"2024\", 100%", "--msg",
+                           desktop.path("run/quillet/" + name)}));
+    EXPECT_TRUE(alerts.shown.empty());
+    EXPECT_TRUE(pasteboard.calls.isEmpty());
+}
+
 TEST_F(MailProgramsTest, NoTextIsTooLongForThunderbird) {
     installThunderbird();
     ASSERT_TRUE(compose(tooLong, 10));
