@@ -6,6 +6,8 @@
 #include <QDirIterator>
 #include <QStandardPaths>
 
+#include <algorithm>
+
 namespace quillet {
 
 namespace {
@@ -103,7 +105,8 @@ std::optional<DesktopEntry> DesktopEntries::startableEntry(const QString& id,
                        .icon = text("Icon"),
                        .exec = text("Exec"),
                        .mimeTypes = file.list(entryGroup, QStringLiteral("MimeType")),
-                       .needsTerminal = file.isTrue(entryGroup, QStringLiteral("Terminal"))};
+                       .needsTerminal = file.isTrue(entryGroup, QStringLiteral("Terminal")),
+                       .isHidden = file.isTrue(entryGroup, QStringLiteral("NoDisplay"))};
     const QString tried = text("TryExec");
     const auto command = commandLine(entry, {});
     if (!command || executable(command->front()).isNull() ||
@@ -140,6 +143,7 @@ std::vector<DesktopEntry> DesktopEntries::handlers(const QString& mimeType) cons
             entries.push_back(*std::move(entry));
         }
     }
+    const auto chosenCount = std::ssize(entries);
     QStringList others = paths.keys();
     others.sort();
     for (const QString& id : others) {
@@ -151,6 +155,9 @@ std::vector<DesktopEntry> DesktopEntries::handlers(const QString& mimeType) cons
             entries.push_back(*std::move(entry));
         }
     }
+    // These name the types of files, but may take other addresses only.
+    std::stable_partition(entries.begin() + chosenCount, entries.end(),
+                          [](const DesktopEntry& entry) { return !entry.isHidden; });
     return entries;
 }
 

@@ -36,6 +36,8 @@ struct DesktopEntry {
     QString exec;
     QStringList mimeTypes;
     bool needsTerminal = false;
+    /// Not one that the desktop lists in its menus.
+    bool isHidden = false;
 };
 
 /// The command of an entry for some addresses or files, program first. An entry that takes only one
@@ -52,7 +54,8 @@ public:
         : folders_(std::move(folders)) {}
 
     /// The programs that open a type ("text/calendar", "x-scheme-handler/mailto"): what the user
-    /// chose first, then what the desktop prefers, then any other. Only those that can be started.
+    /// chose first, then what the desktop prefers, then any other, hidden ones last. Only those
+    /// that can be started.
     [[nodiscard]] std::vector<DesktopEntry> handlers(const QString& mimeType) const;
     /// The file of a program; a null QString when there is none of that name.
     [[nodiscard]] QString executable(const QString& name) const;

@@ -39,6 +39,15 @@ TEST_F(DesktopEntriesTest, WithoutAChoiceEveryProgramThatNamesTheTypeIsFound) {
     EXPECT_EQ(handlers("text/unknown"), QStringList());
 }
 
+TEST_F(DesktopEntriesTest, HiddenProgramsComeLastUnlessTheUserChoseThem) {
+    desktop.install("korganizer-view.desktop", "korganizer --view %u", mailto, "NoDisplay=true");
+    desktop.install("org.kde.korganizer.desktop", "korganizer %U", mailto);
+    EXPECT_EQ(handlers(), (QStringList{"org.kde.korganizer", "korganizer-view"}));
+    desktop.write("config/mimeapps.list",
+                  "[Default Applications]\n" + mailto + "=korganizer-view.desktop");
+    EXPECT_EQ(handlers(), (QStringList{"korganizer-view", "org.kde.korganizer"}));
+}
+
 TEST_F(DesktopEntriesTest, TheUsersChoiceComesFirst) {
     installThree();
     desktop.write("config/mimeapps.list", "[Default Applications]\n" + mailto + "=gamma.desktop\n");
