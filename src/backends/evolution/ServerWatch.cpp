@@ -50,9 +50,7 @@ ServerWatch::ServerWatch(ESource* source, ECalClient* client, ECalClientView* vi
                            }),
                            this);
     onlineChanged();
-    if (e_source_get_connection_status(source) == E_SOURCE_CONNECTION_STATUS_AWAITING_CREDENTIALS) {
-        askForReason();
-    }
+    statusChanged();
 }
 
 ServerWatch::~ServerWatch() {
@@ -66,6 +64,10 @@ void ServerWatch::statusChanged() {
         break;
     case E_SOURCE_CONNECTION_STATUS_SSL_FAILED:
         failed(Server::Unreachable);
+        break;
+    case E_SOURCE_CONNECTION_STATUS_AWAITING_CREDENTIALS:
+        // The signal with the reason may have come before anybody listened.
+        askForReason();
         break;
     default:
         // What comes of it is told by other signals.

@@ -133,6 +133,21 @@ TEST_F(RemoteCalendarTest, readsACalendarWhoseServerComesLater) {
     EXPECT_TRUE(waitUntil([&] { return store->problems().empty(); }, patientMilliseconds));
 }
 
+TEST_F(RemoteCalendarTest, readsACalendarWhoseServerWasMissedBeforeAnyoneLooked) {
+    ESource* remote = addRemote();
+    (void)clientOf(remote);
+    // The service tells its first failure once, to whoever listens then.
+    constexpr int failureMilliseconds = 3000;
+    EXPECT_FALSE(waitUntil([] { return false; }, failureMilliseconds));
+    EXPECT_EQ(e_source_get_connection_status(remote),
+              E_SOURCE_CONNECTION_STATUS_AWAITING_CREDENTIALS);
+    open();
+    EXPECT_TRUE(waitUntil([&] { return problemOf("Remote") == unreachable; }, patientMilliseconds));
+    startServer();
+    EXPECT_TRUE(waitForTitles({"Daily", "Daily"}, patientMilliseconds));
+    EXPECT_TRUE(waitUntil([&] { return store->problems().empty(); }, patientMilliseconds));
+}
+
 TEST_F(RemoteCalendarTest, keepsWhatWasFetchedWhileTheServerIsAway) {
     startServer();
     ESource* remote = addRemote();
