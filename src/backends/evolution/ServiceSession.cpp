@@ -193,6 +193,10 @@ void ServiceSession::loseService(Service service) {
         calendar->loseService();
     }
     publishSoon();
+    if (service == Service::Missing && memory_.calendars().empty()) {
+        // Each attempt would have the bus try to start what is not installed, and log that.
+        return;
+    }
     retryTimer_.start(retryDelay_.failed(), [this] { connectToBus(); });
 }
 

@@ -83,6 +83,15 @@ TEST_F(MissingServiceTest, saysNothingOfAServiceThatOnlyTheBusKnows) {
     EXPECT_FALSE(waitUntil([this] { return !store->problems().empty(); }, 300));
 }
 
+TEST_F(MissingServiceTest, asksTheBusNoMoreForAServiceThatWasNeverInstalled) {
+    open();
+    ASSERT_TRUE(waitUntil(
+        [this] { return store->authorizationStatus() == AuthorizationStatus::Restricted; }));
+    const QString trace = folder.filePath(QStringLiteral("trace"));
+    addService("/usr/bin/touch " + QFile::encodeName(trace));
+    EXPECT_FALSE(waitUntil([&] { return QFile::exists(trace); }, 1000));
+}
+
 TEST_F(MissingServiceTest, saysThatAServiceCannotBeStarted) {
     addService("/bin/false");
     open();
