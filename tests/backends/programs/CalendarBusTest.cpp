@@ -37,11 +37,10 @@ class Heartbeat {
 public:
     Heartbeat() {
         QObject::connect(&timer_, &QTimer::timeout, [this] { ++beats; });
-        timer_.start(10ms);
+        timer_.start(1ms);
         elapsed.start();
     }
-    /// A wait that holds everything up leaves none; a busy machine takes some away.
-    static constexpr int ofALiveWindow = 3;
+    static constexpr int ofALiveWindow = 10;
     int beats = 0;
     QElapsedTimer elapsed;
 

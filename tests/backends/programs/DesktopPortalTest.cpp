@@ -159,9 +159,9 @@ TEST_F(DesktopPortalTest, AUserWhoIsStillChoosingAProgramIsNotWaitedFor) {
     int beats = 0;
     QTimer heart;
     QObject::connect(&heart, &QTimer::timeout, [&beats] { ++beats; });
-    heart.start(10ms);
+    heart.start(1ms);
     EXPECT_TRUE(portal.composeEmail("S", "B"));
-    EXPECT_GE(beats, 3) << "the window lives meanwhile";
+    EXPECT_GE(beats, 10) << "the window lives meanwhile";
 }
 
 TEST_F(DesktopPortalTest, APortalThatIsNotThereIsTheReason) {
