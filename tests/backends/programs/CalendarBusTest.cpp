@@ -37,10 +37,9 @@ class Heartbeat {
 public:
     Heartbeat() {
         QObject::connect(&timer_, &QTimer::timeout, [this] { ++beats; });
-        timer_.start(1ms);
+        timer_.start(10ms);
         elapsed.start();
     }
-    static constexpr int ofALiveWindow = 10;
     int beats = 0;
     QElapsedTimer elapsed;
 
@@ -88,7 +87,7 @@ TEST_F(CalendarBusTest, TheWindowLivesWhileAProgramStarts) {
     Heartbeat heart;
     QTimer::singleShot(300ms, [this] { other.registerService(evolution); });
     EXPECT_TRUE(patient.waitUntilRunning(evolution));
-    EXPECT_GE(heart.beats, Heartbeat::ofALiveWindow);
+    EXPECT_GE(heart.beats, 10);
     EXPECT_LT(heart.elapsed.elapsed(), 3000) << "no longer than the program takes";
     EXPECT_TRUE(patient.isRunning(evolution));
     heart.elapsed.restart();
@@ -99,7 +98,7 @@ TEST_F(CalendarBusTest, TheWindowLivesWhileAProgramStarts) {
 TEST_F(CalendarBusTest, AProgramThatNeverComesIsWaitedForWithALiveWindowAndNotForEver) {
     Heartbeat heart;
     EXPECT_FALSE(bus.waitUntilRunning(evolution));
-    EXPECT_GE(heart.beats, Heartbeat::ofALiveWindow);
+    EXPECT_GE(heart.beats, 10);
     EXPECT_GE(heart.elapsed.elapsed(), 390);
     EXPECT_LT(heart.elapsed.elapsed(), 3000);
 }
@@ -108,7 +107,7 @@ TEST_F(CalendarBusTest, AServiceThatStartsAndSaysNothingIsWaitedForWithALiveWind
     daemon.addService(gnome, "/bin/sleep 60");
     Heartbeat heart;
     EXPECT_FALSE(bus.showInGnomeCalendar(placeIn("source", start), "uid"));
-    EXPECT_GE(heart.beats, Heartbeat::ofALiveWindow);
+    EXPECT_GE(heart.beats, 10);
     EXPECT_LT(heart.elapsed.elapsed(), 3000);
 }
 
@@ -142,7 +141,7 @@ TEST_F(CalendarBusTest, WhatGnomeCalendarMissesIsTheReason) {
     Heartbeat heart;
     EXPECT_EQ(bus.showInGnomeCalendar(placeIn("s"), "u").error(),
               QStringLiteral("gnome-calendar does not answer"));
-    EXPECT_GE(heart.beats, Heartbeat::ofALiveWindow);
+    EXPECT_GE(heart.beats, 10);
     EXPECT_LT(heart.elapsed.elapsed(), 3000);
     qputenv("PATH", "/nonexistent");
     EXPECT_FALSE(bus.showInGnomeCalendar(placeIn("s"), "u").error().isEmpty());
