@@ -109,10 +109,16 @@ ECalClient* ServiceFixture::clientOf(ESource* source) {
             return client.get();
         }
     }
-    CallError error;
-    EClient* client = e_cal_client_connect_sync(source, E_CAL_CLIENT_SOURCE_TYPE_EVENTS,
-                                                static_cast<guint32>(-1), nullptr, error.slot());
-    EXPECT_FALSE(error) << error.message().toStdString();
+    EClient* client = nullptr;
+    QString reason;
+    // The process that opens calendars hears of a new one a moment after the registry has it.
+    EXPECT_TRUE(waitUntil([&] {
+        CallError error;
+        client = e_cal_client_connect_sync(source, E_CAL_CLIENT_SOURCE_TYPE_EVENTS,
+                                           static_cast<guint32>(-1), nullptr, error.slot());
+        reason = error.message();
+        return client != nullptr;
+    })) << reason.toStdString();
     clients_.emplace_back(source, E_CAL_CLIENT(client));
     return clients_.back().second.get();
 }
