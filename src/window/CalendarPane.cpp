@@ -66,7 +66,8 @@ void CalendarPane::refreshColors() {
 }
 
 bool CalendarPane::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::MouseButtonPress) {
+    // A quick second click is told as a double click alone.
+    if (event->type() != QEvent::MouseButtonPress && event->type() != QEvent::MouseButtonDblClick) {
         return QWidget::eventFilter(watched, event);
     }
     const auto* press = static_cast<QMouseEvent*>(event);
