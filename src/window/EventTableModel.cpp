@@ -18,9 +18,9 @@ QString columnIdentifier(int column) {
     return QString::fromLatin1(eventColumns()[static_cast<std::size_t>(column)].identifier);
 }
 
-/// One line for a cell; the text itself stays as it is.
+/// One line for a cell, the first that says something; the text itself stays as it is.
 QString firstLine(const QString& text) {
-    return text.section(u'\n', 0, 0).trimmed();
+    return text.trimmed().section(u'\n', 0, 0).trimmed();
 }
 
 } // namespace
