@@ -1,15 +1,14 @@
 #include "window/InspectorPane.h"
 
 #include "platform/Localized.h"
+#include "window/PeriodPicker.h"
 #include "window/SettingsBinding.h"
 #include "window/SymbolIcon.h"
 
 #include <QButtonGroup>
-#include <QCalendarWidget>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
-#include <QTextCharFormat>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -56,13 +55,9 @@ InspectorPane::InspectorPane(DateInspectorController& inspector, SettingsStore& 
     layout->addWidget(endPicker_);
     layout->addStretch();
 
-    connect(startPicker_, &QCalendarWidget::clicked, this,
+    connect(startPicker_, &PeriodPicker::picked, this,
             [this](QDate date) { inspector_.pickStartDate(noonOf(date)); });
-    connect(startPicker_, &QCalendarWidget::activated, this,
-            [this](QDate date) { inspector_.pickStartDate(noonOf(date)); });
-    connect(endPicker_, &QCalendarWidget::clicked, this,
-            [this](QDate date) { inspector_.pickEndDate(noonOf(date)); });
-    connect(endPicker_, &QCalendarWidget::activated, this,
+    connect(endPicker_, &PeriodPicker::picked, this,
             [this](QDate date) { inspector_.pickEndDate(noonOf(date)); });
     connect(&inspector_, &DateInspectorController::labelsChanged, this, &InspectorPane::showPeriod);
     connect(&inspector_, &DateInspectorController::isCustomDateOnChanged, this,
@@ -117,24 +112,11 @@ QWidget* InspectorPane::makeKindChooser() {
     return chooser;
 }
 
-QCalendarWidget* InspectorPane::makePicker(const QString& name) {
-    auto* picker = new QCalendarWidget(this);
-    picker->setAccessibleName(name);
-    picker->setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
-    picker->setHorizontalHeaderFormat(QCalendarWidget::ShortDayNames);
-    picker->setGridVisible(false);
+PeriodPicker* InspectorPane::makePicker(const QString& name) {
     // Ours counts from Sunday = 1, Qt from Monday = 1.
-    picker->setFirstDayOfWeek(static_cast<Qt::DayOfWeek>((calendar_.firstWeekday() + 5) % 7 + 1));
-    const std::array steps{std::pair{"qt_calendar_prevmonth", Symbol::Previous},
-                           std::pair{"qt_calendar_nextmonth", Symbol::Next}};
-    for (const auto& [buttonName, symbol] : steps) {
-        if (auto* button = picker->findChild<QToolButton*>(QString::fromLatin1(buttonName))) {
-            button->setIcon(symbolIcon(symbol, QPalette::HighlightedText));
-        }
-    }
-    const QTextCharFormat plain;
-    picker->setWeekdayTextFormat(Qt::Saturday, plain);
-    picker->setWeekdayTextFormat(Qt::Sunday, plain);
+    const auto firstDay = static_cast<Qt::DayOfWeek>((calendar_.firstWeekday() + 5) % 7 + 1);
+    auto* picker = new PeriodPicker(name, firstDay, this);
+    connect(picker, &PeriodPicker::left, this, &InspectorPane::showPeriod);
     return picker;
 }
 

@@ -5,10 +5,11 @@
 #include <QWidget>
 
 class QButtonGroup;
-class QCalendarWidget;
 class QToolButton;
 
 namespace quillet {
+
+class PeriodPicker;
 
 /// The controls of the reporting period: its kind, its two ends and the lock between them.
 class InspectorPane : public QWidget {
@@ -24,7 +25,7 @@ public:
 
 private:
     [[nodiscard]] QWidget* makeKindChooser();
-    [[nodiscard]] QCalendarWidget* makePicker(const QString& name);
+    [[nodiscard]] PeriodPicker* makePicker(const QString& name);
     [[nodiscard]] QToolButton* makeLock();
     void showPeriod();
     [[nodiscard]] QDate dateOf(Instant instant) const;
@@ -33,8 +34,8 @@ private:
     DateInspectorController& inspector_;
     const CalendarArithmetic& calendar_;
     QButtonGroup* kinds_;
-    QCalendarWidget* startPicker_;
-    QCalendarWidget* endPicker_;
+    PeriodPicker* startPicker_;
+    PeriodPicker* endPicker_;
     QToolButton* lock_;
 };
 

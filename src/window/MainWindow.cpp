@@ -8,6 +8,7 @@
 #include "window/FocusOrder.h"
 #include "window/InspectorPane.h"
 #include "window/LocalFile.h"
+#include "window/PeriodLabels.h"
 #include "window/RatePane.h"
 #include "window/ResultsPane.h"
 #include "window/SearchBox.h"
@@ -186,6 +187,9 @@ void MainWindow::followState() {
     });
     connect(&with_.dateInspectorController, &DateInspectorController::labelsChanged, this,
             &MainWindow::showPeriodTitle);
+    followReportingPeriod(with_.eventItemViewController, with_.dateInspectorController,
+                          with_.settings);
+    describeWithPeriod(with_.eventTable, with_.eventItemViewController);
     showPeriodTitle();
     showTableOrReason();
 }

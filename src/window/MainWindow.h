@@ -137,6 +137,8 @@ private:
     void addExportPaneAction(QMenu& menu, const QString& text, const QString& paneKey,
                              const QKeySequence& shortcut);
     void makeStepActions();
+    /// Without access to the calendars the period stays as it is.
+    void enableWithPeriod(QAction& action);
     /// Tab goes as the eye does: the toolbar, then the panes from the start to the end.
     void followState();
     void followExportPanes();

@@ -53,16 +53,19 @@ void MainWindow::makeStepActions() {
         step.action->setObjectName(QStringLiteral("setQuickDates") +
                                    QString::fromLatin1(step.text));
         step.action->setShortcut(step.shortcut);
-        step.action->setEnabled(with_.dateInspectorController.isInterfaceEnabled());
+        enableWithPeriod(*step.action);
         connect(step.action, &QAction::triggered, this,
                 [this, which = step.step] { with_.dateInspectorController.setQuickDates(which); });
     }
+}
+
+void MainWindow::enableWithPeriod(QAction& action) {
+    const auto enable = [this, &action] {
+        action.setEnabled(with_.dateInspectorController.isInterfaceEnabled());
+    };
     connect(&with_.dateInspectorController, &DateInspectorController::isInterfaceEnabledChanged,
-            this, [this] {
-                for (QAction* action : {previousAction_, currentAction_, nextAction_}) {
-                    action->setEnabled(with_.dateInspectorController.isInterfaceEnabled());
-                }
-            });
+            &action, enable);
+    enable();
 }
 
 void MainWindow::makeToolBar() {
@@ -224,10 +227,12 @@ void MainWindow::makePeriodMenu() {
     constexpr std::array texts{localizable("&Day"), localizable("&Week"), localizable("&Month"),
                                localizable("&Year"), localizable("C&ustom")};
     for (int kind = 0; kind < static_cast<int>(texts.size()); ++kind) {
-        addAction(menu, localized(texts[static_cast<std::size_t>(kind)]), "setQuickDatePeriod",
-                  QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + kind)), [this, kind] {
-                      with_.dateInspectorController.choosePeriodKind(static_cast<PeriodKind>(kind));
-                  });
+        QAction* action = addAction(
+            menu, localized(texts[static_cast<std::size_t>(kind)]), "setQuickDatePeriod",
+            QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + kind)), [this, kind] {
+                with_.dateInspectorController.choosePeriodKind(static_cast<PeriodKind>(kind));
+            });
+        enableWithPeriod(*action);
     }
 }
 
