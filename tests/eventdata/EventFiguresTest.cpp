@@ -137,6 +137,41 @@ TEST_F(EventFiguresTest, MoneyFromHoursRoundsTheHoursFirst) {
     EXPECT_EQ(text(of(ninetyMinutes).cost), "150");
 }
 
+TEST_F(EventFiguresTest, MoneyOfAnEventOutsideThePeriodIsNegativeFromMinutesAndPositiveFromHours) {
+    settings.setObject("isSingleRate", true);
+    settings.setObject("isDollarsOn", true);
+    settings.setObject("hourlyRate", 60);
+    setPeriod(utc(2024, 3, 2), utc(2024, 3, 2));
+    const Event dayBefore = timedEvent(utc(2024, 3, 1, 9), utc(2024, 3, 1, 22, 30));
+    EXPECT_EQ(text(of(dayBefore).cost), "-90");
+    settings.setObject("timeTypeSelection", 1);
+    EXPECT_EQ(text(of(dayBefore).cost), "90") << "hours are written without a sign first";
+}
+
+TEST_F(EventFiguresTest, EverySettingThatTheFiguresDependOnCountsAtOnce) {
+    const auto cost = [this] { return text(of(ninetyMinutes).cost); };
+    setRecords({{"work", 30}});
+    EXPECT_EQ(cost(), "absent");
+    settings.setObject("isDollarsOn", true);
+    EXPECT_EQ(cost(), "45");
+    settings.setObject("hourlyRate", 100);
+    settings.setObject("isSingleRate", true);
+    EXPECT_EQ(cost(), "150.00000000000003");
+    settings.setObject("timeTypeSelection", 1);
+    EXPECT_EQ(cost(), "150");
+    settings.setObject("hourlyRate", 80);
+    EXPECT_EQ(cost(), "120");
+    setRecords({{"work", 40}});
+    EXPECT_EQ(cost(), "60");
+    setRecords({{"work", 50}});
+    EXPECT_EQ(cost(), "75");
+}
+
+TEST_F(EventFiguresTest, ThePeriodBeginsWithItsFirstDayWhateverTheTimeThatIsStored) {
+    setPeriod(utc(2024, 3, 1, 12), utc(2024, 3, 1, 12));
+    EXPECT_EQ(of(timedEvent(utc(2024, 2, 29, 23), utc(2024, 3, 2, 1))).minutes, 1440);
+}
+
 TEST_F(EventFiguresTest, HoursAreExactToThirtyEightDigits) {
     EXPECT_EQ(of(timedEvent(utc(2024, 3, 1, 9), utc(2024, 3, 1, 9, 50))).hours.toString(),
               QStringLiteral("0.83333333333333333333333333333333333333"));
@@ -218,12 +253,21 @@ TEST_F(EventFiguresTest, ARecordWithoutARateCountsAsZero) {
 
 TEST_F(EventFiguresTest, TheOldRateWithADecimalCommaIsBroughtIntoTodaysForm) {
     settings.setObject("hourlyRate", "99,5");
+    settings.writes.clear();
     source.migrateHourlyRate();
+    EXPECT_EQ(settings.writes, (QStringList{"tempNumberRate", "hourlyRate", "hourlyRate"}));
     EXPECT_EQ(settings.object("tempNumberRate"), QVariant("99.5"));
     EXPECT_EQ(settings.object("hourlyRate"), QVariant(99.5));
     settings.setObject("hourlyRate", "7,5");
     source.migrateHourlyRate();
     EXPECT_EQ(settings.object("hourlyRate"), QVariant("7,5"));
+}
+
+TEST_F(EventFiguresTest, AnOldRateThatIsANumberKeepsItsValue) {
+    settings.setObject("hourlyRate", 62.25);
+    source.migrateHourlyRate();
+    EXPECT_EQ(settings.object("tempNumberRate"), QVariant("62.25"));
+    EXPECT_EQ(settings.object("hourlyRate"), QVariant(62.25));
 }
 
 TEST_F(EventFiguresTest, WithoutAnOldRateTheMigrationLeavesItsMark) {
@@ -255,6 +299,8 @@ TEST(EventFieldsTest, ReadsEveryFieldByItsKey) {
     EXPECT_EQ(fields.adjustedEndDate(event), utc(2024, 3, 1, 8, 59, 59));
     EXPECT_EQ(fields.valueForKey(event, "timeIntervalSinceStartOfDayForStartDate"),
               QVariant(9 * 3600.0 + 5));
+    EXPECT_EQ(fields.valueForKey(event, "timeIntervalSinceStartOfDayForEndDate"),
+              QVariant(10 * 3600.0 + 30));
     EXPECT_EQ(fields.valueForKey(event, "duration"), QVariant("1h"));
     EXPECT_FALSE(fields.valueForKey(event, "notes").isValid());
     EXPECT_FALSE(fields.valueForKey(event, "cost").isValid());

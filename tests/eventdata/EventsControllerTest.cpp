@@ -120,6 +120,9 @@ TEST_F(EventsControllerTest, SumsUpAllAndSelectedEvents) {
     events.setSelectedRows({0, 1});
     EXPECT_EQ(text(Aggregate::TotalSelectedDuration), QStringLiteral("12h"));
     EXPECT_EQ(text(Aggregate::AvgSelectedDuration), QStringLiteral("6h"));
+    events.setSelectedRows({0});
+    EXPECT_EQ(text(Aggregate::MinSelectedDuration), QStringLiteral("8h"));
+    EXPECT_EQ(text(Aggregate::MaxSelectedDuration), QStringLiteral("8h"));
 }
 
 TEST_F(EventsControllerTest, CountsTheDaysOfTheSelection) {
@@ -129,6 +132,25 @@ TEST_F(EventsControllerTest, CountsTheDaysOfTheSelection) {
     EXPECT_EQ(controller.aggregate(Aggregate::TotalSelectedDays), QVariant(1));
     events.setSelectedRows({1});
     EXPECT_EQ(controller.aggregate(Aggregate::TotalSelectedDays), QVariant(2));
+    events.setSelectedRows({2});
+    EXPECT_EQ(controller.aggregate(Aggregate::TotalSelectedDays), QVariant(1))
+        << "the day at whose midnight it ends does not count";
+}
+
+TEST_F(EventsControllerTest, EachSettingThatDecidesWhatIsShownFetches) {
+    wake();
+    for (const char* key : {"datesChangedTrigger", "calendars", "allDayHours",
+                            "allDayEventsNotIncluded", "isSingleRate", "hourlyRate", "viewMode"}) {
+        settings.setObject(key, settings.object(key));
+        EXPECT_EQ(background.tasks.size(), 1U) << key;
+        fetch();
+    }
+    for (const char* key : {"filterStartDate", "filterEndDate", "isDollarsOn"}) {
+        settings.setObject(key, settings.object(key));
+        EXPECT_TRUE(background.tasks.empty()) << key;
+    }
+    Q_EMIT records.arrangedObjectsChanged();
+    EXPECT_EQ(background.tasks.size(), 1U);
 }
 
 TEST_F(EventsControllerTest, ARequestDuringAFetchIsDropped) {
@@ -164,16 +186,21 @@ TEST_F(EventsControllerTest, APeriodChosenDuringAFetchIsFetchedByTheNextTriggerO
 
 TEST_F(EventsControllerTest, AChangeOfTheAccessFetchesWhicheverWayItGoes) {
     wake();
+    int announced = 0;
+    QObject::connect(&controller, &EventsController::aggregateChanged, [&] { ++announced; });
     store.status = AuthorizationStatus::Denied;
     settings.setObject("isCalendarAccessGranted", false);
     EXPECT_EQ(background.tasks.size(), 1U);
+    EXPECT_EQ(announced, 10);
     fetch();
     EXPECT_EQ(events.arrangedCount(), 0U);
     flipBool(settings, "datesChangedTrigger");
     settings.setObject("allDayHours", 8);
     EXPECT_TRUE(background.tasks.empty()) << "without access settings fetch nothing";
     store.status = AuthorizationStatus::Authorized;
+    announced = 0;
     settings.setObject("isCalendarAccessGranted", true);
+    EXPECT_EQ(announced, 20) << "as on every change while there is access, and by the new set-up";
     fetch();
     EXPECT_EQ(events.arrangedCount(), 3U);
 }
@@ -206,10 +233,15 @@ TEST_F(EventsControllerTest, TheProgressFlagIsStillOnWhileTheEventsRearrangeAndO
     QObject::connect(&events, &ListControllerNotices::arrangedObjectsChanged, [&] {
         isOnDuringPublication = boolForKey(settings, "isProgressIndicatorOn");
     });
+    bool isOnWhenTheyAreAnnounced = false;
+    QObject::connect(&controller, &EventsController::eventsChanged, [&] {
+        isOnWhenTheyAreAnnounced = boolForKey(settings, "isProgressIndicatorOn");
+    });
     controller.updateEvents();
     EXPECT_TRUE(boolForKey(settings, "isProgressIndicatorOn"));
     fetch();
     EXPECT_TRUE(isOnDuringPublication);
+    EXPECT_TRUE(isOnWhenTheyAreAnnounced);
     EXPECT_FALSE(boolForKey(settings, "isProgressIndicatorOn"));
     EXPECT_TRUE(background.tasks.empty()) << "publishing started another fetch";
 }
