@@ -132,6 +132,10 @@
         <translation>eine leere Datei</translation>
     </message>
     <message>
+        <source>an entry in it has no end</source>
+        <translation>ein Eintrag darin hat kein Ende</translation>
+    </message>
+    <message>
         <source>&amp;Apply</source>
         <translation>&amp;Anwenden</translation>
     </message>

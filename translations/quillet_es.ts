@@ -132,6 +132,10 @@
         <translation>un archivo vacío</translation>
     </message>
     <message>
+        <source>an entry in it has no end</source>
+        <translation>una de sus entradas no tiene final</translation>
+    </message>
+    <message>
         <source>&amp;Apply</source>
         <translation>&amp;Aplicar</translation>
     </message>

@@ -132,6 +132,10 @@
         <translation>un fichier vide</translation>
     </message>
     <message>
+        <source>an entry in it has no end</source>
+        <translation>une de ses entrées n’a pas de fin</translation>
+    </message>
+    <message>
         <source>&amp;Apply</source>
         <translation>&amp;Appliquer</translation>
     </message>

@@ -132,6 +132,10 @@
         <translation>空のファイル</translation>
     </message>
     <message>
+        <source>an entry in it has no end</source>
+        <translation>終わりのない項目があります</translation>
+    </message>
+    <message>
         <source>&amp;Apply</source>
         <translation>適用(&amp;A)</translation>
     </message>

@@ -82,6 +82,9 @@ void noteProblems(const IcsBlocks& blocks, const ReadEvents& read, QStringList& 
     if (blocks.endsWithinBlock) {
         problems.append(localized("ends in the middle"));
     }
+    if (blocks.hasUnendedPart) {
+        problems.append(localized("an entry in it has no end"));
+    }
     if (blocks.hasCutText) {
         problems.append(localized("a text or event that is too long was cut"));
     }

@@ -128,37 +128,54 @@ private:
     enum class Place { Outside, Calendar, Event, Zone };
 
     void begin(std::string_view component) {
-        if (skippedDepth_ > 0) {
-            ++skippedDepth_;
-        } else if (equalsIgnoringCase(component, "VCALENDAR")) {
-            closeBlock();
+        if (equalsIgnoringCase(component, "VCALENDAR")) {
+            leaveWhatIsOpen();
             place_ = Place::Calendar;
             blocks.isCalendarFile = true;
             blocks.calendars.emplace_back();
+        } else if (equalsIgnoringCase(component, "VEVENT")) {
+            // Nothing holds events but a calendar: what is open here was never ended.
+            leaveWhatIsOpen();
+            openOrSkip(Place::Event, component);
+        } else if (skippedDepth_ > 0) {
+            ++skippedDepth_;
         } else if (place_ == Place::Zone && !isInObservance_ && isObservance(component)) {
             isInObservance_ = true;
             append("BEGIN:" + std::string(component));
-        } else if (equalsIgnoringCase(component, "VEVENT") && mayOpen(component)) {
-            openBlock(Place::Event);
-        } else if (equalsIgnoringCase(component, "VTIMEZONE") && mayOpen(component)) {
-            openBlock(Place::Zone);
+        } else if (equalsIgnoringCase(component, "VTIMEZONE") && !isInBlock()) {
+            openOrSkip(Place::Zone, component);
         } else {
             skippedDepth_ = 1;
         }
     }
 
-    /// Blocks do not nest, and there is a bound to their number.
-    [[nodiscard]] bool mayOpen(std::string_view component) {
-        return place_ != Place::Event && place_ != Place::Zone && !isFull(component);
+    [[nodiscard]] bool isInBlock() const { return place_ == Place::Event || place_ == Place::Zone; }
+
+    /// So that something that does not end does not swallow what follows.
+    void leaveWhatIsOpen() {
+        blocks.hasUnendedPart = blocks.hasUnendedPart || isInBlock() || skippedDepth_ > 0;
+        skippedDepth_ = 0;
+        if (isInBlock()) {
+            closeBlock();
+            place_ = Place::Calendar;
+        }
+    }
+
+    /// There is a bound to the number of blocks.
+    void openOrSkip(Place place, std::string_view component) {
+        if (isFull(component)) {
+            skippedDepth_ = 1;
+        } else {
+            openBlock(place);
+        }
     }
 
     void end(std::string_view component) {
         if (equalsIgnoringCase(component, "VCALENDAR")) {
-            // Ends whatever was left open, so that a broken event does not swallow its followers.
-            closeBlock();
-            skippedDepth_ = 0;
+            leaveWhatIsOpen();
             place_ = Place::Outside;
         } else if (equalsIgnoringCase(component, "VEVENT") && place_ == Place::Event) {
+            blocks.hasUnendedPart = blocks.hasUnendedPart || skippedDepth_ > 0;
             skippedDepth_ = 0;
             closeBlock();
             place_ = Place::Calendar;
@@ -206,7 +223,7 @@ private:
     }
 
     void closeBlock() {
-        if (place_ == Place::Event || place_ == Place::Zone) {
+        if (isInBlock()) {
             blockStart_ = blocks.text.size();
             isBlockFull_ = false;
             append(place_ == Place::Event ? "END:VEVENT" : "END:VTIMEZONE");

@@ -56,6 +56,8 @@ struct IcsBlocks {
     QString color;
     bool isCalendarFile = false;
     bool endsWithinBlock = false;
+    /// Whether something begins in it that the file goes on without ending.
+    bool hasUnendedPart = false;
     bool hasCutText = false;
     bool hasTooManyEvents = false;
 };

@@ -255,12 +255,22 @@ TEST_F(OdditiesTest, readsTheEndRatherThanALengthBesideIt) {
     EXPECT_EQ(allEvents().at(0).endDate, utc(2024, 3, 1, 12));
 }
 
-TEST_F(OdditiesTest, keepsAFileFromSwallowingWhatFollowsAnEventThatDoesNotEnd) {
-    write(QStringLiteral("a.ics"),
-          "BEGIN:VCALENDAR\nBEGIN:VEVENT\nUID:1\nDTSTART:20240301T110000Z\nEND:VCALENDAR\n"
-          "BEGIN:VCALENDAR\nBEGIN:VEVENT\nUID:2\nDTSTART:20240302T110000Z\nEND:VEVENT\n"
-          "END:VCALENDAR\n");
-    EXPECT_EQ(starts(), march({1, 2}, 11));
+TEST_F(OdditiesTest, keepsAFileFromSwallowingWhatFollowsAnEntryThatDoesNotEnd) {
+    const QByteArray second = "BEGIN:VEVENT\nUID:2\nDTSTART:20240302T110000Z\nEND:VEVENT\n";
+    const QByteArray first = "BEGIN:VEVENT\nUID:1\nDTSTART:20240301T110000Z\n";
+    for (const QByteArray& entry :
+         {first + "END:VCALENDAR\nBEGIN:VCALENDAR\n", first, first + "BEGIN:VALARM\n",
+          first + "BEGIN:VALARM\nBEGIN:VCALENDAR\n", first + "BEGIN:VALARM\nEND:VEVENT\n",
+          first + "END:VEVENT\nBEGIN:VTODO\n",
+          first + "END:VEVENT\nBEGIN:VTIMEZONE\nTZID:a\nBEGIN:STANDARD\n"}) {
+        store.reset();
+        write(QStringLiteral("a.ics"), "BEGIN:VCALENDAR\n" + entry + second + "END:VCALENDAR\n");
+        EXPECT_EQ(starts(), march({1, 2}, 11)) << entry.toStdString();
+        EXPECT_EQ(store->problems(),
+                  (std::vector<StoreProblem>{
+                      {QStringLiteral("a.ics"), QStringLiteral("an entry in it has no end")}}))
+            << entry.toStdString();
+    }
 }
 
 } // namespace quillet::test
