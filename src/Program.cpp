@@ -36,7 +36,7 @@ bool showInSoftwareCentre(TaskLauncher& launcher) {
 }
 
 std::vector<ToolbarItem*> toolbarItems(ExportItems& items) {
-    return {&items.text, &items.csv, &items.tsv, &items.notes};
+    return {&items.text, &items.csv, &items.tsv, &items.mail, &items.notes};
 }
 
 } // namespace

@@ -31,6 +31,7 @@ struct ExportItems {
     ActionToolbarItem text;
     ActionToolbarItem csv;
     ActionToolbarItem tsv;
+    ActionToolbarItem mail;
     ActionToolbarItem notes;
 };
 

@@ -164,7 +164,6 @@ private:
     QAction* previousAction_ = nullptr;
     QAction* currentAction_ = nullptr;
     QAction* nextAction_ = nullptr;
-    QAction* mailAction_ = nullptr;
     QToolButton* columnLayoutsButton_ = nullptr;
     ColumnLayoutsPopoverController columnLayoutsPopover_;
     TXTSettingsSheet txtSettingsSheet_;

@@ -19,7 +19,6 @@ const QString notesPaneKey = QStringLiteral("isNotesViewOn");
 } // namespace
 
 void MainWindow::makeExportActions() {
-    mailAction_ = new QAction(this);
     ExportItems& items = with_.exportItems;
     struct Item {
         QAction& action;
@@ -42,7 +41,7 @@ void MainWindow::makeExportActions() {
              Item{items.tsv.action(), "saveAsTSV", localizable("TSV"),
                   localizable("Save the listed events as a TSV file"), Symbol::Save,
                   [this] { with_.exports.tsv.saveAsTSV(); }},
-             Item{*mailAction_, "sendToMail", localizable("Mail"),
+             Item{items.mail.action(), "sendToMail", localizable("Mail"),
                   localizable("Put the report into a new message"), Symbol::Mail,
                   [this] { mail(); }},
          }) {
@@ -52,7 +51,7 @@ void MainWindow::makeExportActions() {
         item.action.setIcon(symbolIcon(item.symbol));
         connect(&item.action, &QAction::triggered, this, item.trigger);
     }
-    mailAction_->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_M));
+    items.mail.action().setShortcut(QKeySequence(Qt::CTRL | Qt::Key_M));
 }
 
 void MainWindow::addExportPaneAction(QMenu& menu, const QString& text, const QString& paneKey,

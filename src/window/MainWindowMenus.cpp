@@ -76,7 +76,7 @@ void MainWindow::makeToolBar() {
     ExportItems& items = with_.exportItems;
     bar->addActions({&items.text.action(), &items.notes.action()});
     bar->addSeparator();
-    bar->addActions({&items.csv.action(), &items.tsv.action(), mailAction_});
+    bar->addActions({&items.csv.action(), &items.tsv.action(), &items.mail.action()});
     bar->addSeparator();
     bar->addActions({previousAction_, currentAction_, nextAction_});
     makeSearch(*bar);
@@ -121,7 +121,7 @@ void MainWindow::makeFileMenu() {
     addAction(menu, localized("Save Event &Notes…"), "saveNotesAsTxt", {},
               [this] { with_.exports.notes.saveAsTxt(); });
     menu.addSeparator();
-    menu.addAction(mailAction_);
+    menu.addAction(&with_.exportItems.mail.action());
     menu.addSeparator();
     addAction(menu, localized("R&estart Quillet"), "relaunch", {},
               [this] { with_.appDelegate.relaunch(); });
