@@ -140,6 +140,25 @@ void bareLibical(benchmark::State& state, const Library& (*library)()) {
     }
 }
 
+/// The occurrences that bare libical finds of the same series before the same end.
+void seriesWithBareLibical(benchmark::State& state) {
+    const icaltimetype end = icaltime_from_string("20240101T000000");
+    icalcomponent* calendar =
+        bench::parsedWithBareLibical(manySeries().rootPath() + QStringLiteral("/series.ics"));
+    std::size_t count = 0;
+    for (auto _ : state) {
+        count = 0;
+        for (icalcomponent* event =
+                 icalcomponent_get_first_component(calendar, ICAL_VEVENT_COMPONENT);
+             event != nullptr;
+             event = icalcomponent_get_next_component(calendar, ICAL_VEVENT_COMPONENT)) {
+            count += bench::occurrencesWithBareLibical(event, end);
+        }
+    }
+    icalcomponent_free(calendar);
+    state.counters["events"] = static_cast<double>(count);
+}
+
 void query(benchmark::State& state, const Library& (*library)()) {
     const LoadedStore store(library());
     std::size_t count = 0;
@@ -195,6 +214,7 @@ BENCHMARK_CAPTURE(bareLibical, 100000_events, bigFile)
     ->UseRealTime();
 BENCHMARK_CAPTURE(coldLoad, 100000_events, bigFile)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK_CAPTURE(query, 100000_events, bigFile)->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(seriesWithBareLibical)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK_CAPTURE(query, 500_series_4_years, manySeries)
     ->Unit(benchmark::kMillisecond)
     ->UseRealTime();

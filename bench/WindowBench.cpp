@@ -245,6 +245,31 @@ void manyFilesWithBareLibical(benchmark::State& state) {
     }
 }
 
+/// The processor time of all threads from one changed file of so many to the table that shows it.
+/// The waiting that gathers changes costs none.
+void oneChangedFileInTheWindow(benchmark::State& state) {
+    const auto count = static_cast<int>(state.range(0));
+    const Home home;
+    const auto file = [&home](int number) {
+        return home.folder() + QStringLiteral("/calendars/work/%1.ics").arg(number);
+    };
+    for (int number = 0; number < count; ++number) {
+        write(file(number), inCalendar(eventText(number, 2024, count)));
+    }
+    const BenchedProgram program(home.folder());
+    runUntilShown(count);
+    constexpr int titleColumn = 2;
+    int round = 0;
+    for (auto _ : state) {
+        const QByteArray title = "Changed " + QByteArray::number(++round);
+        write(file(0), inCalendar(eventText(0, 2024, count).replace("Meeting 0", title)));
+        runUntil([&title] {
+            const QAbstractItemModel* model = eventTable()->model();
+            return model->index(0, titleColumn).data().toByteArray() == title;
+        });
+    }
+}
+
 /// Another year of 100,000 events in memory, one of them selected: the whole, and the longest time
 /// that the main thread was kept.
 void newPeriodInTheWindow(benchmark::State& state) {
@@ -336,6 +361,12 @@ BENCHMARK(emptyWindow)->Unit(benchmark::kMillisecond)->UseManualTime();
 BENCHMARK(windowOfAThousandEvents)->Unit(benchmark::kMillisecond)->UseManualTime();
 BENCHMARK(manyFilesWithBareLibical)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(windowOfManyFiles)->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK(oneChangedFileInTheWindow)
+    ->Arg(2'000)
+    ->Arg(fileCount)
+    ->Iterations(10)
+    ->Unit(benchmark::kMillisecond)
+    ->MeasureProcessCPUTime();
 BENCHMARK(newPeriodInTheWindow)->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(20);
 BENCHMARK(sortByCostInTheWindow)->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(selectAllInTheWindow)->Unit(benchmark::kMillisecond)->UseRealTime();
