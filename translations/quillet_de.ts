@@ -136,6 +136,10 @@
         <translation>ein Eintrag darin hat kein Ende</translation>
     </message>
     <message>
+        <source>and %1 more</source>
+        <translation>und %1 weitere</translation>
+    </message>
+    <message>
         <source>&amp;Apply</source>
         <translation>&amp;Anwenden</translation>
     </message>
@@ -858,6 +862,10 @@
     <message>
         <source>Priority</source>
         <translation>Priorität</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Probleme</translation>
     </message>
     <message>
         <source>Put the report into a new message</source>

@@ -136,6 +136,10 @@
         <translation>una de sus entradas no tiene final</translation>
     </message>
     <message>
+        <source>and %1 more</source>
+        <translation>y %1 más</translation>
+    </message>
+    <message>
         <source>&amp;Apply</source>
         <translation>&amp;Aplicar</translation>
     </message>
@@ -858,6 +862,10 @@
     <message>
         <source>Priority</source>
         <translation>Prioridad</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Problemas</translation>
     </message>
     <message>
         <source>Put the report into a new message</source>

@@ -136,6 +136,10 @@
         <translation>une de ses entrées n’a pas de fin</translation>
     </message>
     <message>
+        <source>and %1 more</source>
+        <translation>et %1 autres</translation>
+    </message>
+    <message>
         <source>&amp;Apply</source>
         <translation>&amp;Appliquer</translation>
     </message>
@@ -858,6 +862,10 @@
     <message>
         <source>Priority</source>
         <translation>Priorité</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>Problèmes</translation>
     </message>
     <message>
         <source>Put the report into a new message</source>

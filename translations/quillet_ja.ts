@@ -136,6 +136,10 @@
         <translation>終わりのない項目があります</translation>
     </message>
     <message>
+        <source>and %1 more</source>
+        <translation>ほか%1件</translation>
+    </message>
+    <message>
         <source>&amp;Apply</source>
         <translation>適用(&amp;A)</translation>
     </message>
@@ -858,6 +862,10 @@
     <message>
         <source>Priority</source>
         <translation>優先度</translation>
+    </message>
+    <message>
+        <source>Problems</source>
+        <translation>問題</translation>
     </message>
     <message>
         <source>Put the report into a new message</source>

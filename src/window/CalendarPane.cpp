@@ -1,9 +1,9 @@
 #include "window/CalendarPane.h"
 
 #include "platform/Localized.h"
+#include "window/ProblemFoot.h"
 
 #include <QHeaderView>
-#include <QLabel>
 #include <QMouseEvent>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -16,7 +16,7 @@ CalendarPane::CalendarPane(CalendarsArrayController& calendars, CalendarListMode
     , calendars_(calendars)
     , model_(new CalendarListModel(calendars, std::move(colorOf), this))
     , table_(new QTableView(this))
-    , foot_(new QLabel(this)) {
+    , foot_(new ProblemFoot(this)) {
     table_->setModel(model_);
     table_->setAccessibleName(localized("Calendars"));
     table_->setToolTip(localized("Control-click ticks or clears all calendars"));
@@ -30,13 +30,6 @@ CalendarPane::CalendarPane(CalendarsArrayController& calendars, CalendarListMode
     table_->verticalHeader()->hide();
     table_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 7 / 4);
     table_->viewport()->installEventFilter(this);
-
-    foot_->setTextFormat(Qt::PlainText);
-    foot_->setWordWrap(true);
-    foot_->setMargin(fontMetrics().height() / 2);
-    foot_->setObjectName(QStringLiteral("calendarProblems"));
-    foot_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    foot_->hide();
 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -57,8 +50,7 @@ void CalendarPane::setHeader(QWidget& header) {
 }
 
 void CalendarPane::showProblems(const QStringList& problems) {
-    foot_->setText(problems.join(u'\n'));
-    foot_->setVisible(!problems.isEmpty());
+    foot_->showProblems(problems);
 }
 
 void CalendarPane::refreshColors() {

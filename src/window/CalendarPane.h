@@ -4,10 +4,11 @@
 
 #include <QWidget>
 
-class QLabel;
 class QTableView;
 
 namespace quillet {
+
+class ProblemFoot;
 
 /// The list of calendars, and at its foot what could not be read.
 class CalendarPane : public QWidget {
@@ -36,7 +37,7 @@ private:
     CalendarsArrayController& calendars_;
     CalendarListModel* model_;
     QTableView* table_;
-    QLabel* foot_;
+    ProblemFoot* foot_;
     bool isShowingSelection_ = false;
 };
 

@@ -233,7 +233,7 @@ TEST_F(ExportPanesTest, SavedAreTheNotesInTheOrderThatThePaneShows) {
 
 TEST_F(ExportPanesTest, MailWithNoPaneOpenTakesTheReport) {
     open();
-    action("sendToMail")->trigger();
+    exportItems.mail.action().trigger();
     ASSERT_EQ(scripts.sources.size(), 1);
     EXPECT_TRUE(scripts.sources.front().contains("Planning"));
     EXPECT_FALSE(reportView()->isVisible());
@@ -243,8 +243,8 @@ TEST_F(ExportPanesTest, MailIsOfferedWhateverProgramsThereAre) {
     scripts.answer = std::unexpected(QStringLiteral("no mail program"));
     open();
     openReport();
-    EXPECT_TRUE(action("sendToMail")->isEnabled());
-    EXPECT_EQ(action("sendToMail")->text(), QStringLiteral("Mail"));
+    EXPECT_TRUE(exportItems.mail.action().isEnabled());
+    EXPECT_EQ(exportItems.mail.action().text(), QStringLiteral("Mail"));
     EXPECT_TRUE(button("Mail")->isEnabled());
 }
 
