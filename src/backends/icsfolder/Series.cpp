@@ -73,7 +73,7 @@ const Series::Variation* variationAt(const Series& series, sys_seconds original)
     return next == series.variations.begin() ? nullptr : &*std::prev(next);
 }
 
-/// Makes the occurrences of one series, each original start once.
+/// Makes the occurrences of one series, each original start once. They come in their order.
 class Occurrences {
 public:
     Occurrences(const Series& series, Instant from, Instant to, EventList& events)
@@ -82,9 +82,7 @@ public:
         , to_(to)
         , events_(events) {}
 
-    void add(LocalSeconds local, const EventLength& length) {
-        const sys_seconds original = series_.zone->toInstant(local);
-        // Two wall-clock times around a jump of the clock can be one instant.
+    void add(LocalSeconds local, sys_seconds original, const EventLength& length) {
         if (original == last_ || isExcluded(local, original)) {
             return;
         }
@@ -133,6 +131,7 @@ void appendOccurrences(const Series& series, Instant from, Instant to, WorkBudge
     struct Start {
         LocalSeconds local;
         EventLength length;
+        sys_seconds original = {};
     };
     std::vector<Start> starts;
     // Extras come first, so that one which names a start of the rule gives it its length.
@@ -148,9 +147,16 @@ void appendOccurrences(const Series& series, Instant from, Instant to, WorkBudge
     if (hasExtras) {
         std::ranges::stable_sort(starts, {}, &Start::local);
     }
+    for (Start& start : starts) {
+        start.original = series.zone->toInstant(start.local);
+    }
+    // Where the clock jumps, wall-clock times of two hours are the same instants once more.
+    if (!std::ranges::is_sorted(starts, {}, &Start::original)) {
+        std::ranges::stable_sort(starts, {}, &Start::original);
+    }
     Occurrences occurrences(series, from, to, events);
     for (const Start& start : starts) {
-        occurrences.add(start.local, start.length);
+        occurrences.add(start.local, start.original, start.length);
     }
 }
 

@@ -38,6 +38,13 @@ TEST_F(RecurrenceTest, readsOccurrencesInTheSkippedAndTheRepeatedHour) {
         Instants({utc(2024, 10, 26, 0, 30), utc(2024, 10, 27, 0, 30), utc(2024, 10, 28, 1, 30)}));
 }
 
+TEST_F(RecurrenceTest, showsWhatFallsIntoTheSkippedHourAndTheNextOnce) {
+    EXPECT_EQ(startsOf("DTSTART;TZID=Europe/Berlin:20240331T013000\r\n"
+                       "RRULE:FREQ=HOURLY;BYMINUTE=0,30;COUNT=6"),
+              Instants({utc(2024, 3, 31, 0, 30), utc(2024, 3, 31, 1), utc(2024, 3, 31, 1, 30),
+                        utc(2024, 3, 31, 2)}));
+}
+
 TEST_F(RecurrenceTest, repeatsWholeDaysByTheCalendar) {
     write(QStringLiteral("a.ics"),
           eventFile("DTSTART;VALUE=DATE:20240330\r\nRRULE:FREQ=DAILY;UNTIL=20240401"));
