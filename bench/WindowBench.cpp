@@ -87,7 +87,7 @@ QByteArray inCalendar(const QByteArray& events) {
 }
 
 ProgramPaths pathsIn(const QString& folder) {
-    return {folder + "/config/quillet.json", folder + "/calendars", folder + "/state", {}};
+    return {folder + "/config/quillet.json", folder + "/calendars", folder + "/state", {}, {}};
 }
 
 /// The program without a session bus, which every start would ask whether another runs.
