@@ -65,6 +65,64 @@ TEST_F(CalendarsArrayControllerTest, TheFirstAccessTicksEveryCalendarAndFetchesA
     EXPECT_EQ(settings.object("datesChangedTrigger"), QVariant(true));
 }
 
+TEST_F(CalendarsArrayControllerTest, TheGroupsSheetIsNeverOpenAtTheStart) {
+    settings.setObject("isCalendarGroupsSheetActive", true);
+    controller.awakeFromNib();
+    EXPECT_EQ(settings.object("isCalendarGroupsSheetActive"), QVariant(false));
+}
+
+TEST_F(CalendarsArrayControllerTest, ASyncStoresAnEmptyListWhereThereIsNone) {
+    wakeWithAccess();
+    store.storedCalendars.clear();
+    settings.remove("calendars");
+    controller.syncCalendars();
+    EXPECT_EQ(settings.object("calendars"), QVariant(QVariantList()));
+}
+
+TEST_F(CalendarsArrayControllerTest, ARecordWithoutARateGetsZero) {
+    settings.setObject("calendars", QVariantList{QVariantMap{{"calendarIdentifier", "w"}}});
+    wakeWithAccess();
+    EXPECT_EQ(stored()[0].rate, Decimal());
+    EXPECT_FALSE(stored()[0].isSelected) << "only new records are ticked";
+}
+
+TEST_F(CalendarsArrayControllerTest, TitlesStandInThePlainOrderOfTheirLetters) {
+    store.storedCalendars = {calendar("a", "ärzte"), calendar("b", "arbeit"),
+                             calendar("c", "Zahlen"), calendar("d", "Über")};
+    wakeWithAccess();
+    EXPECT_EQ(titles(), (QStringList{"Zahlen", "arbeit", "Über", "ärzte"}));
+}
+
+TEST_F(CalendarsArrayControllerTest, AnotherChosenGroupSyncsOnlyWithAccessAndWithoutTheSheet) {
+    wakeWithAccess();
+    store.storedCalendars.push_back(calendar("n", "New"));
+    settings.setObject("isCalendarGroupsSheetActive", true);
+    settings.setObject("calendarGroupsSelectedIndex", 1);
+    EXPECT_EQ(stored().size(), 3U);
+    settings.setObject("isCalendarAccessGranted", false);
+    settings.setObject("isCalendarGroupsSheetActive", false);
+    settings.setObject("calendarGroupsSelectedIndex", 1);
+    EXPECT_EQ(stored().size(), 3U);
+    settings.setObject("isCalendarAccessGranted", true);
+    settings.setObject("calendarGroupsSelectedIndex", 1);
+    EXPECT_EQ(stored().size(), 4U);
+}
+
+TEST_F(CalendarsArrayControllerTest, WhatASyncItselfStoresStartsNoOther) {
+    settings.setObject("isCalendarAccessGranted", true);
+    controller.awakeFromNib();
+    settings.remove("hourlyRate");
+    EXPECT_EQ(decimalFromValue(settings.object("hourlyRate")), Decimal());
+    bool wasSyncing = false;
+    const Observation observation = settings.observe(
+        "hourlyRate", [&] { wasSyncing = wasSyncing || controller.isCalendarsSyncing(); });
+    settings.remove("hourlyRate");
+    EXPECT_TRUE(wasSyncing) << "the rate is stored within the sync";
+    controller.setIsCalendarsSyncing(true);
+    settings.setObject("isDollarsOn", true);
+    EXPECT_EQ(titles()[0], QStringLiteral("Clients"));
+}
+
 TEST_F(CalendarsArrayControllerTest, WithMoneyOnTheFirstTitlesShowZero) {
     settings.setObject("isDollarsOn", true);
     settings.setObject("isSingleRate", false);
@@ -75,6 +133,9 @@ TEST_F(CalendarsArrayControllerTest, WithMoneyOnTheFirstTitlesShowZero) {
 
 TEST_F(CalendarsArrayControllerTest, ATitleThatIsMissingCountsAsEmptyAndARateAsZero) {
     EXPECT_EQ(controller.makeTitleWithStringAndRate(QString(), QStringLiteral("5")), QString(""));
+    EXPECT_EQ(controller.makeTitleWithStringAndRate(QStringLiteral(" Work "), QString()),
+              QStringLiteral(" Work "))
+        << "as it comes";
     settings.setObject("isDollarsOn", true);
     EXPECT_EQ(controller.makeTitleWithStringAndRate(QString(), QString()),
               QStringLiteral("   ($0.00)"));
