@@ -64,6 +64,22 @@ TEST_F(EventItemViewControllerTest, TheFirstStartWritesTitlesAndVisibilities) {
     }
 }
 
+TEST_F(EventItemViewControllerTest, TitlesThatAreAbsentAreWrittenInTheirOrderAndOthersKept) {
+    settings.setObject("notesColumnTitle", "Remarks");
+    settings.writes.clear();
+    controller.awakeFromNib();
+    QStringList written;
+    for (const QString& key : settings.writes) {
+        if (key.endsWith(QStringLiteral("ColumnTitle"))) {
+            written << key.chopped(static_cast<int>(std::size("ColumnTitle")) - 1);
+        }
+    }
+    EXPECT_EQ(written, (QStringList{"title", "hours", "minutes", "duration", "date", "endDate",
+                                    "location", "url", "startTime", "endTime", "startWeekday",
+                                    "endWeekday", "calendar", "rate", "cost"}));
+    EXPECT_EQ(settings.object("notesColumnTitle"), QVariant("Remarks"));
+}
+
 TEST_F(EventItemViewControllerTest, TheChosenTimeColumnTakesThePlaceAndWidthOfTheOneShown) {
     controller.awakeFromNib();
     table.moveColumn(table.positionOf("hours"), 3);
@@ -78,6 +94,30 @@ TEST_F(EventItemViewControllerTest, TheChosenTimeColumnTakesThePlaceAndWidthOfTh
     const std::array<bool, 6> hidden{items[0].isHidden, items[1].isHidden, items[2].isHidden,
                                      items[3].isHidden, items[4].isHidden, items[5].isHidden};
     EXPECT_EQ(hidden, (std::array{true, false, true, true, false, true}));
+}
+
+TEST_F(EventItemViewControllerTest, OfTwoRivalsTheSecondGivesThePlaceAndTheWidth) {
+    controller.awakeFromNib();
+    const auto placeOfChosen = [&](int timeType, const char* chosen, const char* first,
+                                   const char* second) {
+        settings.setObject("timeTypeSelection", 0);
+        table.column(chosen).hidden = true;
+        table.moveColumn(table.positionOf(chosen), 0);
+        table.column(first).hidden = false;
+        table.column(first).width = 60;
+        table.moveColumn(table.positionOf(first), 4);
+        table.column(second).hidden = false;
+        table.column(second).width = 80;
+        table.moveColumn(table.positionOf(second), 9);
+        settings.setObject("timeTypeSelection", timeType);
+        EXPECT_TRUE(isHidden(first) && isHidden(second));
+        EXPECT_FALSE(isHidden(chosen));
+        EXPECT_EQ(table.column(chosen).width, 80) << chosen;
+        EXPECT_EQ(table.positionOf(chosen), 9) << chosen;
+    };
+    placeOfChosen(1, "hours", "duration", "minutes");
+    placeOfChosen(2, "minutes", "hours", "duration");
+    placeOfChosen(3, "duration", "hours", "minutes");
 }
 
 TEST_F(EventItemViewControllerTest, WithTimeOffTheChosenColumnAndItsRivalsAreHidden) {
@@ -98,6 +138,24 @@ TEST_F(EventItemViewControllerTest, CostFollowsItsKeyOnlyWhileMoneyIsOn) {
     EXPECT_FALSE(isHidden("cost"));
     settings.setObject("isRateColumn", true);
     EXPECT_FALSE(isHidden("rate"));
+}
+
+TEST_F(EventItemViewControllerTest, WithoutMoneyTheRateIsHiddenWhateverItsKeySays) {
+    settings.setObject("isDollarsOn", false);
+    settings.setObject("isRateColumn", true);
+    controller.awakeFromNib();
+    EXPECT_TRUE(isHidden("rate"));
+    settings.setObject("isDollarsOn", true);
+    EXPECT_FALSE(isHidden("rate"));
+}
+
+TEST_F(EventItemViewControllerTest, EveryPassFlipsTheTriggerAlsoWithoutAChange) {
+    controller.awakeFromNib();
+    const bool before = boolForKey(settings, "hiddenColumnsChangedTrigger");
+    controller.setHiddenEventColumns();
+    EXPECT_NE(boolForKey(settings, "hiddenColumnsChangedTrigger"), before);
+    controller.setHiddenEventColumns();
+    EXPECT_EQ(boolForKey(settings, "hiddenColumnsChangedTrigger"), before);
 }
 
 TEST_F(EventItemViewControllerTest, EveryWriteOfAVisibilityKeyIsOnePassAlsoAnEqualOne) {
@@ -151,6 +209,32 @@ TEST_F(EventItemViewControllerTest, TheRateLabelNamesTheOneSelectedCalendar) {
     EXPECT_EQ(controller.hourlyRateLabelString(), QStringLiteral(" Calendar Hourly Rate: $"));
 }
 
+TEST_F(EventItemViewControllerTest, TheRateLabelIsMadeAtTheStartAndWhenTheCalendarsAreWritten) {
+    CalendarRecord work;
+    work.title = "Work";
+    calendars.setContent(std::vector{work});
+    calendars.setSelectedRows({0});
+    controller.awakeFromNib();
+    EXPECT_EQ(controller.hourlyRateLabelString(), QStringLiteral("Work Calendar Hourly Rate: $"));
+    int changes = 0;
+    QObject::connect(&controller, &EventItemViewController::hourlyRateLabelStringChanged,
+                     &controller, [&changes] { ++changes; });
+    settings.setObject("calendars", QVariantList());
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(EventItemViewControllerTest, DaysAreCountedOverAChangeOfTheClock) {
+    const auto count = [&](Instant start, Instant end) {
+        settings.setObject("eventStartDate", QVariant::fromValue(start));
+        settings.setObject("eventEndDate", QVariant::fromValue(end));
+        return controller.totalDays();
+    };
+    EXPECT_EQ(count(utc(2024, 3, 29, 23), utc(2024, 4, 1, 21, 59, 59)), 3);
+    EXPECT_EQ(count(utc(2024, 10, 25, 22), utc(2024, 10, 28, 22, 59, 59)), 3);
+    EXPECT_EQ(count(utc(2024, 3, 30, 23), utc(2024, 3, 31, 21, 59, 59)), 1);
+    EXPECT_EQ(count(utc(2024, 3, 3, 23), utc(2024, 3, 10, 22, 59, 59)), 7);
+}
+
 TEST_F(EventItemViewControllerTest, ThePeriodLabels) {
     controller.awakeFromNib();
     EXPECT_EQ(controller.periodLabelString(), QStringLiteral("Day"));
@@ -159,9 +243,12 @@ TEST_F(EventItemViewControllerTest, ThePeriodLabels) {
     controller.setDateRangeLabel();
     EXPECT_EQ(controller.totalDays(), 31);
     EXPECT_EQ(controller.dateRangeLabelString(), QStringLiteral("March 1, 2024 - March 31, 2024"));
-    settings.setObject("quickDatePeriodIndex", 4);
-    controller.setPeriodLabel();
-    EXPECT_EQ(controller.periodLabelString(), QStringLiteral("31 Days"));
+    const QStringList kinds{"Day", "Week", "Month", "Year", "31 Days"};
+    for (int kind = 0; kind < kinds.size(); ++kind) {
+        settings.setObject("quickDatePeriodIndex", kind);
+        controller.setPeriodLabel();
+        EXPECT_EQ(controller.periodLabelString(), kinds[kind]);
+    }
     settings.setObject("isCustomDateOn", true);
     controller.setPeriodLabel();
     EXPECT_EQ(controller.periodLabelString(), QStringLiteral("Custom"));
