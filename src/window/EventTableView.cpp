@@ -12,6 +12,7 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -101,6 +102,8 @@ EventTableView::EventTableView(QAbstractItemModel& model, ListController<Event>&
     setUpHeader();
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &EventTableView::takeSelectionFromView);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            [this] { viewport()->update(besideColumns()); });
     connect(&events_, &ListControllerNotices::arrangedObjectsWillChange, this,
             [this] { scrollPosition_ = verticalScrollBar()->value(); });
     connect(&events_, &ListControllerNotices::arrangedObjectsChanged, this,
@@ -180,6 +183,35 @@ void EventTableView::mouseDoubleClickEvent(QMouseEvent* event) {
         selectionModel()->isRowSelected(clicked.row())) {
         openInCalendar();
     }
+}
+
+QRect EventTableView::besideColumns() const {
+    const QRect area = viewport()->rect();
+    const int columnsWidth = horizontalHeader()->length() - horizontalHeader()->offset();
+    return isRightToLeft() ? area.adjusted(0, 0, -columnsWidth, 0)
+                           : area.adjusted(columnsWidth, 0, 0, 0);
+}
+
+void EventTableView::paintEvent(QPaintEvent* event) {
+    // A table view ends its stripes with the last column, where they would look cut off.
+    const QRect beside = besideColumns();
+    const int lastRow = model()->rowCount() - 1;
+    if (!beside.isEmpty() && lastRow >= 0) {
+        QPainter painter(viewport());
+        const auto group = isActiveWindow() ? QPalette::Active : QPalette::Inactive;
+        const int end = verticalHeader()->visualIndexAt(viewport()->height());
+        for (int row = std::max(verticalHeader()->visualIndexAt(0), 0);
+             row <= (end < 0 ? lastRow : end); ++row) {
+            const QRect stripe(beside.left(), rowViewportPosition(row), beside.width(),
+                               rowHeight(row));
+            if (selectionModel()->isRowSelected(row)) {
+                painter.fillRect(stripe, palette().brush(group, QPalette::Highlight));
+            } else if (row % 2 == 1) {
+                painter.fillRect(stripe, palette().brush(group, QPalette::AlternateBase));
+            }
+        }
+    }
+    QTableView::paintEvent(event);
 }
 
 int EventTableView::columnCount() const {

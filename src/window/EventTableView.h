@@ -57,12 +57,15 @@ public Q_SLOTS:
 
 protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     class HeaderColumn;
 
     void setUpHeader();
     void openInCalendar();
+    /// Where no column is, beside the last one; empty when the columns fill the view.
+    [[nodiscard]] QRect besideColumns() const;
     void showHeaderMenu(const QPoint& position);
     void sort(int logicalIndex, Qt::SortOrder order);
     void takeSelectionFromView();
