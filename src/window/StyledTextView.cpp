@@ -47,7 +47,10 @@ void StyledTextView::fillIn() {
     slice.start();
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
-    while (nextPart_ < text_.parts.size() && slice.elapsed() < sliceMilliseconds) {
+    // At least one part each time, however busy the machine is.
+    for (bool isFirst = true;
+         nextPart_ < text_.parts.size() && (isFirst || slice.elapsed() < sliceMilliseconds);
+         isFirst = false) {
         const StyledText::Part& part = text_.parts[nextPart_++];
         QTextCharFormat format;
         if (part.style == StyledText::Style::Bold) {
