@@ -54,6 +54,24 @@ TEST_F(OdditiesTest, readsMidnightsInUtcAsDatesOfAWholeDaySeries) {
     writeEvents({"DTSTART;VALUE=DATE:20240304\r\nRRULE:FREQ=DAILY;COUNT=3\r\n"
                  "EXDATE;TZID=America/New_York:20240305T000000"});
     EXPECT_EQ(starts(), Instants({utc(2024, 3, 4, 5), utc(2024, 3, 6, 5)}));
+    writeEvents({"DTSTART;VALUE=DATE:20240304\r\nRRULE:FREQ=DAILY;UNTIL=20240305T000000Z"});
+    EXPECT_EQ(starts(), Instants({utc(2024, 3, 4, 5), utc(2024, 3, 5, 5)}));
+}
+
+TEST_F(OdditiesTest, countsADayThatAWholeDayEventOnlyBeginsToFill) {
+    for (const QByteArray& length :
+         {QByteArray("DTEND;TZID=Europe/Berlin:20240302T120000"), QByteArray("DURATION:P1DT12H")}) {
+        writeEvents({"DTSTART;VALUE=DATE:20240301\r\n" + length});
+        const EventList events = allEvents();
+        ASSERT_EQ(events.size(), 1U);
+        EXPECT_EQ(events[0].startDate, utc(2024, 2, 29, 23));
+        EXPECT_EQ(events[0].endDate, utc(2024, 3, 2, 23)) << length.toStdString();
+    }
+}
+
+TEST_F(OdditiesTest, countsNoWeekdaysWhereNoMonthIsNamed) {
+    writeEvents({"DTSTART:20240304T090000Z\r\nRRULE:FREQ=WEEKLY;BYDAY=2WE;COUNT=3"});
+    EXPECT_EQ(starts(), march({4, 6, 13}));
 }
 
 TEST_F(OdditiesTest, showsAMovedOccurrenceOnceHoweverItsVersionsNameIt) {

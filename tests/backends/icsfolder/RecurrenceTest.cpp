@@ -321,6 +321,30 @@ TEST_F(RecurrenceTest, findsALongOccurrenceThatBeganBeforeTheRange) {
     EXPECT_EQ(eventsBetween(utc(2024, 5, 22), utc(2024, 5, 23)).size(), 0U);
 }
 
+TEST_F(RecurrenceTest, showsOnEachDayWhatAWholeYearShowsOfIt) {
+    const QByteArray future = "RECURRENCE-ID;RANGE=THISANDFUTURE:20240306T090000Z\r\n";
+    for (const QByteArray& file :
+         {eventFile(fourDays + "\r\nRDATE;VALUE=PERIOD:20240310T120000Z/P30D"),
+          seriesFile(fourDays, {future + "DTSTART:20240326T090000Z\r\nDURATION:PT1H"}),
+          seriesFile(fourDays, {future + "DTSTART:20240215T090000Z\r\nDURATION:PT1H"}),
+          seriesFile(fourDays, {future + "DTSTART:20240306T090000Z\r\nDURATION:P12D"})}) {
+        store.reset();
+        write(QStringLiteral("a.ics"), file);
+        const EventList year = eventsBetween(utc(2024, 1, 1), utc(2025, 1, 1));
+        ASSERT_GE(year.size(), 4U);
+        for (Instant day = utc(2024, 2, 1); day < utc(2024, 5, 1); day += std::chrono::days(1)) {
+            const Instant next = day + std::chrono::days(1);
+            const auto isOnDay = [&](const Event& event) {
+                return event.startDate < next && event.endDate > day;
+            };
+            EXPECT_EQ(eventsBetween(day, next).size(),
+                      static_cast<std::size_t>(std::ranges::count_if(year, isOnDay)))
+                << day.time_since_epoch().count() << '\n'
+                << file.toStdString();
+        }
+    }
+}
+
 } // namespace
 
 } // namespace quillet::test
