@@ -134,6 +134,9 @@ std::int32_t DateInspectorController::totalDays() const {
 }
 
 void DateInspectorController::setLabels() {
+    // The end that is read later may move the other one.
+    (void)startDate();
+    (void)endDate();
     const qint64 kind = quickDatePeriodIndex();
     switch (kind) {
     case static_cast<qint64>(PeriodKind::Day):
@@ -155,8 +158,8 @@ void DateInspectorController::setLabels() {
     default:
         periodLabel_.clear();
     }
-    const Instant start = stored(startKey).value_or(startDate());
-    const Instant end = stored(endKey).value_or(endDate());
+    const Instant start = stored(startKey).value_or(*startDate_);
+    const Instant end = stored(endKey).value_or(*endDate_);
     dateRangeLabel_ = with_.formats.longDate(start);
     if (kind > 0) {
         dateRangeLabel_ += QStringLiteral(" - ") + with_.formats.longDate(end);

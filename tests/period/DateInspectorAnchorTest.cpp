@@ -85,6 +85,24 @@ TEST_F(DateInspectorAnchorTest, APickedEndUnlocksACustomPeriod) {
     EXPECT_EQ(period(), "2024-03-11 00:00:00 - 2024-03-20 23:59:59") << "the end stays";
 }
 
+TEST_F(DateInspectorAnchorTest, LabelsTellTheDatesThatAreLeftOfStoredOnesThatCannotBe) {
+    const auto launchWith = [this](Instant start, Instant end) {
+        settings.setObject("quickDatePeriod", 4);
+        settings.setObject("filterStartDate", QVariant::fromValue(start));
+        settings.setObject("filterEndDate", QVariant::fromValue(end));
+        useZone("UTC", "en_GB");
+        return (controller->periodLabelString() + QStringLiteral(": ") +
+                controller->dateRangeLabelString())
+            .toStdString();
+    };
+    EXPECT_EQ(launchWith(local(2024, 5, 10), local(2024, 3, 1)),
+              "1 Days: March 1, 2024 - March 1, 2024");
+    EXPECT_EQ(period(), "2024-03-01 00:00:00 - 2024-03-01 23:59:59");
+    EXPECT_EQ(launchWith(local(2010, 1, 1), local(2024, 3, 1)),
+              "1460 Days: March 3, 2020 - March 1, 2024");
+    EXPECT_EQ(period(), "2020-03-03 00:00:00 - 2024-03-01 23:59:59");
+}
+
 TEST_F(DateInspectorAnchorTest, AStartWithoutAccessHasItsControlsDisabled) {
     settings.setObject("isCalendarAccessGranted", false);
     DateInspectorController next({settings, clock, *gregorian, *current, *formats});
