@@ -195,9 +195,12 @@ void MainWindow::followState() {
 }
 
 void MainWindow::showPeriodTitle() {
-    periodTitle_->setText(
-        QStringLiteral("%1 · %2").arg(with_.dateInspectorController.periodLabelString(),
-                                      with_.dateInspectorController.dateRangeLabelString()));
+    const DateInspectorController& period = with_.dateInspectorController;
+    // A kind that nobody knows has no name.
+    periodTitle_->setText(period.periodLabelString().isEmpty()
+                              ? period.dateRangeLabelString()
+                              : QStringLiteral("%1 · %2").arg(period.periodLabelString(),
+                                                              period.dateRangeLabelString()));
 }
 
 void MainWindow::showTableOrReason() {

@@ -192,6 +192,8 @@ TEST_F(MainWindowTest, ThePeriodIsChosenAndStepped) {
     fetch();
     EXPECT_EQ(title->text(), QString::fromUtf8("Day · March 4, 2024"));
     EXPECT_EQ(model.rowCount(), 1);
+    settings.setObject("quickDatePeriod", 99);
+    EXPECT_EQ(title->text(), QString::fromUtf8("March 4, 2024 - March 4, 2024"));
 }
 
 TEST_F(MainWindowTest, PickingAnEndMakesThePeriodCustom) {
