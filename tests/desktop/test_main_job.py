@@ -1,13 +1,15 @@
 """From a folder of calendars to hours, money and a saved file, as a newcomer does it."""
 
+import json
 import os
 from pathlib import Path
 
 from accessibility import wait_for
 from months import csv_bytes, entries, show_this_month, titles, write_calendars
-from program import Quillet
+from program import SETTINGS, Quillet
 
 DESKTOP = Path(os.environ["HOME"]) / "Desktop"
+SETTINGS_TEXT = Path(__file__).resolve().parents[2] / "docs" / "settings.md"
 
 
 def saved(program, name):
@@ -52,6 +54,14 @@ def check_money(program):
     check_saved(program, "money.csv", csv_bytes(entries(0), rate=80))
 
 
+def check_settings():
+    """The program stores nothing that its users are not told of."""
+    described = SETTINGS_TEXT.read_text()
+    stored = json.loads(SETTINGS.read_text())
+    assert len(stored) > 100
+    assert [key for key in stored if f"`{key}`" not in described] == []
+
+
 def main():
     write_calendars()
     with Quillet() as program:
@@ -63,6 +73,7 @@ def main():
         check_steps(program)
         check_money(program)
     assert program.log == "", f"the program logged:\n{program.log}"
+    check_settings()
 
 
 main()
