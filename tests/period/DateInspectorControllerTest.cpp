@@ -47,6 +47,17 @@ TEST_F(DateInspectorControllerTest, APeriodIsAtMost1460Days) {
     EXPECT_EQ(day(controller->endDate()), "2013-12-30 23:59:59");
 }
 
+TEST_F(DateInspectorControllerTest, AStoredPeriodThatIsTooLongIsNamedAsItIsShown) {
+    settings.setObject("quickDatePeriod", static_cast<qint64>(PeriodKind::Custom));
+    settings.setObject("filterStartDate", QVariant::fromValue(local(2001, 1, 1)));
+    settings.setObject("filterEndDate", QVariant::fromValue(local(2030, 1, 1)));
+    useZone("UTC", "en_GB");
+    EXPECT_EQ(period(), "2026-01-03 00:00:00 - 2030-01-01 23:59:59");
+    EXPECT_EQ(controller->periodLabelString(), QStringLiteral("1460 Days"));
+    EXPECT_EQ(controller->dateRangeLabelString(),
+              QStringLiteral("January 3, 2026 - January 1, 2030"));
+}
+
 TEST_F(DateInspectorControllerTest, TheClampEndsForInputsAtAnyTimeOfDay) {
     useZone("Europe/Berlin", "de_DE");
     for (const int hours : {0, 1, 12, 23}) {
