@@ -96,6 +96,13 @@ void ReportView::updateScrollBars() {
         0, std::max(0, static_cast<int>(width) + 2 * margin - viewport()->width()));
 }
 
+QString ReportView::shownLine(qsizetype number) const {
+    QString line = lines_.line(number).toString();
+    // They end a line of a layout, but none of this text.
+    line.replace(QChar::LineSeparator, u' ').replace(QChar::ParagraphSeparator, u' ');
+    return line;
+}
+
 void ReportView::layOut(QTextLayout& layout) const {
     QTextOption option;
     option.setTextDirection(Qt::LeftToRight);
@@ -121,9 +128,9 @@ void ReportView::paintEvent(QPaintEvent* event) {
 }
 
 void ReportView::paintLine(QPainter& painter, qsizetype number, QPoint place) const {
-    const QStringView line = lines_.line(number);
+    const QString line = shownLine(number);
     const qsizetype start = lines_.start(number);
-    QTextLayout layout(line.toString(), font(), viewport());
+    QTextLayout layout(line, font(), viewport());
     layOut(layout);
     QList<QTextLayout::FormatRange> ranges;
     const qsizetype from = std::clamp<qsizetype>(std::min(anchor_, caret_) - start, 0, line.size());
@@ -143,7 +150,7 @@ void ReportView::paintLine(QPainter& painter, qsizetype number, QPoint place) co
 
 QRect ReportView::characterRect(qsizetype position) const {
     const qsizetype number = lines_.lineAt(position);
-    QTextLayout layout(lines_.line(number).toString(), font(), viewport());
+    QTextLayout layout(shownLine(number), font(), viewport());
     layOut(layout);
     const int offset = static_cast<int>(position - lines_.start(number));
     const double left = layout.lineAt(0).cursorToX(offset);
@@ -158,7 +165,7 @@ qsizetype ReportView::positionAt(QPoint point) const {
     const int row = point.y() < 0 ? -1 : std::max(point.y() - margin, 0) / lineHeight();
     const qsizetype number =
         std::clamp<qsizetype>(verticalScrollBar()->value() + row, 0, lines_.count() - 1);
-    QTextLayout layout(lines_.line(number).toString(), font(), viewport());
+    QTextLayout layout(shownLine(number), font(), viewport());
     layOut(layout);
     return lines_.start(number) +
            layout.lineAt(0).xToCursor(point.x() - margin + horizontalScrollBar()->value());

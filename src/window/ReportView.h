@@ -60,6 +60,8 @@ private:
 
     [[nodiscard]] int lineHeight() const;
     [[nodiscard]] int linesOnScreen() const;
+    /// As long as the line itself.
+    [[nodiscard]] QString shownLine(qsizetype number) const;
     void layOut(QTextLayout& layout) const;
     void paintLine(QPainter& painter, qsizetype number, QPoint place) const;
     void updateScrollBars();

@@ -120,6 +120,18 @@ TEST_F(ReportViewTest, TheMouseSelectsAndADoubleClickTakesAWord) {
     EXPECT_EQ(view.selectedText(), QStringLiteral("second\nt"));
 }
 
+TEST_F(ReportViewTest, OnlyLineFeedsEndALine) {
+    showText(u"one\u2028two\u2029three\rfour\vfive\fsix"_qs);
+    ASSERT_EQ(view.lines().count(), 1);
+    for (qsizetype position = 1; position < view.text().size(); ++position) {
+        EXPECT_GE(view.characterRect(position).left(), view.characterRect(position - 1).left());
+    }
+    const qsizetype last = view.text().size() - 1;
+    EXPECT_GT(view.characterRect(last).left(), view.characterRect(4).left());
+    EXPECT_GT(view.characterRect(4).left(), view.characterRect(2).left());
+    EXPECT_EQ(view.positionAt(view.characterRect(last).center()), last);
+}
+
 TEST_F(ReportViewTest, ANewTextStaysWhereTheOldOneWasScrolledTo) {
     showText(manyLines(500));
     view.verticalScrollBar()->setValue(300);
