@@ -3,6 +3,7 @@
 #include "platform/Localized.h"
 
 #include <QEvent>
+#include <QMainWindow>
 
 namespace quillet {
 
@@ -12,8 +13,9 @@ constexpr int delayMilliseconds = 200;
 
 } // namespace
 
-BusyIndicator::BusyIndicator(QWidget* parent)
-    : QProgressBar(parent) {
+BusyIndicator::BusyIndicator(QMainWindow& window)
+    : QProgressBar(&window)
+    , window_(window) {
     setRange(0, 0);
     setTextVisible(false);
     setAccessibleName(localized("Fetching Events"));
@@ -22,7 +24,7 @@ BusyIndicator::BusyIndicator(QWidget* parent)
     delay_.setSingleShot(true);
     delay_.setInterval(delayMilliseconds);
     connect(&delay_, &QTimer::timeout, this, &BusyIndicator::showCentred);
-    parent->installEventFilter(this);
+    window_.installEventFilter(this);
 }
 
 BusyIndicator::~BusyIndicator() = default;
@@ -52,7 +54,9 @@ void BusyIndicator::showCentred() {
 }
 
 void BusyIndicator::centre() {
-    move(parentWidget()->rect().center() - rect().center());
+    const QWidget* content = window_.centralWidget();
+    const QRect area = content != nullptr ? content->geometry() : window_.rect();
+    move(area.center() - rect().center());
 }
 
 } // namespace quillet

@@ -3,15 +3,18 @@
 #include <QProgressBar>
 #include <QTimer>
 
+class QMainWindow;
+
 namespace quillet {
 
-/// Shows, in the centre of its parent and above all else there, that a fetch runs, once that takes
-/// long enough to be felt.
+/// Shows, in the middle of a window's content and above all else there, that a fetch runs, once
+/// that takes long enough to be felt.
 class BusyIndicator : public QProgressBar {
     Q_OBJECT
 
 public:
-    explicit BusyIndicator(QWidget* parent);
+    /// Becomes the window's.
+    explicit BusyIndicator(QMainWindow& window);
     ~BusyIndicator() override;
     Q_DISABLE_COPY_MOVE(BusyIndicator)
 
@@ -26,6 +29,7 @@ private:
     void showCentred();
     void centre();
 
+    QMainWindow& window_;
     QTimer delay_;
 };
 

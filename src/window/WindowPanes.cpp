@@ -2,6 +2,7 @@
 
 #include "window/BusyIndicator.h"
 
+#include <QMainWindow>
 #include <QStackedWidget>
 
 namespace quillet {
@@ -13,10 +14,10 @@ constexpr int ratePosition = 2;
 
 } // namespace
 
-WindowPanes::WindowPanes(Contents contents, QWidget& window)
+WindowPanes::WindowPanes(Contents contents, QMainWindow& window)
     : contents_(std::move(contents))
     , centreSplitter_(new QSplitter(Qt::Vertical, &window))
-    , busyIndicator_(new BusyIndicator(&window)) {
+    , busyIndicator_(new BusyIndicator(window)) {
     for (const Pane pane : {Pane::List, Pane::Item, Pane::Inspector, Pane::Rate, Pane::Export}) {
         stacks_[pane] = new QStackedWidget(&window);
     }

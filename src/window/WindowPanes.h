@@ -7,6 +7,7 @@
 #include <array>
 #include <map>
 
+class QMainWindow;
 class QStackedWidget;
 
 namespace quillet {
@@ -19,7 +20,7 @@ public:
     using Contents = std::map<PaneContent, QWidget*>;
 
     /// The containers and the indicator become the window's; the views that of the containers.
-    WindowPanes(Contents contents, QWidget& window);
+    WindowPanes(Contents contents, QMainWindow& window);
 
     [[nodiscard]] QWidget* container(Pane pane) const;
     /// The event table's pane above the export pane above the rate pane.
