@@ -17,7 +17,7 @@ QString periodName(const SettingsStore& settings, const LocaleFormats& formats,
                    QString (*formatDate)(const LocaleFormats&, Instant)) {
     const auto date = [&](const char* key) {
         const auto stored = dateForKey(settings, QString::fromLatin1(key));
-        return stored ? formatDate(formats, *stored) : QString();
+        return stored ? formatDate(formats, *stored) : QStringLiteral("(null)");
     };
     return QStringLiteral("%1 - %2").arg(date("filterStartDate"), date("filterEndDate"));
 }

