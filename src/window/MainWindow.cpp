@@ -282,14 +282,14 @@ void MainWindow::restoreState(const QString& stateFile) {
         resize(QSize(unit * 215, fontMetrics().height() * 48).boundedTo(room));
     }
     splitter_->restoreState(state.value(QStringLiteral("panes")).toByteArray());
-    panes_->centreSplitter().restoreState(state.value(QStringLiteral("centre")).toByteArray());
+    panes_->setExportRoom(state.value(QStringLiteral("exportPane")).toInt());
 }
 
 void MainWindow::saveState(const QString& stateFile) const {
     QSettings state(stateFile, QSettings::IniFormat);
     state.setValue(QStringLiteral("geometry"), saveGeometry());
     state.setValue(QStringLiteral("panes"), splitter_->saveState());
-    state.setValue(QStringLiteral("centre"), panes_->centreSplitter().saveState());
+    state.setValue(QStringLiteral("exportPane"), panes_->exportRoom());
     state.setValue(QStringLiteral("columns"), with_.eventTable.columnState());
 }
 

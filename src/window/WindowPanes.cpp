@@ -5,6 +5,8 @@
 #include <QMainWindow>
 #include <QStackedWidget>
 
+#include <algorithm>
+
 namespace quillet {
 
 namespace {
@@ -65,6 +67,9 @@ void WindowPanes::install(PaneContent content, Pane pane) {
 }
 
 void WindowPanes::setPaneHidden(Pane pane, bool isHidden) {
+    if (pane == Pane::Export) {
+        exportRoom_ = exportRoom();
+    }
     const bool isOpening = pane == Pane::Export && !isHidden && stack(pane)->isHidden();
     stack(pane)->setVisible(!isHidden);
     if (isOpening) {
@@ -72,14 +77,19 @@ void WindowPanes::setPaneHidden(Pane pane, bool isHidden) {
     }
 }
 
+int WindowPanes::exportRoom() const {
+    return stack(Pane::Export)->isHidden() ? exportRoom_
+                                           : centreSplitter_->sizes().at(exportPosition);
+}
+
 void WindowPanes::shareRoomWithExportPane() {
+    // The splitter itself gives a widget that comes back the least that it needs.
     QList<int> sizes = centreSplitter_->sizes();
-    if (sizes.at(exportPosition) == 0) {
-        const int half = sizes.at(0) / 2;
-        sizes[0] -= half;
-        sizes[exportPosition] = half;
-        centreSplitter_->setSizes(sizes);
-    }
+    const int all = sizes.at(0) + sizes.at(exportPosition);
+    const int wanted = exportRoom_ > 0 ? std::min(exportRoom_, all) : all / 2;
+    sizes[0] = all - wanted;
+    sizes[exportPosition] = wanted;
+    centreSplitter_->setSizes(sizes);
 }
 
 void WindowPanes::removeProgressIndicator() {

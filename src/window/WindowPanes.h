@@ -25,6 +25,11 @@ public:
     [[nodiscard]] QWidget* container(Pane pane) const;
     /// The event table's pane above the export pane above the rate pane.
     [[nodiscard]] QSplitter& centreSplitter() const { return *centreSplitter_; }
+    /// The height at which the export pane stands, or stood when it was last open, in pixels; 0 for
+    /// one that never was.
+    [[nodiscard]] int exportRoom() const;
+    /// The height at which it opens next; for one that is 0 or less it takes half of the table's.
+    void setExportRoom(int height) { exportRoom_ = height; }
     /// The divider above the export pane can be dragged, or cannot.
     void setCentreDividerDraggable(bool isDraggable);
 
@@ -38,13 +43,13 @@ public:
 private:
     [[nodiscard]] QStackedWidget* stack(Pane pane) const;
     void makeCentreSplitter();
-    /// The first time, the export pane takes half of the table's room.
     void shareRoomWithExportPane();
 
     Contents contents_;
     std::map<Pane, QStackedWidget*> stacks_;
     QSplitter* centreSplitter_;
     BusyIndicator* busyIndicator_;
+    int exportRoom_ = 0;
 };
 
 } // namespace quillet
