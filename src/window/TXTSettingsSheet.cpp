@@ -3,6 +3,7 @@
 #include "platform/Localized.h"
 #include "window/NameListEditor.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -78,6 +79,9 @@ void TXTSettingsSheet::begin() {
     if (dialog_ == nullptr) {
         build();
     }
+    if (QWidget* active = QApplication::activeWindow(); active != dialog_) {
+        askedFrom_ = active;
+    }
     dialog_->open();
     // It stands over the main window, but is asked for in the preferences too, which have the
     // focus.
@@ -98,6 +102,11 @@ void TXTSettingsSheet::end() {
 void TXTSettingsSheet::orderOut() {
     if (dialog_ != nullptr) {
         dialog_->hide();
+        // Window managers choose the window that it stood over, which need not be that one.
+        if (askedFrom_ != nullptr && askedFrom_->isVisible()) {
+            askedFrom_->activateWindow();
+        }
+        askedFrom_.clear();
     }
 }
 

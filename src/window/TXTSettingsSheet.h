@@ -35,6 +35,8 @@ private:
     TXTSettingsArrayController& presets_;
     QWidget& window_;
     QPointer<QDialog> dialog_;
+    /// The window in which it was asked for, which gets the keys back.
+    QPointer<QWidget> askedFrom_;
     QPointer<NameListEditor> list_;
     TXTSettingsSheetController controller_;
 };

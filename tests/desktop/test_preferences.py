@@ -105,7 +105,8 @@ def check_presets(program):
     program.wait_for_window("Text Report Presets")
     press_key("Escape")
     wait_for("the sheet to close", lambda: not program.find("Text Report Presets"))
-    program.press("Close")
+    program.wait_for_window("Text")
+    press_key("Escape")
     wait_for("the preferences to close", lambda: not program.find("Longest event"))
 
 

@@ -64,6 +64,30 @@ TEST_F(TXTSettingsSheetTest, TheSheetBlocksTheMainWindowUntilItIsClosed) {
     EXPECT_FALSE(sheet()->isVisible());
 }
 
+TEST_F(TXTSettingsSheetTest, TheWindowInWhichItWasAskedForGetsTheKeysBack) {
+    QWidget preferences(window.get(), Qt::Window);
+    for (QWidget* asking : {&preferences, static_cast<QWidget*>(window.get())}) {
+        asking->show();
+        asking->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(asking));
+        trigger("openTXTSettingsSheet");
+        ASSERT_TRUE(QTest::qWaitForWindowActive(sheet()));
+        QTest::keyClick(sheet(), Qt::Key_Escape);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(asking));
+    }
+}
+
+TEST_F(TXTSettingsSheetTest, AWindowThatIsGoneGetsNoKeys) {
+    auto preferences = std::make_unique<QWidget>(window.get(), Qt::Window);
+    preferences->show();
+    preferences->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(preferences.get()));
+    trigger("openTXTSettingsSheet");
+    preferences.reset();
+    QTest::keyClick(sheet(), Qt::Key_Escape);
+    EXPECT_FALSE(sheet()->isVisible());
+}
+
 TEST_F(TXTSettingsSheetTest, ANewPresetIsNamedAtOnceInItsPlace) {
     trigger("openTXTSettingsSheet");
     press("saveTXTSettings");
