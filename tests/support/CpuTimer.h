@@ -1,23 +1,39 @@
 #pragma once
 
+#include <QString>
+
 #include <ctime>
 
 namespace quillet::test {
 
-/// The time that this thread has spent working since the timer was made. Unlike that of a clock on
-/// the wall it does not grow while other programs have the processor.
+/// The time that a thread, or all of the process, has spent working since the timer was made.
+/// Unlike that of a clock on the wall it does not grow while other programs have the processor.
 class CpuTimer {
 public:
+    enum class Of { ThisThread, Process };
+
+    explicit CpuTimer(Of whose = Of::ThisThread)
+        : clock_(whose == Of::ThisThread ? CLOCK_THREAD_CPUTIME_ID : CLOCK_PROCESS_CPUTIME_ID) {}
+
     [[nodiscard]] double milliseconds() const { return now() - start_; }
 
 private:
-    [[nodiscard]] static double now() {
+    [[nodiscard]] double now() const {
         timespec time{};
-        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        clock_gettime(clock_, &time);
         return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
     }
 
+    clockid_t clock_;
     double start_ = now();
 };
+
+/// How much longer work may take than in a plain build. The environment says so where a sanitizer
+/// slows it down.
+inline double expectedSlowness() {
+    bool isNumber = false;
+    const double slowness = qEnvironmentVariable("QUILLET_TEST_SLOWNESS").toDouble(&isNumber);
+    return isNumber ? slowness : 1;
+}
 
 } // namespace quillet::test
