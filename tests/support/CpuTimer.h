@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QString>
-
 #include <ctime>
 
 namespace quillet::test {
@@ -27,13 +25,5 @@ private:
     clockid_t clock_;
     double start_ = now();
 };
-
-/// How much longer work may take than in a plain build. The environment says so where a sanitizer
-/// slows it down.
-inline double expectedSlowness() {
-    bool isNumber = false;
-    const double slowness = qEnvironmentVariable("QUILLET_TEST_SLOWNESS").toDouble(&isNumber);
-    return isNumber ? slowness : 1;
-}
 
 } // namespace quillet::test
