@@ -119,7 +119,7 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
                 .limits = ReleaseListUpdater::usualLimits})
     , appDelegate_({settings_, workspace_, taskLauncher_, updater_, toolbarItems(exportItems_),
                     paths.releaseNotes})
-    , activation_([this] { eventKitManager_.becomeActive(); }) {}
+    , activation_(clock_, [this] { eventKitManager_.becomeActive(); }) {}
 
 Program::~Program() {
     if (window_) {

@@ -20,6 +20,7 @@ ALERT = "Access Denied"
 REASON = "Quillet doesn't have access to your Calendars."
 # A second alert would follow the first at once.
 WATCHED_SECONDS = 1.0
+ABSENCE_SECONDS = 0.6
 
 
 def dismiss_only_alert(program):
@@ -37,8 +38,10 @@ def dismiss_only_alert(program):
 
 
 def come_back(program):
+    """After an absence that counts: a window manager takes the focus away for a moment, too."""
     session.minimize()
     program.wait_until_left()
+    time.sleep(ABSENCE_SECONDS)
     session.ask("Activate", {})
 
 
@@ -57,6 +60,7 @@ def check_refusals():
         program.press("Allow Calendar Access…")
         program.press("Don’t Allow")
         dismiss_only_alert(program)
+        program.wait_for_window("Quillet")
         press_key("alt+c", "c")
         program.press("Allow")
         program.wait_for_calendars(["Home", "Work"])

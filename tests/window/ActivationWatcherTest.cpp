@@ -1,5 +1,7 @@
 #include "window/ActivationWatcher.h"
 
+#include "support/Fakes.h"
+
 #include <QApplication>
 #include <QDialog>
 
@@ -16,7 +18,8 @@ protected:
         QCoreApplication::processEvents();
     }
     static void leave() { Q_EMIT qApp->applicationStateChanged(Qt::ApplicationInactive); }
-    static void comeBack() {
+    void comeBack(std::chrono::milliseconds absence = ActivationWatcher::shortestAbsence) {
+        clock.current += absence;
         Q_EMIT qApp->applicationStateChanged(Qt::ApplicationActive);
         QCoreApplication::processEvents();
     }
@@ -29,12 +32,13 @@ protected:
     }
 
     QWidget window;
+    test::FakeClock clock;
     int returns = 0;
     std::function<void()> onReturn = [] {};
-    ActivationWatcher watcher{[this] {
-        ++returns;
-        onReturn();
-    }};
+    ActivationWatcher watcher{clock, [this] {
+                                  ++returns;
+                                  onReturn();
+                              }};
 };
 
 } // namespace
@@ -72,8 +76,20 @@ TEST_F(ActivationWatcherTest, TheProgramsOwnDialogsDoNotCount) {
     EXPECT_EQ(returns, 1);
 }
 
+TEST_F(ActivationWatcherTest, AFocusThatABusyWindowManagerTakesForAMomentIsNoReturn) {
+    using namespace std::chrono_literals;
+    leave();
+    comeBack(499ms);
+    EXPECT_EQ(returns, 0);
+    comeBack(1h);
+    EXPECT_EQ(returns, 0);
+    leave();
+    comeBack(500ms);
+    EXPECT_EQ(returns, 1);
+}
+
 TEST_F(ActivationWatcherTest, AnAlertThatAReturnBringsUpBringsUpNoOther) {
-    onReturn = [] {
+    onReturn = [this] {
         // Some desktops take the focus away and give it back as the alert opens and closes.
         leave();
         QDialog alert;
