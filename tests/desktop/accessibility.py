@@ -17,7 +17,7 @@ class NotSeen(AssertionError):
 
 
 class Vanished(Exception):
-    """A part of a table that was there a moment ago, while its rows were counted."""
+    """A part of the window that was there a moment ago."""
 
 
 def wait_for(what, condition, seconds=PATIENCE_SECONDS):
@@ -33,6 +33,18 @@ def wait_for(what, condition, seconds=PATIENCE_SECONDS):
         if time.monotonic() > deadline:
             raise NotSeen(f"not within {seconds} seconds: {what}")
         time.sleep(0.02)
+
+
+def look(what, read):
+    """What is read in one go, whatever it is; a window that changes meanwhile is read again."""
+    return wait_for(what, lambda: (read(),))[0]
+
+
+def present(part):
+    """Neither a control that has gone nor an interface of it is there to be asked."""
+    if part is None:
+        raise Vanished
+    return part
 
 
 def children(control):
@@ -66,24 +78,26 @@ def application(process_identifier):
     return None
 
 
-def press(control):
-    """What Space or a click does, once the control can be used."""
-    action = control.get_action_iface()
-
+def press(what, find):
+    """What Space or a click does to the control that is found, once it can be used."""
     def usable():
-        names = [action.get_action_name(index) for index in range(action.get_n_actions())]
-        return next((index for index, name in enumerate(names) if name in ("Press", "Toggle")), None)
+        control = find()
+        action = control and present(control.get_action_iface())
+        for index in range(action.get_n_actions() if action else 0):
+            if action.get_action_name(index) in ("Press", "Toggle"):
+                return action, index
+        return None
 
-    action.do_action(wait_for(f'"{control.get_name()}" to be usable',
-                              lambda: None if usable() is None else (usable(),))[0])
+    action, index = wait_for(f"{what} to be usable", usable)
+    action.do_action(index)
 
 
 def type_text(control, text):
-    control.get_editable_text_iface().set_text_contents(text)
+    present(control.get_editable_text_iface()).set_text_contents(text)
 
 
 def text_of(control):
-    text = control.get_text_iface()
+    text = present(control.get_text_iface())
     return text.get_text(0, text.get_character_count())
 
 
@@ -96,29 +110,26 @@ def type_keys(text):
     subprocess.run(["xdotool", "type", text], check=True)
 
 
-def present(part):
-    if part is None:
-        raise Vanished
-    return part
+def grid(table):
+    return present(table.get_table_iface())
 
 
 def cell(table, row, column):
-    return present(table.get_table_iface().get_accessible_at(row, column))
+    return present(grid(table).get_accessible_at(row, column))
 
 
 def cell_names(table, column):
-    return [cell(table, row, column).get_name()
-            for row in range(table.get_table_iface().get_n_rows())]
+    return [cell(table, row, column).get_name() for row in range(grid(table).get_n_rows())]
 
 
 def row_names(table):
     """The texts of a table's cells, row by row."""
-    cells = table.get_table_iface()
+    cells = grid(table)
     return [[cell(table, row, column).get_name() for column in range(cells.get_n_columns())]
             for row in range(cells.get_n_rows())]
 
 
 def column_titles(table):
-    cells = table.get_table_iface()
+    cells = grid(table)
     return [present(cells.get_column_header(column)).get_name()
             for column in range(cells.get_n_columns())]

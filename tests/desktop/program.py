@@ -3,16 +3,19 @@
 import os
 import subprocess
 import sys
+import time
 from pathlib import Path
 
-from accessibility import (ROLE, Atspi, GLib, application, below, cell, cell_names, children,
-                           column_titles, has_state, press, press_key, row_names, type_keys,
-                           type_text, wait_for)
+from accessibility import (ROLE, Atspi, GLib, Vanished, application, below, cell,
+                           cell_names, children, column_titles, grid, has_state, look, present,
+                           press, press_key, row_names, type_keys, type_text, wait_for)
 
 CALENDARS = Path(os.environ["XDG_DATA_HOME"]) / "calendars"
 LOG = Path(os.environ["HOME"]) / "log"
 TABLES = {ROLE.TABLE, ROLE.TREE, ROLE.TREE_TABLE}
 SETTINGS = Path(os.environ["XDG_CONFIG_HOME"]) / "quillet" / "quillet.json"
+STILL_SECONDS = 0.4
+STALE_QUESTION = "QAccessibleTable::cellAt: invalid index:"
 
 
 def write_event(folder, uid, title, start, end, extra=()):
@@ -55,7 +58,9 @@ class Quillet:
 
     @property
     def log(self):
-        return LOG.read_text(errors="replace")
+        """Without what Qt says of a reader that asks for a row which has gone a moment ago."""
+        return "".join(line for line in LOG.read_text(errors="replace").splitlines(keepends=True)
+                       if not line.startswith(STALE_QUESTION))
 
     def __enter__(self):
         with LOG.open("w") as log:
@@ -119,11 +124,10 @@ class Quillet:
 
     def find(self, name, roles=None):
         """The shown control of that name, or nothing."""
-        for control in self._controls():
-            if (control.get_name() == name and (roles is None or control.get_role() in roles)
-                    and has_state(control, Atspi.StateType.SHOWING)):
-                return control
-        return None
+        return look(f'whether there is a control "{name}"', lambda: next(
+            (control for control in self._controls()
+             if control.get_name() == name and (roles is None or control.get_role() in roles)
+             and has_state(control, Atspi.StateType.SHOWING)), None))
 
     def control(self, name, roles=None):
         return wait_for(f'a control "{name}"', lambda: self.find(name, roles))
@@ -141,29 +145,36 @@ class Quillet:
 
     def press(self, name):
         """A button of any kind."""
-        press(self.control(name, {ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON, ROLE.RADIO_BUTTON,
-                                  ROLE.CHECK_BOX}))
+        press(f'"{name}"', lambda: self.find(name, {ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON,
+                                                    ROLE.RADIO_BUTTON, ROLE.CHECK_BOX}))
 
     def choose_tab(self, name):
-        press(self.control(name, {ROLE.PAGE_TAB}))
+        press(f'the tab "{name}"', lambda: self.find(name, {ROLE.PAGE_TAB}))
 
     def press_menu_item(self, name):
         items = {ROLE.MENU_ITEM, ROLE.CHECK_MENU_ITEM, ROLE.RADIO_MENU_ITEM}
-        press(wait_for(f'a menu item "{name}"', lambda: next(
+        press(f'the menu item "{name}"', lambda: next(
             (control for control in self._controls()
-             if control.get_role() in items and control.get_name() == name), None)))
+             if control.get_role() in items and control.get_name() == name), None))
 
     def menus(self):
-        bar = next(control for control in self._controls() if control.get_role() == ROLE.MENU_BAR)
-        return [menu.get_name() for menu in children(bar)]
+        return look("the menus", lambda: [
+            menu.get_name() for control in self._controls()
+            if control.get_role() == ROLE.MENU_BAR for menu in children(control)])
 
     def texts(self):
         """Every name that is shown outside tables."""
-        return [control.get_name() for control in self._controls()
-                if control.get_name() and has_state(control, Atspi.StateType.SHOWING)]
+        return look("the window's texts", lambda: [
+            control.get_name() for control in self._controls()
+            if control.get_name() and has_state(control, Atspi.StateType.SHOWING)])
 
     def wait_for_text(self, part):
         wait_for(f'a text with "{part}"', lambda: any(part in text for text in self.texts()))
+
+    def names(self, listed):
+        """Of a list of names."""
+        return look(f'the names in "{listed}"', lambda: [
+            child.get_name() for child in children(present(self.find(listed, {ROLE.LIST})))])
 
     def wait_for_log(self, part):
         wait_for(f'"{part}" in the log', lambda: part in self.log)
@@ -190,7 +201,7 @@ class Quillet:
 
     def _focus(self, control):
         """Tables take the focus from keys only."""
-        if not control.get_component_iface().grab_focus():
+        if not present(control.get_component_iface()).grab_focus():
             for _ in range(60):
                 if has_state(control, Atspi.StateType.FOCUSED):
                     break
@@ -198,35 +209,59 @@ class Quillet:
         wait_for(f'"{control.get_name()}" to have the focus',
                  lambda: has_state(control, Atspi.StateType.FOCUSED))
 
+    def _table(self, name):
+        return present(self.find(self._word(name), TABLES))
+
     def rows(self, table):
-        return row_names(self.control(table, TABLES))
+        return look(f'the rows of "{table}"', lambda: row_names(self._table(table)))
 
     def column_titles(self, table):
-        return column_titles(self.control(table, TABLES))
+        return look(f'the columns of "{table}"', lambda: column_titles(self._table(table)))
 
-    def _events(self):
-        return self.control(self._word("Events"), TABLES)
-
-    def _titles(self):
+    def titles(self):
         """Of the events that are shown; none while something else stands in the table's place."""
-        events = self.find(self._word("Events"), TABLES)
-        return cell_names(events, column_titles(events).index(self._word("Title"))) if events else []
+        return look("the events", lambda: self._titles_in(self.find(self._word("Events"), TABLES)))
+
+    def _titles_in(self, events):
+        columns = column_titles(events) if events else []
+        titles = self._word("Title")
+        return cell_names(events, columns.index(titles)) if titles in columns else []
 
     def wait_for_titles(self, titles, seconds=30):
         """Until the table shows just these events, in this order."""
-        wait_for(f"the events {titles}", lambda: self._titles() == titles, seconds)
+        wait_for(f"the events {titles}", lambda: self.titles() == titles, seconds)
 
     def select_row(self, row):
-        self._events().get_table_iface().add_row_selection(row)
+        wait_for(f"row {row} to be selected",
+                 lambda: grid(self._table("Events")).add_row_selection(row))
 
     def double_click_event(self, row):
-        area = cell(self._events(), row, 0).get_component_iface().get_extents(0)
+        """As people do: once nothing moves any more. A table that shows what was read anew takes
+        two clicks, one before and one after it, for no double click."""
+        area = wait_for("a table that holds still", lambda: self._still_area(row))
         subprocess.run(["xdotool", "mousemove", str(area.x + 5), str(area.y + area.height // 2),
                         "click", "--repeat", "2", "--delay", "50", "1"], check=True)
 
+    def _still_area(self, row):
+        """Of a cell that was the same one for a while; each reading of events makes new ones."""
+        first = cell(self._table("Events"), row, 0)
+        until = time.monotonic() + STILL_SECONDS
+        while time.monotonic() < until:
+            present(first.get_component_iface())
+            time.sleep(0.05)
+        return present(first.get_component_iface()).get_extents(0)
+
     def selected_titles(self):
-        cells = self._events().get_table_iface()
-        return [title for row, title in enumerate(self._titles()) if cells.is_row_selected(row)]
+        def selected():
+            events = self._table("Events")
+            titles = self._titles_in(events)
+            chosen = [title for row, title in enumerate(titles)
+                      if grid(events).is_row_selected(row)]
+            if self._titles_in(events) != titles:
+                raise Vanished
+            return chosen
+
+        return look("the selected events", selected)
 
     def calendar_titles(self):
         return [" ".join(row).strip() for row in self.rows("Calendars")]
@@ -246,18 +281,24 @@ class Quillet:
     def save(self, button, path):
         """Through the save dialog, typing the path."""
         self.press(button)
-        dialog = wait_for("the save dialog", self._file_dialog)
-        field = next(control for control in below(dialog)
-                     if control.get_role() == ROLE.TEXT
-                     and has_state(control, Atspi.StateType.EDITABLE))
+        field = wait_for("the save dialog", lambda: self._in_file_dialog(
+            lambda control: control.get_role() == ROLE.TEXT
+            and has_state(control, Atspi.StateType.EDITABLE)))
         type_text(field, str(path))
-        press(next(control for control in below(dialog) if control.get_name() == self._word("Save")))
+        press("the save dialog's button", lambda: self._in_file_dialog(self._saves))
         wait_for("the save dialog to close", lambda: not self._file_dialog())
+
+    def _saves(self, control):
+        return control.get_name() == self._word("Save")
+
+    def _in_file_dialog(self, condition):
+        dialog = self._file_dialog()
+        return dialog and next(filter(condition, below(dialog)), None)
 
     def _file_dialog(self):
         for window in children(self._application):
             if (window.get_role() in (ROLE.DIALOG, ROLE.FILE_CHOOSER)
                     and has_state(window, Atspi.StateType.SHOWING)):
-                if any(control.get_name() == self._word("Save") for control in below(window)):
+                if any(map(self._saves, below(window))):
                     return window
         return None

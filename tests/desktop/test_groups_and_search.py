@@ -3,8 +3,8 @@ does."""
 
 import json
 
-from accessibility import (ROLE, Atspi, children, has_state, press_key, type_keys, type_text,
-                           wait_for)
+from accessibility import (ROLE, Atspi, children, has_state, present, press_key, type_keys,
+                           type_text, wait_for)
 from months import entries, show_this_month, titles, write_calendars
 from program import SETTINGS, Quillet
 
@@ -12,23 +12,20 @@ TICKED = Atspi.StateType.CHECKED
 GROUP = 'Bill "1" & 100% %@'
 
 
-def names(program, listed):
-    return [child.get_name() for child in children(program.control(listed, {ROLE.LIST}))]
-
-
 def group_names(program):
-    return names(program, "Calendar Groups")
+    return program.names("Calendar Groups")
 
 
 def make_group(program, name, calendar):
     program.press("Edit Calendar Groups")
+    program.wait_for_window("Calendar Groups")
     program.press("New")
     wait_for("the new group", lambda: len(group_names(program)) == 2)
     press_key("ctrl+a")
     type_keys(name)
     press_key("Return")
     wait_for("its name", lambda: group_names(program) == ["All Calendars", name])
-    row = names(program, "Calendars in Group").index(calendar)
+    row = program.names("Calendars in Group").index(calendar)
     for _ in range(3):
         program.press_tab()
     press_key("ctrl+Home", *["Down"] * row, "space")
@@ -40,7 +37,7 @@ def make_group(program, name, calendar):
 
 def choose_group(program, key):
     chooser = program.control("Calendar Group", {ROLE.COMBO_BOX})
-    chooser.get_component_iface().grab_focus()
+    present(chooser.get_component_iface()).grab_focus()
     wait_for("the chooser's focus", lambda: has_state(chooser, Atspi.StateType.FOCUSED))
     press_key(key)
 
@@ -54,6 +51,7 @@ def check_groups(program):
 
 def check_search(program):
     this_month = entries(0)
+    program.wait_for_window("Quillet")
     press_key("ctrl+f")
     type_keys("WORKSHOP")
     program.wait_for_titles([entry.title for entry in this_month if "Workshop" in entry.title])

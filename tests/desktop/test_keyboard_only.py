@@ -17,7 +17,7 @@ def tab_to(program, name, roles):
         control = program.find(name, roles)
         if control and has_state(control, Atspi.StateType.FOCUSED):
             return control
-        press_key("Tab")
+        program.press_tab()
     raise AssertionError(f'Tab never came to "{name}"')
 
 
@@ -38,6 +38,7 @@ def save_with_keys(program, keys, name, expected):
     content = path.read_bytes()
     assert content == expected, f"{name} holds\n{content.decode()}\nand not\n{expected.decode()}"
     wait_for("the save dialog to close", lambda: dialog_of(program) is None)
+    program.wait_for_window("Quillet")
 
 
 def choose_month(program):
@@ -83,6 +84,7 @@ def main():
         wait_for("the question", lambda: dialog_of(program))
         press_key("Return")
         program.wait_for_calendars(["Home", "Work"])
+        program.wait_for_window("Quillet")
         choose_month(program)
         work = untick_home(program)
         set_rate(program)

@@ -151,6 +151,7 @@ def check_without_programs():
     with Quillet() as program:
         expected = titles(entries(0))
         wait_for("the events", lambda: len(program.rows("Events")) == len(expected))
+        program.wait_for_window("Quillet")
         press_key("ctrl+m")
         dismiss(program, "No mail program is set up")
         program.double_click_event(2)

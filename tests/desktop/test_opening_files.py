@@ -3,7 +3,7 @@ nothing from what the user is typing."""
 
 from datetime import timezone
 
-from accessibility import ROLE, children, press_key, type_keys, wait_for
+from accessibility import press_key, type_keys, wait_for
 from months import entries, write_calendars
 from program import CALENDARS, Quillet, write_event
 from session import ask
@@ -77,13 +77,10 @@ def check_several(program):
 
 def check_typing_goes_on(program):
     """A name is being typed when the desktop opens a file."""
-    def group_names():
-        return [child.get_name()
-                for child in children(program.control("Calendar Groups", {ROLE.LIST}))]
-
     program.press("Edit Calendar Groups")
+    program.wait_for_window("Calendar Groups")
     program.press("New")
-    wait_for("the new group", lambda: len(group_names()) == 2)
+    wait_for("the new group", lambda: len(program.names("Calendar Groups")) == 2)
     press_key("ctrl+a")
     type_keys("Bill")
     ask("Open", [write_export("Late.ics").as_uri()], {})
@@ -91,7 +88,8 @@ def check_typing_goes_on(program):
     program.wait_for_window("Calendar Groups")
     type_keys("able")
     press_key("Return")
-    wait_for("the whole name", lambda: group_names() == ["All Calendars", "Billable"])
+    wait_for("the whole name",
+             lambda: program.names("Calendar Groups") == ["All Calendars", "Billable"])
     assert not any(QUESTION in text for text in program.texts()), "a question over the sheet"
     program.press("Close")
     program.wait_for_text("Add “Late.ics” as a calendar?")

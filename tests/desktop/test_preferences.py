@@ -2,7 +2,7 @@
 
 import json
 
-from accessibility import ROLE, Atspi, children, has_state, press_key, type_keys, wait_for
+from accessibility import ROLE, Atspi, has_state, press_key, type_keys, wait_for
 from months import entries, show_this_month, titles, write_calendars
 from program import SETTINGS, Quillet
 
@@ -28,12 +28,8 @@ def check_switch(program, name, key):
         wait_for_stored(key, value)
 
 
-def names(program, listed):
-    """Of a list of names."""
-    return [child.get_name() for child in children(program.control(listed, {ROLE.LIST}))]
-
-
 def check_panes(program):
+    program.wait_for_window("Quillet")
     press_key("ctrl+comma")
     program.wait_for_window("General")
     check_switch(program, "Leave all-day events out", "allDayEventsNotIncluded")
@@ -70,12 +66,12 @@ def check_panes(program):
 
 def name_new(program, listed, name):
     """Adds to the list of names, and types the new one's."""
-    count = len(names(program, listed))
+    count = len(program.names(listed))
     program.press("New")
-    wait_for("the new row", lambda: len(names(program, listed)) == count + 1)
+    wait_for("the new row", lambda: len(program.names(listed)) == count + 1)
     type_keys(name)
     press_key("Return")
-    wait_for("the new name", lambda: names(program, listed)[-1] == name)
+    wait_for("the new name", lambda: program.names(listed)[-1] == name)
 
 
 def delete(program, words):
@@ -93,14 +89,14 @@ def check_presets(program):
     program.press("Presets…")
     program.wait_for_window("Text Report Presets")
     name_new(program, "Text Report Presets", "Invoice")
-    assert names(program, "Text Report Presets") == ["Default", "Invoice"]
+    assert program.names("Text Report Presets") == ["Default", "Invoice"]
     press_key("Home", "Return")
     wait_for_stored("isTXTMax", False)
     press_key("Down", "Return")
     wait_for_stored("isTXTMax", True)
     delete(program, "Deleted records cannot be restored.")
     wait_for("the preset to go",
-             lambda: names(program, "Text Report Presets") == ["Default"])
+             lambda: program.names("Text Report Presets") == ["Default"])
     delete(program, "Default settings cannot be deleted.")
     program.wait_for_window("Text Report Presets")
     press_key("Escape")
@@ -116,7 +112,7 @@ def check_layouts(program):
     program.control("Column Layouts", {ROLE.LIST})
     before = program.column_titles("Events")
     name_new(program, "Column Layouts", "Wide")
-    assert names(program, "Column Layouts") == ["Default", "Wide"]
+    assert program.names("Column Layouts") == ["Default", "Wide"]
     press_key("Escape")
     wait_for("the popover to go", lambda: not program.find("Bring column titles back, too"))
     program.press_menu_item("End Date")
@@ -127,7 +123,7 @@ def check_layouts(program):
     wait_for("the columns as they were", lambda: program.column_titles("Events") == before)
     press_key("Home")
     delete(program, "Default layout cannot be deleted.")
-    assert names(program, "Column Layouts") == ["Default", "Wide"]
+    assert program.names("Column Layouts") == ["Default", "Wide"]
     press_key("Escape")
 
 
@@ -142,8 +138,9 @@ def main():
     assert program.log == "", f"the program logged:\n{program.log}"
     with Quillet() as program:
         program.wait_for_titles(titles(entries(0)))
+        program.wait_for_window("Quillet")
         press_key("ctrl+l")
-        assert names(program, "Column Layouts") == ["Default", "Wide"], "kept for the next start"
+        assert program.names("Column Layouts") == ["Default", "Wide"], "kept for the next start"
 
 
 main()

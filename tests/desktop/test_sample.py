@@ -42,16 +42,16 @@ def main():
     with Quillet() as program:
         program.wait_for_calendars(["Clients", "Home", "Work"])
         program.wait_for_text("Month · ")
-        wait_for("the month's events", lambda: "Trade fair" in program._titles())
+        wait_for("the month's events", lambda: "Trade fair" in program.titles())
         rows = saved_rows(program, "month.csv")
         check_figures(rows)
-        assert [row["Title"] for row in rows] == program._titles()
+        assert [row["Title"] for row in rows] == program.titles()
         program.press("Custom")
         program.wait_for_text(" Days · ")
         program.press("Next")
-        wait_for("the month's events to go", lambda: "Trade fair" not in program._titles())
+        wait_for("the month's events to go", lambda: "Trade fair" not in program.titles())
         program.press("Previous")
-        wait_for("them to come back", lambda: program._titles() == [row["Title"] for row in rows])
+        wait_for("them to come back", lambda: program.titles() == [row["Title"] for row in rows])
     assert program.log == "", f"the program logged:\n{program.log}"
 
 
