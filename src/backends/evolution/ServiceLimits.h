@@ -21,6 +21,8 @@ struct ServiceLimits {
     std::chrono::milliseconds probe{30'000};
     /// Changes that come within this time are shown together.
     std::chrono::milliseconds gathering{50};
+    /// How long after its start the service may still be about to list calendars that it has.
+    std::chrono::milliseconds settling{10'000};
 };
 
 /// When to try again what has failed.

@@ -123,6 +123,12 @@ void ServiceSession::registryCame(ObjectPointer<ESourceRegistry> registry) {
     answerTimer_.stop();
     retryDelay_.succeeded();
     registry_ = std::move(registry);
+    listed_.clear();
+    settlingTimer_.start(with_.limits.settling, [this] {
+        if (std::ranges::any_of(calendars_, [this](const auto& one) { return isLate(*one); })) {
+            refreshSources();
+        }
+    });
     service_ = Service::Running;
     const auto changed = +[](ESourceRegistry*, ESource*, gpointer data) {
         static_cast<ServiceSession*>(data)->sourcesChanged();
@@ -180,6 +186,7 @@ void ServiceSession::tryToStart(const QByteArray& name) {
 void ServiceSession::loseService(Service service) {
     answerTimer_.stop();
     sourcesTimer_.stop();
+    settlingTimer_.stop();
     g_cancellable_cancel(cancellable_.get());
     registryHandlers_.clear();
     busHandlers_.clear();
@@ -228,11 +235,30 @@ void ServiceSession::refreshSources() {
             followed = newCalendar(calendar);
         }
         followed->follow(source, calendar);
+        listed_.insert(calendar->calendarIdentifier);
         calendars_.push_back(std::move(followed));
     }
     g_list_free_full(listed, g_object_unref);
+    keepLate(known);
     remember();
     publishSoon();
+}
+
+void ServiceSession::keepLate(Calendars& known) {
+    if (!settlingTimer_.isRunning()) {
+        return;
+    }
+    // The service comes to the bus a moment before the calendars of its accounts do. One that went
+    // for that moment would lose its rate.
+    for (auto& calendar : known) {
+        if (calendar && isLate(*calendar)) {
+            calendars_.push_back(std::move(calendar));
+        }
+    }
+}
+
+bool ServiceSession::isLate(const ServiceCalendar& calendar) const {
+    return !listed_.contains(calendar.state().calendar->calendarIdentifier);
 }
 
 std::unique_ptr<ServiceCalendar> ServiceSession::takeKnown(Calendars& known,

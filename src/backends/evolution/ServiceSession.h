@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -47,6 +48,9 @@ private:
     void loseService(ServicePicture::Service service);
     void sourcesChanged();
     void refreshSources();
+    /// Leaves those of the known ones in the list that the service may still be about to list.
+    void keepLate(Calendars& known);
+    [[nodiscard]] bool isLate(const ServiceCalendar& calendar) const;
     [[nodiscard]] std::unique_ptr<ServiceCalendar> takeKnown(Calendars& known,
                                                              const QString& identifier);
     [[nodiscard]] std::unique_ptr<ServiceCalendar>
@@ -66,11 +70,14 @@ private:
     std::vector<SignalHandler> busHandlers_;
     std::vector<SignalHandler> registryHandlers_;
     Calendars calendars_;
+    /// The identifiers that the service has listed since it was reached.
+    std::set<QString> listed_;
     CalendarMemory memory_;
     RetryDelay retryDelay_;
     LoopTimer answerTimer_;
     LoopTimer retryTimer_;
     LoopTimer sourcesTimer_;
+    LoopTimer settlingTimer_;
     LoopTimer publishTimer_;
 };
 
