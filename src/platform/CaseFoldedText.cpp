@@ -4,6 +4,10 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <functional>
+#include <numeric>
+#include <ranges>
+#include <string_view>
 
 namespace quillet {
 
@@ -43,6 +47,13 @@ char32_t codeAt(const QString& text, qsizetype position) {
                                                            : unit.unicode();
 }
 
+/// How often a character stands in texts: the higher, the more often. Only the order counts, and
+/// that of languages in Latin letters will do: a wrong guess costs time, nothing else.
+std::ptrdiff_t commonnessOf(char16_t unit) {
+    constexpr std::u16string_view fromRareToCommon = u"qxjzkvbywgpfmucldhrsinoaet ";
+    return static_cast<std::ptrdiff_t>(fromRareToCommon.find(unit) + 1);
+}
+
 } // namespace
 
 CaseFoldedText::CaseFoldedText(const QString& text) {
@@ -76,14 +87,24 @@ void CaseFoldedText::chooseProbes() {
     if (units_.empty()) {
         return;
     }
-    const auto hasTwoVariants = [](const Unit& unit) { return unit[1] == unit.back(); };
-    const auto first = std::ranges::find_if(units_, hasTwoVariants);
-    const auto last = std::find_if(units_.rbegin(), units_.rend(), hasTwoVariants);
-    isProbingTwoVariants_ = first != units_.end();
-    firstProbe_ =
-        isProbingTwoVariants_ ? static_cast<std::size_t>(first - units_.begin()) : std::size_t{0};
-    secondProbe_ = isProbingTwoVariants_ ? static_cast<std::size_t>(units_.rend() - last) - 1
-                                         : units_.size() - 1;
+    std::vector<std::size_t> positions(units_.size());
+    std::iota(positions.begin(), positions.end(), std::size_t{0});
+    const auto hasTwoVariants = [this](std::size_t position) {
+        return units_[position][1] == units_[position].back();
+    };
+    isProbingTwoVariants_ = std::ranges::any_of(positions, hasTwoVariants);
+    if (isProbingTwoVariants_) {
+        std::erase_if(positions, std::not_fn(hasTwoVariants));
+    }
+    const auto commonness = [this](std::size_t position) {
+        return commonnessOf(units_[position].front());
+    };
+    const auto rarest = std::ranges::min_element(positions, {}, commonness);
+    firstProbe_ = *rarest;
+    if (positions.size() > 1) {
+        positions.erase(rarest);
+    }
+    secondProbe_ = *std::ranges::min_element(positions | std::views::reverse, {}, commonness);
 }
 
 bool CaseFoldedText::isIn(QStringView text) const {

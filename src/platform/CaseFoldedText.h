@@ -30,7 +30,8 @@ private:
     [[nodiscard]] bool isAtAnyOf(const char16_t* first, std::ptrdiff_t count) const;
 
     std::vector<Unit> units_;
-    /// The positions of two units that are looked at first, of few variants and far apart.
+    /// The positions of two units that are looked at first: of few variants, of characters that
+    /// stand in few texts, and of equals the ones farthest apart.
     std::size_t firstProbe_ = 0;
     std::size_t secondProbe_ = 0;
     bool isProbingTwoVariants_ = false;
