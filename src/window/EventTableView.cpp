@@ -7,6 +7,7 @@
 #include "results/OpenCalendarEvent.h"
 #include "window/CellPadding.h"
 #include "window/ColumnsMenu.h"
+#include "window/HeaderPadding.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -116,6 +117,7 @@ EventTableView::~EventTableView() = default;
 
 void EventTableView::setUpHeader() {
     QHeaderView& header = *horizontalHeader();
+    header.setStyle(new HeaderPadding(&header));
     header.setSectionsMovable(true);
     header.setSectionsClickable(true);
     header.setHighlightSections(false);
