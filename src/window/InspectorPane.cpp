@@ -27,6 +27,17 @@ QLabel* heading(const QString& text, QWidget* buddy) {
     return label;
 }
 
+/// Of a button in the selection's colours, which are others while nothing can be chosen.
+QPalette selectionPalette() {
+    QPalette palette;
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        palette.setColor(group, QPalette::Button, palette.color(group, QPalette::Highlight));
+        palette.setColor(group, QPalette::ButtonText,
+                         palette.color(group, QPalette::HighlightedText));
+    }
+    return palette;
+}
+
 } // namespace
 
 InspectorPane::InspectorPane(DateInspectorController& inspector, SettingsStore& settings,
@@ -89,12 +100,7 @@ QWidget* InspectorPane::makeKindChooser() {
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         // Pressed or not is hard to tell in dark colours; the selection's colour is not.
         connect(button, &QToolButton::toggled, button, [button](bool isChecked) {
-            QPalette palette;
-            if (isChecked) {
-                palette.setColor(QPalette::Button, palette.color(QPalette::Highlight));
-                palette.setColor(QPalette::ButtonText, palette.color(QPalette::HighlightedText));
-            }
-            button->setPalette(palette);
+            button->setPalette(isChecked ? selectionPalette() : QPalette());
             // Tab goes to the chosen kind, the arrow keys go on from there.
             button->setFocusPolicy(isChecked ? Qt::StrongFocus : Qt::ClickFocus);
         });

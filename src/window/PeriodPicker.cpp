@@ -1,9 +1,11 @@
 #include "window/PeriodPicker.h"
 
+#include "window/MenuArrowRoom.h"
 #include "window/SymbolIcon.h"
 
 #include <QCoreApplication>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScopedValueRollback>
 #include <QTableView>
 #include <QTextCharFormat>
@@ -41,6 +43,9 @@ void PeriodPicker::drawInPaletteColors() {
             button->setIcon(symbolIcon(symbol, QPalette::HighlightedText));
         }
     }
+    if (auto* month = findChild<QToolButton*>(QStringLiteral("qt_calendar_monthbutton"))) {
+        month->setStyle(new MenuArrowRoom(month));
+    }
     const QTextCharFormat plain;
     setWeekdayTextFormat(Qt::Saturday, plain);
     setWeekdayTextFormat(Qt::Sunday, plain);
@@ -67,6 +72,20 @@ bool PeriodPicker::eventFilter(QObject* watched, QEvent* event) {
     }
     clickAt(press);
     return true;
+}
+
+void PeriodPicker::paintCell(QPainter* painter, const QRect& rect, QDate date) const {
+    QCalendarWidget::paintCell(painter, rect, date);
+    if (grid_ == nullptr || !grid_->hasFocus() || date != selectedDate()) {
+        return;
+    }
+    // The styles show nothing of the focus here, and the keyboard's user needs to know.
+    constexpr int inset = 2;
+    painter->save();
+    painter->setPen(palette().color(QPalette::HighlightedText));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(rect.adjusted(inset, inset, -inset - 1, -inset - 1));
+    painter->restore();
 }
 
 void PeriodPicker::clickAt(const QMouseEvent& press) {

@@ -24,6 +24,7 @@ Q_SIGNALS:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void paintCell(QPainter* painter, const QRect& rect, QDate date) const override;
 
 private:
     void drawInPaletteColors();

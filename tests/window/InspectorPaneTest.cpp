@@ -93,6 +93,21 @@ TEST_F(PeriodPickersTest, ADayThatTheKeyboardReachedIsPickedWithReturnOrForgotte
     EXPECT_EQ(period(), "3/2/24 - 4/1/24");
 }
 
+TEST_F(PeriodPickersTest, TheDayThatTheKeyboardIsOnShowsIt) {
+    const auto isRinged = [this] {
+        const QTableView* grid = gridOf(start);
+        const QRect cell = grid->visualRect(grid->indexAt(placeOf(start, 1)));
+        const QImage picture = grid->viewport()->grab(cell).toImage();
+        // Beside the figure the cell has the colour of the selection.
+        return picture.pixelColor(2, picture.height() / 2) ==
+               start->palette().color(QPalette::HighlightedText);
+    };
+    start->setFocus();
+    EXPECT_TRUE(isRinged());
+    end->setFocus();
+    EXPECT_FALSE(isRinged());
+}
+
 TEST_F(PeriodPickersTest, WithoutAccessNoControlChangesThePeriod) {
     const auto kinds = [this] {
         QList<QAction*> found;
@@ -119,6 +134,16 @@ TEST_F(PeriodPickersTest, WithoutAccessNoControlChangesThePeriod) {
     for (QAction* action : kinds()) {
         EXPECT_TRUE(action->isEnabled()) << action->text().toStdString();
     }
+}
+
+TEST_F(PeriodPickersTest, TheChosenKindIsGreyWhileNoneCanBeChosen) {
+    const QPalette usual = QApplication::palette();
+    const QColor grey = usual.color(QPalette::Disabled, QPalette::Highlight);
+    ASSERT_NE(grey, usual.color(QPalette::Active, QPalette::Highlight));
+    const QPalette chosen = named<QAbstractButton>("Month")->palette();
+    EXPECT_EQ(chosen.color(QPalette::Disabled, QPalette::Button), grey);
+    EXPECT_EQ(chosen.color(QPalette::Active, QPalette::Button),
+              usual.color(QPalette::Active, QPalette::Highlight));
 }
 
 TEST_F(PeriodPickersTest, TheLabelsOfTheTableShowTheReportingPeriod) {
