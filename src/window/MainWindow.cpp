@@ -8,6 +8,7 @@
 #include "window/FocusOrder.h"
 #include "window/InspectorPane.h"
 #include "window/LocalFile.h"
+#include "window/PaneScroller.h"
 #include "window/PeriodLabels.h"
 #include "window/RatePane.h"
 #include "window/ResultsPane.h"
@@ -83,7 +84,7 @@ void MainWindow::makePanes() {
     WindowPanes::Contents contents = exportPanes();
     contents.insert({{PaneContent::CalendarListView, calendarPane_},
                      {PaneContent::EventItemView, makeEventItemView()},
-                     {PaneContent::DateInspectorView, inspector},
+                     {PaneContent::DateInspectorView, new PaneScroller(*inspector, this)},
                      {PaneContent::EventRateView, rate}});
     panes_ = std::make_unique<WindowPanes>(std::move(contents), *this);
     splitter_ = new QSplitter(this);
@@ -94,9 +95,10 @@ void MainWindow::makePanes() {
     splitter_->addWidget(panes_->container(Pane::Inspector));
     splitter_->setStretchFactor(1, 1);
     const int unit = fontMetrics().averageCharWidth();
-    calendarPane_->setMinimumWidth(unit * 18);
+    // In fonts with Chinese characters the average is as wide as one of these.
+    calendarPane_->setMinimumWidth(fontMetrics().horizontalAdvance(u'0') * 14);
     splitter_->setSizes({unit * 32, unit * 110, unit * 40});
-    setCentralWidget(splitter_);
+    setCentralWidget(new PaneScroller(*splitter_, this));
 }
 
 QWidget* MainWindow::makeEventItemView() {
@@ -167,6 +169,12 @@ bool MainWindow::focusNextPrevChild(bool next) {
         return QMainWindow::focusNextPrevChild(next);
     }
     neighbour->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    for (QWidget* around = neighbour->parentWidget(); around != nullptr;
+         around = around->parentWidget()) {
+        if (auto* scroller = qobject_cast<PaneScroller*>(around)) {
+            scroller->ensureWidgetVisible(neighbour);
+        }
+    }
     return true;
 }
 

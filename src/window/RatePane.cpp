@@ -31,9 +31,9 @@ RatePane::RatePane(CalendarsArrayController& calendars, EventItemViewController&
     auto* single = new QCheckBox(localized("&One rate for all calendars"), this);
     bindCheckBox(*single, settings_, singleRateKey);
     field_->setAccessibleName(localized("Hourly Rate"));
-    const int unit = fontMetrics().averageCharWidth();
-    field_->setMinimumWidth(unit * 10);
-    field_->setMaximumWidth(unit * 16);
+    const int digit = fontMetrics().horizontalAdvance(u'0');
+    field_->setMinimumWidth(digit * 8);
+    field_->setMaximumWidth(digit * 12);
 
     const int space = fontMetrics().height() / 2;
     auto* layout = new QHBoxLayout(this);

@@ -5,6 +5,7 @@
 #include "platform/Localized.h"
 #include "window/CalendarPane.h"
 #include "window/ElidedLabel.h"
+#include "window/PaneScroller.h"
 #include "window/PreferencesDialog.h"
 
 #include <QAbstractButton>
@@ -12,6 +13,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QToolButton>
 
@@ -148,6 +150,10 @@ TEST_P(TranslatedWindowTest, ASmallScreenHoldsAllOfTheMainWindow) {
         QApplication::processEvents();
         EXPECT_EQ(window->size(), QSize(1024, 700)) << pane;
         EXPECT_EQ(cutTexts(*window), QStringList()) << pane;
+        for (const auto* scroller : window->findChildren<PaneScroller*>()) {
+            EXPECT_EQ(scroller->horizontalScrollBar()->maximum(), 0) << pane;
+            EXPECT_EQ(scroller->verticalScrollBar()->maximum(), 0) << pane;
+        }
         EXPECT_GE(named<QWidget>("hourlyRate")->width(), 60) << pane;
         EXPECT_GE(window->findChild<CalendarPane*>()->width(), 140) << pane;
     });
