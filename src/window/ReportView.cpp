@@ -100,6 +100,8 @@ QString ReportView::shownLine(qsizetype number) const {
     QString line = lines_.line(number).toString();
     // They end a line of a layout, but none of this text.
     line.replace(QChar::LineSeparator, u' ').replace(QChar::ParagraphSeparator, u' ');
+    // The report's widths count it as one character; a jump would put the columns out of line.
+    line.replace(QChar::Tabulation, u' ');
     return line;
 }
 

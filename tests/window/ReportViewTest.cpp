@@ -132,6 +132,13 @@ TEST_F(ReportViewTest, OnlyLineFeedsEndALine) {
     EXPECT_EQ(view.positionAt(view.characterRect(last).center()), last);
 }
 
+TEST_F(ReportViewTest, ATabTakesTheRoomOfOneCharacterAndIsCopiedAsItIs) {
+    showText(QStringLiteral("a\tb\nc d"));
+    EXPECT_EQ(view.characterRect(2).left(), view.characterRect(6).left());
+    view.select(0, 3);
+    EXPECT_EQ(view.selectedText(), QStringLiteral("a\tb"));
+}
+
 TEST_F(ReportViewTest, ANewTextStaysWhereTheOldOneWasScrolledTo) {
     showText(manyLines(500));
     view.verticalScrollBar()->setValue(300);
