@@ -20,6 +20,14 @@ TEST(ColorDotTest, isFilledWithItsColour) {
     EXPECT_EQ(dot.pixelColor(0, 0).alpha(), 0);
 }
 
+TEST(ColorDotTest, keepsItsColourOnASelectedRowAndStandsOutFromIt) {
+    const QColor blue(0x2f, 0x6f, 0xde);
+    const QImage dot = colorDot(blue).pixmap(QSize(size, size), QIcon::Selected).toImage();
+    EXPECT_EQ(dot.pixelColor(size / 2, size / 2), blue);
+    EXPECT_EQ(dot.pixelColor(12, size / 2), QColor(Qt::white));
+    EXPECT_EQ(dot.pixelColor(0, 0).alpha(), 0);
+}
+
 TEST(ColorDotTest, isARingOfTheSameSizeWithoutAColour) {
     const QImage ring = pictureOf(QColor());
     EXPECT_EQ(ring.size(), pictureOf(QColor(Qt::red)).size());
