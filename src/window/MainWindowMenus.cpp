@@ -272,9 +272,11 @@ void MainWindow::chooseCalendarToAdd() {
     box.setText(localized("What would you like to add?"));
     box.setInformativeText(localized("A folder holds a calendar with one file an event; a file "
                                      "holds a whole calendar."));
-    QAbstractButton* folder = box.addButton(localized("&Folder…"), QMessageBox::AcceptRole);
-    QAbstractButton* file = box.addButton(localized("F&ile…"), QMessageBox::AcceptRole);
+    // Of two that accept, some desktops have one on each side of the button that cancels.
+    QPushButton* folder = box.addButton(localized("&Folder…"), QMessageBox::ActionRole);
+    QPushButton* file = box.addButton(localized("F&ile…"), QMessageBox::ActionRole);
     box.addButton(QMessageBox::Cancel);
+    box.setDefaultButton(folder);
     box.exec();
     QString path;
     if (box.clickedButton() == folder) {

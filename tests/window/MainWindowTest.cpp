@@ -11,10 +11,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QProgressBar>
+#include <QPushButton>
 #include <QSplitter>
 #include <QTabBar>
 #include <QTest>
+#include <QTimer>
 
 namespace quillet {
 
@@ -314,6 +317,31 @@ TEST_F(MainWindowTest, WithoutAccessTheWindowSaysSo) {
     open();
     EXPECT_TRUE(window->findChild<EmptyState*>()->isVisible());
     EXPECT_FALSE(named<QAbstractButton>("Month")->isEnabled());
+}
+
+TEST_F(MainWindowTest, TheTwoKindsOfCalendarsToAddStandSideBySideOnEveryDesktop) {
+    open();
+    QStringList texts;
+    QString defaultText;
+    QTimer::singleShot(0, window.get(), [&] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        // As GNOME has it.
+        box->setStyleSheet(QStringLiteral("* { button-layout: 3 }"));
+        QApplication::processEvents();
+        auto buttons = box->findChildren<QPushButton*>();
+        std::ranges::sort(buttons, {}, &QWidget::x);
+        for (const QPushButton* button : buttons) {
+            texts << button->text();
+            defaultText = button->isDefault() ? button->text() : defaultText;
+        }
+        box->reject();
+    });
+    window->findChild<QAction*>("addCalendar")->trigger();
+    ASSERT_EQ(texts.size(), 3);
+    EXPECT_EQ(texts.at(0), QStringLiteral("&Folder…"));
+    EXPECT_EQ(texts.at(1), QStringLiteral("F&ile…"));
+    EXPECT_EQ(defaultText, QStringLiteral("&Folder…"));
 }
 
 TEST_F(MainWindowTest, TheStandardKeyForClosingClosesTheWindow) {
