@@ -44,6 +44,8 @@ bool isMoneyColumn(const EventColumn& column) {
     return identifier == "cost" || identifier == "rate";
 }
 
+constexpr int gapColumn = 2;
+
 } // namespace
 
 PreferencesColumnsPage::PreferencesColumnsPage(SettingsStore& settings,
@@ -57,6 +59,8 @@ PreferencesColumnsPage::PreferencesColumnsPage(SettingsStore& settings,
         "Tick the columns that the table shows. Their titles also stand in reports and exports.")));
     auto* grid = new QGridLayout;
     addColumns(*grid);
+    // The second pair of columns stands apart from the first one's fields.
+    grid->setColumnMinimumWidth(gapColumn, fontMetrics().height() / 2);
     layout->addLayout(grid);
     auto* reset = new QPushButton(localized("&Reset All Titles"), &body());
     reset->setObjectName(QStringLiteral("resetAllColumnTitles"));
@@ -106,8 +110,9 @@ void PreferencesColumnsPage::addColumn(QGridLayout& grid, const EventColumn& col
     auto* title = new QLineEdit(&body());
     title->setAccessibleName(localized("Title of “%1”").arg(localized(column.defaultTitle)));
     bindLineEdit(*title, settings(), QString::fromLatin1(column.titleKey));
-    grid.addWidget(box, place % rows, place / rows * 2);
-    grid.addWidget(title, place % rows, place / rows * 2 + 1);
+    const int left = place / rows == 0 ? 0 : gapColumn + 1;
+    grid.addWidget(box, place % rows, left);
+    grid.addWidget(title, place % rows, left + 1);
     const auto [isHidden, changed] = hiddenFlagOf(column);
     if (isHidden != nullptr) {
         connect(&timeColumns_, changed, this, [this, box, title, flag = isHidden] {

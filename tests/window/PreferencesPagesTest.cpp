@@ -307,6 +307,18 @@ TEST_F(PreferencesPagesTest, AnUnknownEncodingIsTheOneOfTheFilesAndStaysUntilThe
     EXPECT_EQ(settings.object("fileEncodingPopUpIndex"), QVariant(1));
 }
 
+TEST_F(PreferencesPagesTest, TheTwoHalvesOfTheColumnsStandApart) {
+    const auto edges = [this](const char* left, const char* right) {
+        return control<QWidget>(right).mapTo(&*dialog, QPoint()).x() -
+               control<QWidget>(left).mapTo(&*dialog, QPoint()).x() -
+               control<QWidget>(left).width();
+    };
+    dialog->showPane(PreferencesPane::Columns);
+    QApplication::processEvents();
+    const int within = edges("isDateColumn", "dateColumnTitle");
+    EXPECT_GT(edges("dateColumnTitle", "isEndWeekdayColumn"), within * 2);
+}
+
 TEST_F(PreferencesPagesTest, ThePanesFitASmallScreen) {
     EXPECT_LE(dialog->sizeHint().width(), 1024);
     EXPECT_LE(dialog->sizeHint().height(), 640);
