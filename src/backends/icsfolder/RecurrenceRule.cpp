@@ -15,8 +15,6 @@ using Frequency = RecurrenceRule::Frequency;
 namespace {
 
 constexpr std::int64_t lastYear = 2999;
-/// What one generated time costs, measured in days looked at.
-constexpr std::int64_t timeCost = 10;
 
 local_days firstOfMonth(std::int64_t monthsSinceYearZero) {
     return local_days(std::chrono::year(static_cast<int>(monthsSinceYearZero / 12)) /
@@ -143,7 +141,7 @@ void expandHourly(const RecurrenceRule& rule, LocalSeconds start, LocalSeconds f
                 inHour.push_back(hour + offset);
             }
         }
-        if (!budget.spend(timeCost * static_cast<std::int64_t>(inHour.size()))) {
+        if (!budget.spendOnTimes(inHour.size())) {
             return;
         }
         keepPositions(rule.setPositions, inHour);
@@ -158,7 +156,7 @@ void expandRule(const RecurrenceRule& rule, LocalSeconds start, LocalSeconds fro
                 WorkBudget& budget, std::vector<LocalSeconds>& times) {
     from = std::max(from, start);
     to = rule.until ? std::min(to, *rule.until + std::chrono::seconds(1)) : to;
-    if (from >= to || !budget.spend(timeCost)) {
+    if (from >= to || !budget.spendOnTimes(1)) {
         return;
     }
     if (rule.frequency == Frequency::Hourly) {
@@ -179,7 +177,7 @@ void expandRule(const RecurrenceRule& rule, LocalSeconds start, LocalSeconds fro
             if (!filter.admitsDay(day)) {
                 continue;
             }
-            if (!budget.spend(timeCost * static_cast<std::int64_t>(filter.times().size()))) {
+            if (!budget.spendOnTimes(filter.times().size())) {
                 return;
             }
             for (const std::chrono::seconds time : filter.times()) {

@@ -11,17 +11,23 @@ namespace quillet {
 /// Bounds the work that calendar files can cause, so that a hostile one stalls nothing.
 class WorkBudget {
 public:
-    explicit WorkBudget(std::int64_t units)
-        : left_(units) {}
+    /// A unit is what it costs to look at a day; a generated time costs `unitsPerTime`.
+    explicit WorkBudget(std::int64_t units, std::int64_t unitsPerTime = 10)
+        : left_(units)
+        , unitsPerTime_(unitsPerTime) {}
     /// False once the budget is used up.
     [[nodiscard]] bool spend(std::int64_t units) {
         left_ -= units;
         return left_ >= 0;
     }
+    [[nodiscard]] bool spendOnTimes(std::size_t count) {
+        return spend(unitsPerTime_ * static_cast<std::int64_t>(count));
+    }
     [[nodiscard]] bool isExhausted() const { return left_ < 0; }
 
 private:
     std::int64_t left_;
+    std::int64_t unitsPerTime_;
 };
 
 /// One RRULE or EXRULE, in the wall-clock time of its event.

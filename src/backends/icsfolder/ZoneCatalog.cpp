@@ -17,7 +17,10 @@ namespace {
 
 constexpr std::size_t mostDefinitions = 500;
 constexpr std::size_t mostNames = 2000;
+/// Enough for two rules by the year, or one by the month, over two centuries. A zone that changes
+/// more often than that is no zone, and is not to be paid for five hundred times.
 constexpr std::int64_t definitionBudget = 300'000;
+constexpr std::int64_t unitsPerChange = 50;
 
 /// One STANDARD or DAYLIGHT part of a definition.
 struct Observance {
@@ -92,7 +95,7 @@ ZoneCatalog::Definition definitionFrom(const char* block) {
     }
     std::vector<ZoneRules::Transition> transitions;
     std::optional<std::pair<sys_seconds, seconds>> earliest;
-    WorkBudget budget(definitionBudget);
+    WorkBudget budget(definitionBudget, unitsPerChange);
     for (icalcomponent* part =
              icalcomponent_get_first_component(component.get(), ICAL_ANY_COMPONENT);
          part != nullptr;

@@ -166,6 +166,19 @@ TEST_F(IcsReadingTest, followsTheRulesOfATimeZoneInTheFile) {
               Instants({utc(2024, 3, 30, 11), utc(2024, 3, 31, 10), utc(2024, 4, 1, 10)}));
 }
 
+TEST_F(IcsReadingTest, believesNoTimeZoneThatChangesEachWeek) {
+    const auto changing = [](const char* rule) {
+        return QByteArray("BEGIN:VCALENDAR\nBEGIN:VTIMEZONE\nTZID:Europe/Berlin\nBEGIN:STANDARD\n"
+                          "DTSTART:19000101T000000\nTZOFFSETFROM:+0530\nTZOFFSETTO:+0530\nRRULE:") +
+               rule +
+               "\nEND:STANDARD\nEND:VTIMEZONE\nBEGIN:VEVENT\nUID:a\n"
+               "DTSTART;TZID=Europe/Berlin:20240301T120000\nEND:VEVENT\nEND:VCALENDAR\n";
+    };
+    write(QStringLiteral("a.ics"), changing("FREQ=MONTHLY"));
+    write(QStringLiteral("b.ics"), changing("FREQ=WEEKLY"));
+    EXPECT_EQ(starts(), Instants({utc(2024, 3, 1, 6, 30), utc(2024, 3, 1, 11)}));
+}
+
 TEST_F(IcsReadingTest, knowsWindowsAndPrefixedZoneNames) {
     write(QStringLiteral("a.ics"),
           eventFile("DTSTART;TZID=W. Europe Standard Time:20240701T120000"));
