@@ -17,17 +17,26 @@ if(QUILLET_FUZZING)
   target_compile_options(quillet_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# quillet_library(<folder below src> [LINKS <target>...])
+# quillet_sources(<variable> <folder> [<room>...]): the C++ files of a folder and of its rooms.
+function(quillet_sources variable folder)
+  set(patterns ${folder}/*.cpp ${folder}/*.h)
+  foreach(room IN LISTS ARGN)
+    list(APPEND patterns ${folder}/${room}/*.cpp ${folder}/${room}/*.h)
+  endforeach()
+  file(GLOB sources CONFIGURE_DEPENDS ${patterns})
+  set(${variable} ${sources} PARENT_SCOPE)
+endfunction()
+
+# quillet_library(<folder below src> [ROOMS <subfolder>...] [LINKS <target>...])
 #
-# One library for one folder. Its headers are reachable as "<folder>/<Header>.h", and only for
+# One library for one folder and for its rooms, where it has any. Its headers are reachable as "<folder>/<Header>.h", and only for
 # targets that link it: each library publishes a directory that holds nothing but its own folder.
 # So a forbidden include does not compile.
 function(quillet_library folder)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "ROOMS;LINKS")
   string(REPLACE "/" "_" suffix ${folder})
   set(target quillet_${suffix})
-  file(GLOB sources CONFIGURE_DEPENDS
-    ${CMAKE_SOURCE_DIR}/src/${folder}/*.cpp ${CMAKE_SOURCE_DIR}/src/${folder}/*.h)
+  quillet_sources(sources ${CMAKE_SOURCE_DIR}/src/${folder} ${arg_ROOMS})
   if(NOT sources)
     add_library(${target} INTERFACE)
     return()
@@ -63,16 +72,18 @@ function(quillet_string_tables target)
   qt_add_resources(${target} string_tables PREFIX /translations BASE ${folder} FILES ${tables})
 endfunction()
 
-# quillet_tests(<folder below tests> [LINKS <target>...])
+# quillet_tests(<folder below tests> [ROOMS <subfolder>...] [LINKS <target>...])
 #
-# One test program for one folder: every *Test.cpp in it, registered test by test.
+# One test program for one folder and its rooms: every *Test.cpp in them, registered test by test.
 function(quillet_tests folder)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "ROOMS;LINKS")
   string(REPLACE "/" "_" suffix ${folder})
   set(target ${suffix}_tests)
   set_property(GLOBAL APPEND PROPERTY quillet_test_folders ${folder})
-  file(GLOB sources CONFIGURE_DEPENDS
-    ${CMAKE_SOURCE_DIR}/tests/${folder}/*.cpp ${CMAKE_SOURCE_DIR}/tests/${folder}/*.h)
+  foreach(room IN LISTS arg_ROOMS)
+    set_property(GLOBAL APPEND PROPERTY quillet_test_folders ${folder}/${room})
+  endforeach()
+  quillet_sources(sources ${CMAKE_SOURCE_DIR}/tests/${folder} ${arg_ROOMS})
   add_executable(${target} ${sources})
   set_target_properties(${target} PROPERTIES AUTOMOC ON)
   target_link_libraries(${target} PRIVATE ${arg_LINKS} quillet_test_support quillet_options)

@@ -4,7 +4,7 @@
 #include "backends/activation/WindowFront.h"
 #include "backends/programs/SoftwareCentre.h"
 #include "eventtable/ColumnLayout.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <QCoreApplication>
 #include <QSettings>

@@ -1,8 +1,8 @@
 #include "Program.h"
 #include "backends/translations/Translations.h"
-#include "window/ClearIndicators.h"
-#include "window/ReportViewAccessible.h"
-#include "window/SheetFocus.h"
+#include "window/exports/ReportViewAccessible.h"
+#include "window/widgets/ClearIndicators.h"
+#include "window/widgets/SheetFocus.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
 #include "app/PreferencesWindowController.h"
 
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <array>
 

@@ -1,6 +1,6 @@
 #include "calendars/CalendarGroupsArrayController.h"
 
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "eventdata/EventKitManager.h"
 
-#include "platform/Localized.h"
 #include "platform/Logging.h"
+#include "texts/Localized.h"
 
 #include <QPointer>
 

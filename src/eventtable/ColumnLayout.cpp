@@ -1,7 +1,7 @@
 #include "eventtable/ColumnLayout.h"
 
 #include "eventtable/EventColumns.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 
 #include "eventtable/EventColumns.h"
 #include "eventtable/StoredColumnLayout.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 namespace quillet {
 

@@ -1,6 +1,6 @@
 #include "eventtable/EventColumns.h"
 
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <algorithm>
 

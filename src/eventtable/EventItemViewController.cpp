@@ -1,6 +1,6 @@
 #include "eventtable/EventItemViewController.h"
 
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <QSet>
 

@@ -4,7 +4,7 @@
 #include "export/ExportNames.h"
 #include "export/ExportSelection.h"
 #include "export/ExportedEvents.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 namespace quillet {
 

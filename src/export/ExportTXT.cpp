@@ -1,6 +1,6 @@
 #include "export/ExportTXT.h"
 
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 namespace quillet {
 

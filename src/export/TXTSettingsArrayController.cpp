@@ -1,7 +1,7 @@
 #include "export/TXTSettingsArrayController.h"
 
 #include "export/TXTSettings.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #include "export/ExportFile.h"
 #include "export/ExportNames.h"
 #include "export/MailScript.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <tuple>
 

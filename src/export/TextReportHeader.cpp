@@ -1,7 +1,7 @@
 #include "export/TextReportHeader.h"
 
 #include "eventdata/Duration.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <algorithm>
 

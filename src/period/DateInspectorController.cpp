@@ -1,6 +1,6 @@
 #include "period/DateInspectorController.h"
 
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 namespace quillet {
 

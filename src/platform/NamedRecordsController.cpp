@@ -1,6 +1,6 @@
 #include "platform/NamedRecordsController.h"
 
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <tuple>
 

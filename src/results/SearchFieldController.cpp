@@ -1,6 +1,6 @@
 #include "results/SearchFieldController.h"
 
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 namespace quillet {
 

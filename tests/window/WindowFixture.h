@@ -11,11 +11,11 @@
 #include "support/EventSamples.h"
 #include "support/Fakes.h"
 #include "support/MemorySettings.h"
-#include "window/EventTableModel.h"
-#include "window/EventTableView.h"
-#include "window/InterfaceActions.h"
-#include "window/MainWindow.h"
-#include "window/ResultsPane.h"
+#include "window/events/EventTableModel.h"
+#include "window/events/EventTableView.h"
+#include "window/events/ResultsPane.h"
+#include "window/main/InterfaceActions.h"
+#include "window/main/MainWindow.h"
 
 #include <QApplication>
 

@@ -3,7 +3,7 @@
 #include "backends/combined/CalendarMemory.h"
 #include "backends/evolution/Glib.h"
 #include "backends/evolution/ServiceSession.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <QFileInfo>
 

@@ -1,6 +1,6 @@
 #include "backends/evolution/ServicePicture.h"
 
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <algorithm>
 

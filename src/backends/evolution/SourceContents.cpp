@@ -3,7 +3,7 @@
 #include "backends/icsfolder/EventAssembly.h"
 #include "backends/icsfolder/IcalValues.h"
 #include "backends/icsfolder/IcsText.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,7 +1,7 @@
 #include "backends/evolution/SourceDescription.h"
 
 #include "backends/evolution/Glib.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <tuple>
 

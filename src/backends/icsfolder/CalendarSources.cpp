@@ -1,7 +1,7 @@
 #include "backends/icsfolder/CalendarSources.h"
 
 #include "backends/icsfolder/IcsText.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "backends/icsfolder/EventAssembly.h"
 
 #include "backends/icsfolder/OccurrenceNaming.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <QHash>
 

@@ -1,6 +1,6 @@
 #include "backends/icsfolder/FolderLoader.h"
 
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 namespace quillet {
 

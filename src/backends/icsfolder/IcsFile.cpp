@@ -1,7 +1,7 @@
 #include "backends/icsfolder/IcsFile.h"
 
 #include "backends/icsfolder/EventAssembly.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <future>
 #include <span>

@@ -3,7 +3,7 @@
 #include "backends/icsfolder/CalendarSources.h"
 #include "backends/icsfolder/EventFiles.h"
 #include "backends/icsfolder/FolderLoader.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <QDir>
 #include <QFile>

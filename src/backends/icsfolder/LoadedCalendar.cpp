@@ -1,6 +1,6 @@
 #include "backends/icsfolder/LoadedCalendar.h"
 
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <QFile>
 

@@ -1,5 +1,5 @@
 #include "backends/icsfolder/IcsText.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <QStringDecoder>
 

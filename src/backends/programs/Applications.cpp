@@ -1,6 +1,6 @@
 #include "backends/programs/Applications.h"
 
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <QFileInfo>
 

@@ -1,6 +1,6 @@
 #include "backends/programs/CalendarPrograms.h"
 
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <QUrl>
 

@@ -1,7 +1,7 @@
 #include "backends/programs/MailPrograms.h"
 
 #include "backends/programs/MailMessage.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <QDateTime>
 #include <QDir>

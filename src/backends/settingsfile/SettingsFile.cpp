@@ -2,8 +2,8 @@
 
 #include "backends/settingsfile/SettingsJson.h"
 #include "backends/settingsfile/ValueMerge.h"
-#include "platform/Localized.h"
 #include "platform/Logging.h"
+#include "texts/Localized.h"
 
 #include <QDir>
 #include <QFile>

@@ -2,7 +2,7 @@
 
 #include "platform/Decimal.h"
 #include "platform/Instant.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <QDateTime>
 #include <QJsonArray>

@@ -1,7 +1,7 @@
 #include "backends/updates/ReleaseListUpdater.h"
 
 #include "backends/updates/ReleaseList.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 namespace quillet {
 

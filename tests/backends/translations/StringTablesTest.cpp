@@ -1,7 +1,7 @@
 #include "StringTables.h"
 
 #include "backends/translations/Translations.h"
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <QCoreApplication>
 #include <QDir>

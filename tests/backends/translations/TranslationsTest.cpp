@@ -1,6 +1,6 @@
 #include "backends/translations/Translations.h"
 
-#include "platform/Localized.h"
+#include "texts/Localized.h"
 
 #include <QCoreApplication>
 

@@ -1,0 +1,318 @@
+#include "window/main/MainWindow.h"
+
+#include "texts/Localized.h"
+#include "window/calendars/CalendarPane.h"
+#include "window/calendars/RatePane.h"
+#include "window/events/EventTableView.h"
+#include "window/events/ResultsPane.h"
+#include "window/events/SearchBox.h"
+#include "window/period/InspectorPane.h"
+#include "window/period/PeriodLabels.h"
+#include "window/preferences/SettingsBinding.h"
+#include "window/widgets/ElidedLabel.h"
+#include "window/widgets/EmptyState.h"
+#include "window/widgets/FocusOrder.h"
+#include "window/widgets/LocalFile.h"
+#include "window/widgets/PaneScroller.h"
+#include "window/widgets/SymbolIcon.h"
+
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QScreen>
+#include <QSettings>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QStyle>
+#include <QToolBar>
+#include <QToolButton>
+#include <QUrl>
+#include <QVBoxLayout>
+
+namespace quillet {
+
+namespace {
+
+const QString accessKey = QStringLiteral("isCalendarAccessGranted");
+const QString progressKey = QStringLiteral("isProgressIndicatorOn");
+
+QFrame* line() {
+    auto* frame = new QFrame;
+    frame->setFrameShape(QFrame::HLine);
+    frame->setFrameShadow(QFrame::Sunken);
+    return frame;
+}
+
+} // namespace
+
+MainWindow::MainWindow(Collaborators collaborators, QWidget* parent)
+    : QMainWindow(parent)
+    , with_(std::move(collaborators))
+    , columnLayoutsPopover_(with_.settings, with_.arrangements.columnLayouts)
+    , txtSettingsSheet_(with_.arrangements.txtSettings, *this)
+    , preferences_({with_.settings, with_.formats,
+                    [this] { with_.eventItemViewController.resetAllColumnTitles(); },
+                    [this] { txtSettingsSheet_.controller().openTXTSettingsSheet(); }},
+                   *this) {
+    setWindowTitle(QStringLiteral("Quillet"));
+    setAcceptDrops(true);
+    makeStepActions();
+    makeExportActions();
+    makePanes();
+    makeToolBar();
+    makeMenus();
+    followState();
+    preferences_.controller().awakeFromNib();
+    ExportItems& items = with_.exportItems;
+    views_ = std::make_unique<AppViewsController>(AppViewsController::Collaborators{
+        with_.settings, *panes_, items.text, items.csv, items.tsv, items.notes});
+    views_->awakeFromNib();
+    followExportPanes();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::makePanes() {
+    calendarPane_ =
+        new CalendarPane(with_.calendarsArrayController, with_.calendarActions.colorOf, this);
+    groupChooser_ = new GroupChooser(with_.calendarGroups, with_.settings, *this);
+    calendarPane_->setHeader(*groupChooser_);
+    auto* inspector =
+        new InspectorPane(with_.dateInspectorController, with_.settings, with_.calendar, this);
+    auto* rate = new RatePane(with_.calendarsArrayController, with_.eventItemViewController,
+                              with_.settings, with_.formats, this);
+    WindowPanes::Contents contents = exportPanes();
+    contents.insert({{PaneContent::CalendarListView, calendarPane_},
+                     {PaneContent::EventItemView, makeEventItemView()},
+                     {PaneContent::DateInspectorView, new PaneScroller(*inspector, this)},
+                     {PaneContent::EventRateView, rate}});
+    panes_ = std::make_unique<WindowPanes>(std::move(contents), *this);
+    splitter_ = new QSplitter(this);
+    splitter_->setObjectName(QStringLiteral("panes"));
+    splitter_->setChildrenCollapsible(false);
+    splitter_->addWidget(panes_->container(Pane::List));
+    splitter_->addWidget(makeCentre());
+    splitter_->addWidget(panes_->container(Pane::Inspector));
+    splitter_->setStretchFactor(1, 1);
+    const int unit = fontMetrics().averageCharWidth();
+    // In fonts with Chinese characters the average is as wide as one of these.
+    calendarPane_->setMinimumWidth(fontMetrics().horizontalAdvance(u'0') * 14);
+    splitter_->setSizes({unit * 32, unit * 110, unit * 40});
+    setCentralWidget(new PaneScroller(*splitter_, this));
+}
+
+QWidget* MainWindow::makeEventItemView() {
+    periodTitle_ = new ElidedLabel(this);
+    periodTitle_->setObjectName(QStringLiteral("reportingPeriod"));
+    const int space = fontMetrics().height() / 2;
+    periodTitle_->setContentsMargins(space, space, space, space);
+    constexpr double titleScale = 1.3;
+    QFont font = periodTitle_->font();
+    font.setPointSizeF(font.pointSizeF() * titleScale);
+    font.setBold(true);
+    periodTitle_->setFont(font);
+    periodTitle_->setSmallestScale(1 / titleScale);
+    emptyState_ = new EmptyState(this);
+    centreStack_ = new QStackedWidget(this);
+    centreStack_->addWidget(&with_.eventTable);
+    centreStack_->addWidget(emptyState_);
+
+    auto* view = new QWidget(this);
+    auto* layout = new QVBoxLayout(view);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    makeColumnLayoutsButton();
+    auto* titleRow = new QHBoxLayout;
+    titleRow->setSpacing(0);
+    titleRow->addWidget(periodTitle_, 1);
+    titleRow->addWidget(columnLayoutsButton_);
+    layout->addLayout(titleRow);
+    layout->addWidget(centreStack_, 1);
+    return view;
+}
+
+void MainWindow::makeColumnLayoutsButton() {
+    columnLayoutsButton_ = new QToolButton(this);
+    columnLayoutsButton_->setText(localized("Layouts"));
+    columnLayoutsButton_->setIcon(symbolIcon(Symbol::Columns));
+    columnLayoutsButton_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    columnLayoutsButton_->setAutoRaise(true);
+    columnLayoutsButton_->setFocusPolicy(Qt::TabFocus);
+    columnLayoutsButton_->setObjectName(QStringLiteral("columnLayouts"));
+    columnLayoutsButton_->setToolTip(localized("Keeps arrangements of the columns under names"));
+    connect(columnLayoutsButton_, &QToolButton::clicked, this,
+            [this] { columnLayoutsPopover_.showColumnLayoutsPopover(*columnLayoutsButton_); });
+}
+
+QWidget* MainWindow::makeCentre() {
+    auto* centre = new QWidget(this);
+    auto* layout = new QVBoxLayout(centre);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(&panes_->centreSplitter(), 1);
+    layout->addWidget(line());
+    layout->addWidget(&with_.resultsPane);
+    return centre;
+}
+
+bool MainWindow::focusNextPrevChild(bool next) {
+    QList<QWidget*> areas{findChild<QToolBar*>(), panes_->container(Pane::List),
+                          panes_->container(Pane::Item)};
+    for (ExportPane* pane : findChildren<ExportPane*>()) {
+        areas.append(pane);
+    }
+    areas << panes_->container(Pane::Rate) << &with_.resultsPane
+          << panes_->container(Pane::Inspector);
+    QWidget* const neighbour =
+        neighbourInFocusOrder(areas, focusWidget(), next ? FocusStep::Next : FocusStep::Previous);
+    if (neighbour == nullptr) {
+        return QMainWindow::focusNextPrevChild(next);
+    }
+    neighbour->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    for (QWidget* around = neighbour->parentWidget(); around != nullptr;
+         around = around->parentWidget()) {
+        if (auto* scroller = qobject_cast<PaneScroller*>(around)) {
+            scroller->ensureWidgetVisible(neighbour);
+        }
+    }
+    return true;
+}
+
+void MainWindow::followState() {
+    const auto reason = [this] { showTableOrReason(); };
+    connect(&with_.eventsArrayController, &ListControllerNotices::arrangedObjectsChanged, this,
+            reason);
+    connect(&with_.calendarsArrayController, &ListControllerNotices::arrangedObjectsChanged, this,
+            reason);
+    for (const QString& key : {accessKey, progressKey}) {
+        observeWhileAlive(*this, with_.settings, key, reason);
+    }
+    observeWhileAlive(*this, with_.settings, progressKey, [this] {
+        if (!boolForKey(with_.settings, progressKey)) {
+            // A query may have found one, or shown that one is gone.
+            refreshProblems();
+        }
+    });
+    connect(&with_.dateInspectorController, &DateInspectorController::labelsChanged, this,
+            &MainWindow::showPeriodTitle);
+    followReportingPeriod(with_.eventItemViewController, with_.dateInspectorController,
+                          with_.settings);
+    describeWithPeriod(with_.eventTable, with_.eventItemViewController);
+    showPeriodTitle();
+    showTableOrReason();
+}
+
+void MainWindow::showPeriodTitle() {
+    const DateInspectorController& period = with_.dateInspectorController;
+    // A kind that nobody knows has no name.
+    periodTitle_->setText(period.periodLabelString().isEmpty()
+                              ? period.dateRangeLabelString()
+                              : QStringLiteral("%1 · %2").arg(period.periodLabelString(),
+                                                              period.dateRangeLabelString()));
+}
+
+void MainWindow::showTableOrReason() {
+    // While a fetch runs what was shown stays, so that nothing flickers.
+    if (boolForKey(with_.settings, progressKey) &&
+        with_.eventsArrayController.arrangedCount() == 0) {
+        return;
+    }
+    const auto& calendars = with_.calendarsArrayController;
+    bool isAnyTicked = false;
+    for (std::size_t row = 0; row < calendars.arrangedCount(); ++row) {
+        isAnyTicked = isAnyTicked || calendars.arranged(row).isSelected;
+    }
+    if (!boolForKey(with_.settings, accessKey)) {
+        emptyState_->show(localized("Quillet may not read your calendars yet"),
+                          localized("Your events appear here once you allow it."),
+                          localized("Allow Calendar Access…"), with_.calendarActions.allowAccess);
+    } else if (calendars.arrangedCount() == 0 && !calendars.content()->empty()) {
+        emptyState_->show(localized("No calendar in this group"),
+                          localized("Tick the calendars that belong to it."),
+                          localized("Edit Calendar Groups…"),
+                          [this] { groupChooser_->openSheet(); });
+    } else if (calendars.arrangedCount() == 0) {
+        emptyState_->show(localized("No calendars"),
+                          localized("Add a folder or a file of calendars, or drop one here."),
+                          localized("Add Calendar Folder or File…"),
+                          [this] { chooseCalendarToAdd(); });
+    } else if (!isAnyTicked) {
+        emptyState_->show(localized("No calendar is ticked"),
+                          localized("Tick the calendars whose time counts."),
+                          localized("Tick All Calendars"), [this] { tickAllCalendars(); });
+    } else if (with_.eventsArrayController.arrangedCount() == 0 &&
+               !with_.eventsArrayController.content()->empty()) {
+        emptyState_->show(localized("Nothing found"),
+                          localized("No event of this period matches the search."),
+                          localized("Clear Search"), [this] { searchBox_->clear(); });
+    } else if (with_.eventsArrayController.arrangedCount() == 0) {
+        emptyState_->show(localized("No events in this period"),
+                          localized("The ticked calendars have no events on these days."),
+                          localized("Show the Current Period"),
+                          [this] { currentAction_->trigger(); });
+    } else {
+        centreStack_->setCurrentWidget(&with_.eventTable);
+        return;
+    }
+    centreStack_->setCurrentWidget(emptyState_);
+}
+
+void MainWindow::tickAllCalendars() {
+    auto& calendars = with_.calendarsArrayController;
+    if (calendars.selectedRows().empty()) {
+        calendars.setSelectedRows({0});
+    }
+    // None is ticked, so that the click that turns all around ticks all.
+    calendars.calendarTableViewClicked(CalendarsArrayController::ControlKey::Held);
+}
+
+void MainWindow::refreshProblems() {
+    calendarPane_->showProblems(with_.calendarActions.problems());
+    calendarPane_->refreshColors();
+}
+
+void MainWindow::showMessage(const QString& message) {
+    if (message.isEmpty() && findChild<QStatusBar*>() == nullptr) {
+        // An empty status bar would take a line of the window for nothing.
+        return;
+    }
+    statusBar()->setVisible(!message.isEmpty());
+    statusBar()->showMessage(message);
+}
+
+void MainWindow::restoreState(const QString& stateFile) {
+    const QSettings state(stateFile, QSettings::IniFormat);
+    if (!restoreGeometry(state.value(QStringLiteral("geometry")).toByteArray())) {
+        const int unit = fontMetrics().averageCharWidth();
+        // The title bar comes on top.
+        const QSize room =
+            screen()->availableSize() - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
+        resize(QSize(unit * 215, fontMetrics().height() * 48).boundedTo(room));
+    }
+    splitter_->restoreState(state.value(QStringLiteral("panes")).toByteArray());
+    panes_->setExportRoom(state.value(QStringLiteral("exportPane")).toInt());
+}
+
+void MainWindow::saveState(const QString& stateFile) const {
+    QSettings state(stateFile, QSettings::IniFormat);
+    state.setValue(QStringLiteral("geometry"), saveGeometry());
+    state.setValue(QStringLiteral("panes"), splitter_->saveState());
+    state.setValue(QStringLiteral("exportPane"), panes_->exportRoom());
+    state.setValue(QStringLiteral("columns"), with_.eventTable.columnState());
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls()) {
+        event->acceptProposedAction();
+    }
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+    for (const QUrl& url : event->mimeData()->urls()) {
+        if (const QString path = localPath(url); !path.isEmpty()) {
+            addCalendar(path);
+        }
+    }
+}
+
+} // namespace quillet

@@ -1,0 +1,139 @@
+#include "texts/Localized.h"
+#include "window/events/EventTableView.h"
+#include "window/exports/NotesPane.h"
+#include "window/main/MainWindow.h"
+#include "window/preferences/SettingsBinding.h"
+#include "window/widgets/SymbolIcon.h"
+
+#include <QAction>
+#include <QHeaderView>
+#include <QPointer>
+
+namespace quillet {
+
+namespace {
+
+const QString txtPaneKey = QStringLiteral("isExportTXTViewOn");
+const QString notesPaneKey = QStringLiteral("isNotesViewOn");
+
+} // namespace
+
+void MainWindow::makeExportActions() {
+    ExportItems& items = with_.exportItems;
+    struct Item {
+        QAction& action;
+        const char* name;
+        const char* text;
+        const char* toolTip;
+        Symbol symbol;
+        std::function<void()> trigger;
+    };
+    for (const Item& item : {
+             Item{items.text.action(), "exportTxtToolbarItemClicked", localizable("Text"),
+                  localizable("Show the listed events as a text report"), Symbol::Text,
+                  [this] { views_->exportTxtToolbarItemClicked(); }},
+             Item{items.notes.action(), "exportNotesToolbarItemClicked", localizable("Notes"),
+                  localizable("Show the notes of the listed events"), Symbol::Notes,
+                  [this] { views_->exportNotesToolbarItemClicked(); }},
+             Item{items.csv.action(), "saveAsCSV", localizable("CSV"),
+                  localizable("Save the listed events as a CSV file"), Symbol::Save,
+                  [this] { with_.exports.csv.saveAsCSV(); }},
+             Item{items.tsv.action(), "saveAsTSV", localizable("TSV"),
+                  localizable("Save the listed events as a TSV file"), Symbol::Save,
+                  [this] { with_.exports.tsv.saveAsTSV(); }},
+             Item{items.mail.action(), "sendToMail", localizable("Mail"),
+                  localizable("Put the report into a new message"), Symbol::Mail,
+                  [this] { mail(); }},
+         }) {
+        item.action.setObjectName(QString::fromLatin1(item.name));
+        item.action.setText(localized(item.text));
+        item.action.setToolTip(localized(item.toolTip));
+        item.action.setIcon(symbolIcon(item.symbol));
+        connect(&item.action, &QAction::triggered, this, item.trigger);
+    }
+    items.mail.action().setShortcut(QKeySequence(Qt::CTRL | Qt::Key_M));
+}
+
+void MainWindow::addExportPaneAction(QMenu& menu, const QString& text, const QString& paneKey,
+                                     const QKeySequence& shortcut) {
+    const bool isReport = paneKey == txtPaneKey;
+    const QString& otherKey = isReport ? notesPaneKey : txtPaneKey;
+    QAction* action =
+        addAction(menu, text, isReport ? "displayTxtExportView" : "displayNotesExportView",
+                  shortcut, [this, paneKey, isReport] {
+                      const bool isOpen = boolForKey(with_.settings, paneKey);
+                      if (isReport) {
+                          isOpen ? closeExportPane(&AppViewsController::turnTxtExportViewOff)
+                                 : views_->exportTxtToolbarItemClicked();
+                      } else {
+                          isOpen ? closeExportPane(&AppViewsController::turnNotesExportViewOff)
+                                 : views_->exportNotesToolbarItemClicked();
+                      }
+                  });
+    action->setCheckable(true);
+    const auto follow = [this, action, paneKey, otherKey] {
+        action->setChecked(boolForKey(with_.settings, paneKey));
+        action->setEnabled(!boolForKey(with_.settings, otherKey));
+    };
+    for (const QString& key : {paneKey, otherKey}) {
+        observeWhileAlive(*action, with_.settings, key, follow);
+    }
+    follow();
+}
+
+WindowPanes::Contents MainWindow::exportPanes() {
+    const WindowExports& exports = with_.exports;
+    auto* report = new ReportPane(
+        exports.report, exports.reportBuilding,
+        [this] { preferences_.controller().showWindowWithTextPreferencesView(); },
+        {.save = [this] { with_.exports.text.saveAsTxt(); },
+         .mail = [this] { with_.exports.text.sendToMail(); },
+         .close = [this] { closeExportPane(&AppViewsController::turnTxtExportViewOff); }},
+        this);
+    auto* notes = new NotesPane(
+        exports.eventNotes, with_.settings,
+        {.save = [this] { with_.exports.notes.saveAsTxt(); },
+         .mail = [this] { with_.exports.notes.sendToMail(); },
+         .close = [this] { closeExportPane(&AppViewsController::turnNotesExportViewOff); }},
+        this);
+    exports.report.setEventTextView(
+        [view = QPointer(report)] { return view ? view->shownText() : std::nullopt; });
+    exports.eventNotes.setNotesTextView(
+        [view = QPointer(notes)] { return view ? view->shownText() : std::nullopt; });
+    const QHeaderView* header = with_.eventTable.horizontalHeader();
+    connect(header, &QHeaderView::sectionMoved, &exports.report,
+            &ExportTxtViewController::tableViewChanged);
+    connect(header, &QHeaderView::sectionResized, &exports.report,
+            [&report = exports.report](int, int oldWidth, int newWidth) {
+                // To and from 0 a column is hidden or shown, which is announced apart.
+                if (oldWidth > 0 && newWidth > 0) {
+                    report.tableViewChanged();
+                }
+            });
+    return {{PaneContent::ExportTxtView, report}, {PaneContent::ExportNotesView, notes}};
+}
+
+void MainWindow::closeExportPane(void (AppViewsController::*turnOff)()) {
+    (views_.get()->*turnOff)();
+    with_.eventTable.setFocus();
+}
+
+void MainWindow::mail() {
+    if (boolForKey(with_.settings, notesPaneKey)) {
+        with_.exports.notes.sendToMail();
+    } else {
+        with_.exports.text.sendToMail();
+    }
+}
+
+void MainWindow::followExportPanes() {
+    const auto follow = [this] {
+        panes_->setCentreDividerDraggable(!views_->effectiveRect(QRectF(rect())).isEmpty());
+    };
+    for (const QString& key : {txtPaneKey, notesPaneKey}) {
+        observeWhileAlive(*this, with_.settings, key, follow);
+    }
+    follow();
+}
+
+} // namespace quillet

@@ -1,0 +1,313 @@
+#include "window/main/MainWindow.h"
+
+#include "texts/Localized.h"
+#include "window/events/ColumnLayoutsMenu.h"
+#include "window/events/ColumnsMenu.h"
+#include "window/events/CopyCommand.h"
+#include "window/events/EventTableView.h"
+#include "window/events/SearchBox.h"
+#include "window/preferences/SettingsBinding.h"
+#include "window/widgets/FittingToolBar.h"
+#include "window/widgets/PlainMessage.h"
+#include "window/widgets/SymbolIcon.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QFileDialog>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QToolButton>
+
+#include <array>
+
+namespace quillet {
+
+QAction* MainWindow::addAction(QMenu& menu, const QString& text, const char* name,
+                               const QKeySequence& shortcut, std::function<void()> action) {
+    QAction* added = menu.addAction(text);
+    added->setObjectName(QString::fromLatin1(name));
+    added->setShortcut(shortcut);
+    connect(added, &QAction::triggered, this, std::move(action));
+    return added;
+}
+
+void MainWindow::makeStepActions() {
+    struct Step {
+        QAction*& action;
+        const char* text;
+        Symbol symbol;
+        QKeySequence shortcut;
+        PeriodStep step;
+    };
+    const std::array steps{
+        Step{previousAction_, localizable("Previous"), Symbol::Previous,
+             QKeySequence(Qt::ALT | Qt::Key_Left), PeriodStep::Previous},
+        Step{currentAction_, localizable("Current"), Symbol::Current,
+             QKeySequence(Qt::CTRL | Qt::Key_T), PeriodStep::Current},
+        Step{nextAction_, localizable("Next"), Symbol::Next, QKeySequence(Qt::ALT | Qt::Key_Right),
+             PeriodStep::Next},
+    };
+    for (const Step& step : steps) {
+        step.action = new QAction(symbolIcon(step.symbol), localized(step.text), this);
+        step.action->setObjectName(QStringLiteral("setQuickDates") +
+                                   QString::fromLatin1(step.text));
+        step.action->setShortcut(step.shortcut);
+        enableWithPeriod(*step.action);
+        connect(step.action, &QAction::triggered, this,
+                [this, which = step.step] { with_.dateInspectorController.setQuickDates(which); });
+    }
+}
+
+void MainWindow::enableWithPeriod(QAction& action) {
+    const auto enable = [this, &action] {
+        action.setEnabled(with_.dateInspectorController.isInterfaceEnabled());
+    };
+    connect(&with_.dateInspectorController, &DateInspectorController::isInterfaceEnabledChanged,
+            &action, enable);
+    enable();
+}
+
+void MainWindow::makeToolBar() {
+    auto* bar = new FittingToolBar(localized("Toolbar"), this);
+    addToolBar(bar);
+    bar->setObjectName(QStringLiteral("toolbar"));
+    bar->setMovable(false);
+    ExportItems& items = with_.exportItems;
+    bar->addActions({&items.text.action(), &items.notes.action()});
+    bar->addSeparator();
+    bar->addActions({&items.csv.action(), &items.tsv.action(), &items.mail.action()});
+    bar->addSeparator();
+    bar->addActions({previousAction_, currentAction_, nextAction_});
+    makeSearch(*bar);
+    for (QToolButton* button :
+         bar->findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+        button->setFocusPolicy(Qt::TabFocus);
+    }
+}
+
+void MainWindow::makeSearch(QToolBar& bar) {
+    auto* space = new QWidget(this);
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar.addWidget(space);
+    searchBox_ = new SearchBox(this);
+    bar.addWidget(searchBox_);
+    search_ = std::make_unique<SearchFieldController>(SearchFieldController::Collaborators{
+        with_.settings, *searchBox_, *searchBox_, with_.eventsArrayController});
+    connect(searchBox_, &QLineEdit::textChanged, this, [this] { search_->updateFilter(); });
+    connect(searchBox_, &SearchBox::categoryChosen, this,
+            [this](std::size_t position) { search_->setSearchCategoryFrom(position); });
+    connect(searchBox_, &SearchBox::left, this, [this] { with_.eventTable.setFocus(); });
+    search_->awakeFromNib();
+}
+
+void MainWindow::makeMenus() {
+    makeFileMenu();
+    makeEditMenu();
+    makeViewMenu();
+    makePeriodMenu();
+    makeCalendarsMenu();
+    makeHelpMenu();
+}
+
+void MainWindow::makeFileMenu() {
+    QMenu& menu = *menuBar()->addMenu(localized("&File"));
+    addAction(menu, localized("&Save as CSV…"), "saveAsCSV", QKeySequence::Save,
+              [this] { with_.exports.csv.saveAsCSV(); });
+    addAction(menu, localized("Save as &TSV…"), "saveAsTSV", {},
+              [this] { with_.exports.tsv.saveAsTSV(); });
+    addAction(menu, localized("Save Text &Report…"), "saveAsTxt", {},
+              [this] { with_.exports.text.saveAsTxt(); });
+    addAction(menu, localized("Save Event &Notes…"), "saveNotesAsTxt", {},
+              [this] { with_.exports.notes.saveAsTxt(); });
+    menu.addSeparator();
+    menu.addAction(&with_.exportItems.mail.action());
+    menu.addSeparator();
+    addAction(menu, localized("R&estart Quillet"), "relaunch", {},
+              [this] { with_.appDelegate.relaunch(); });
+    addAction(menu, localized("&Close Window"), "performClose", QKeySequence::Close,
+              [this] { close(); });
+    addAction(menu, localized("&Quit"), "terminate", QKeySequence::Quit, [this] { close(); });
+}
+
+void MainWindow::makeEditMenu() {
+    QMenu& menu = *menuBar()->addMenu(localized("&Edit"));
+    addAction(menu, localized("&Copy"), "copy", QKeySequence::Copy,
+              [this] { copyWhatHasTheFocus(with_.eventTable); });
+    addAction(menu, localized("Select &All Events"), "selectAll", QKeySequence::SelectAll,
+              [this] { with_.eventTable.selectAll(); });
+    menu.addAction(&with_.eventTable.openInCalendarAction());
+    menu.addSeparator();
+    addAction(menu, localized("&Find…"), "startSearch", QKeySequence::Find,
+              [this] { searchBox_->startSearch(); });
+    QMenu& places = *menu.addMenu(localized("Find &In"));
+    const auto fill = [this, &places] {
+        places.clear();
+        places.addActions(searchBox_->menu().actions());
+    };
+    // Each view has places of its own.
+    connect(&menu, &QMenu::aboutToShow, this, fill);
+    fill();
+    menu.addSeparator();
+    QAction* preferences =
+        addAction(menu, localized("&Preferences…"), "showPreferences",
+                  QKeySequence(Qt::CTRL | Qt::Key_Comma), [this] { showPreferences(); });
+    preferences->setMenuRole(QAction::PreferencesRole);
+}
+
+void MainWindow::makeViewMenu() {
+    QMenu& menu = *menuBar()->addMenu(localized("&View"));
+    addExportPaneAction(menu, localized("&Text Report"), QStringLiteral("isExportTXTViewOn"),
+                        QKeySequence(Qt::CTRL | Qt::Key_R));
+    addExportPaneAction(menu, localized("Event &Notes"), QStringLiteral("isNotesViewOn"),
+                        QKeySequence(Qt::CTRL | Qt::Key_E));
+    menu.addSeparator();
+    bindAction(*menu.addAction(localized("&Money")), with_.settings, QStringLiteral("isDollarsOn"));
+    menu.addSeparator();
+    auto* group = new QActionGroup(this);
+    const QString timeTypeKey = QStringLiteral("timeTypeSelection");
+    constexpr std::array texts{localizable("Time as &Hours"), localizable("Time as M&inutes"),
+                               localizable("Time as &Duration")};
+    for (qint64 number = 1; number <= static_cast<qint64>(texts.size()); ++number) {
+        QAction* action = menu.addAction(localized(texts[static_cast<std::size_t>(number - 1)]));
+        action->setCheckable(true);
+        action->setActionGroup(group);
+        const auto refresh = [this, action, number, timeTypeKey] {
+            action->setChecked(integerForKey(with_.settings, timeTypeKey) == number);
+        };
+        refresh();
+        observeWhileAlive(*action, with_.settings, timeTypeKey, refresh);
+        connect(action, &QAction::triggered, this,
+                [this, number, timeTypeKey] { with_.settings.setObject(timeTypeKey, number); });
+    }
+    menu.addSeparator();
+    makeColumnsMenu(menu);
+    makeColumnLayoutsMenu(menu);
+    addAction(menu, localized("Column &Preferences…"), "showWindowWithColumnsPreferencesView", {},
+              [this] { preferences_.controller().showWindowWithColumnsPreferencesView(); });
+    addAction(menu, localized("Te&xt Report Preferences…"), "showWindowWithTextPreferencesView", {},
+              [this] { preferences_.controller().showWindowWithTextPreferencesView(); });
+    addAction(menu, localized("Text Report P&resets…"), "openTXTSettingsSheet", {},
+              [this] { txtSettingsSheet_.controller().openTXTSettingsSheet(); });
+}
+
+void MainWindow::makeColumnsMenu(QMenu& menu) {
+    QMenu& columns = *menu.addMenu(localized("&Columns"));
+    const auto fill = [this, &columns] {
+        columns.clear();
+        fillColumnsMenu(columns, with_.settings, with_.timeColumnActions);
+        columns.addSeparator();
+        addAction(columns, localized("&Reset All Titles"), "resetAllColumnTitles", {},
+                  [this] { with_.eventItemViewController.resetAllColumnTitles(); });
+    };
+    // The users' own titles may change while the window is open.
+    connect(&columns, &QMenu::aboutToShow, this, fill);
+    fill();
+}
+
+void MainWindow::makeColumnLayoutsMenu(QMenu& menu) {
+    auto* layouts = new ColumnLayoutsMenu(with_.arrangements.columnLayouts, this);
+    menu.addMenu(layouts);
+    QAction* first = layouts->actions().front();
+    layouts->insertAction(
+        first, addAction(*layouts, localized("&Edit Layouts…"), "showColumnLayoutsPopover",
+                         QKeySequence(Qt::CTRL | Qt::Key_L), [this] {
+                             columnLayoutsPopover_.showColumnLayoutsPopover(*columnLayoutsButton_);
+                         }));
+    layouts->insertAction(
+        first,
+        addAction(*layouts, localized("&Save as New Layout"), "saveColumnLayout", {},
+                  [this] { columnLayoutsPopover_.saveColumnLayout(*columnLayoutsButton_); }));
+}
+
+void MainWindow::makePeriodMenu() {
+    QMenu& menu = *menuBar()->addMenu(localized("&Period"));
+    menu.addActions({previousAction_, currentAction_, nextAction_});
+    menu.addSeparator();
+    constexpr std::array texts{localizable("&Day"), localizable("&Week"), localizable("&Month"),
+                               localizable("&Year"), localizable("C&ustom")};
+    for (int kind = 0; kind < static_cast<int>(texts.size()); ++kind) {
+        QAction* action = addAction(
+            menu, localized(texts[static_cast<std::size_t>(kind)]), "setQuickDatePeriod",
+            QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + kind)), [this, kind] {
+                with_.dateInspectorController.choosePeriodKind(static_cast<PeriodKind>(kind));
+            });
+        enableWithPeriod(*action);
+    }
+}
+
+void MainWindow::makeCalendarsMenu() {
+    QMenu& menu = *menuBar()->addMenu(localized("&Calendars"));
+    addAction(menu, localized("&Add Calendar Folder or File…"), "addCalendar", QKeySequence::Open,
+              [this] { chooseCalendarToAdd(); });
+    addAction(menu, localized("Allow Calendar A&ccess…"), "requestEventCalendarsAccess", {},
+              with_.calendarActions.allowAccess);
+    addAction(menu, localized("Edit Calendar &Groups…"), "openCalendarGroupsSheet",
+              QKeySequence(Qt::CTRL | Qt::Key_G), [this] { groupChooser_->openSheet(); });
+    addAction(menu, localized("&Tick or Clear All"), "calendarTableViewClicked",
+              QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A), [this] {
+                  auto& calendars = with_.calendarsArrayController;
+                  if (calendars.arrangedCount() > 0 && calendars.selectedRows().empty()) {
+                      calendars.setSelectedRows({0});
+                  }
+                  calendars.calendarTableViewClicked(CalendarsArrayController::ControlKey::Held);
+              });
+}
+
+void MainWindow::makeHelpMenu() {
+    QMenu& menu = *menuBar()->addMenu(localized("&Help"));
+    addAction(menu, localized("&Release Notes"), "openReleaseNotes", {},
+              [this] { with_.appDelegate.openReleaseNotes(); });
+    addAction(menu, localized("&Web Site"), "openWebsite", {},
+              [this] { with_.appDelegate.openWebsite(); });
+    addAction(menu, localized("Check for &Updates…"), "checkForUpdates", {},
+              [this] { with_.appDelegate.checkForUpdates(); });
+    menu.addSeparator();
+    addAction(menu, localized("&About Quillet"), "showAbout", {}, [this] { showAbout(); });
+}
+
+void MainWindow::chooseCalendarToAdd() {
+    QMessageBox box(this);
+    box.setIcon(QMessageBox::Question);
+    box.setText(localized("What would you like to add?"));
+    box.setInformativeText(localized("A folder holds a calendar with one file an event; a file "
+                                     "holds a whole calendar."));
+    // Of two that accept, some desktops have one on each side of the button that cancels.
+    QPushButton* folder = box.addButton(localized("&Folder…"), QMessageBox::ActionRole);
+    QPushButton* file = box.addButton(localized("F&ile…"), QMessageBox::ActionRole);
+    box.addButton(QMessageBox::Cancel);
+    box.setDefaultButton(folder);
+    box.exec();
+    QString path;
+    if (box.clickedButton() == folder) {
+        path = QFileDialog::getExistingDirectory(this, localized("Add Calendar Folder"));
+    } else if (box.clickedButton() == file) {
+        path = QFileDialog::getOpenFileName(this, localized("Add Calendar File"), {},
+                                            localized("Calendars (*.ics)"));
+    }
+    if (!path.isEmpty()) {
+        addCalendar(path);
+    }
+}
+
+void MainWindow::addCalendar(const QString& path) {
+    if (const auto result = with_.calendarActions.addCalendar(path); !result) {
+        QMessageBox box(QMessageBox::Warning, {}, localized("The calendar could not be added"),
+                        QMessageBox::Ok, this);
+        box.setInformativeText(result.error());
+        showAsPlainText(box);
+        box.exec();
+    }
+}
+
+void MainWindow::showPreferences() {
+    preferences_.showWindow();
+}
+
+void MainWindow::showAbout() {
+    QMessageBox::about(this, localized("About Quillet"),
+                       localized("Quillet %1\n\nThe hours in your calendars, ready to bill.")
+                           .arg(QCoreApplication::applicationVersion()));
+}
+
+} // namespace quillet

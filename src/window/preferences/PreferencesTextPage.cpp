@@ -1,0 +1,86 @@
+#include "window/preferences/PreferencesTextPage.h"
+
+#include "texts/Localized.h"
+#include "window/preferences/SettingsBinding.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace quillet {
+
+namespace {
+
+/// In the order of the report's lines, so that the boxes look like the report.
+constexpr std::array<PreferencesSwitch, 10> headerSwitches{{
+    {"isTXTCalTitle", localizable("&Calendars"), localizable("The titles of the ticked calendars")},
+    {"isTXTBeginDate", localizable("&Beginning date"), localizable("The first day of the period")},
+    {"isTXTEndDate", localizable("E&nding date"), localizable("The last day of the period")},
+    {"isTXTTotalHours", localizable("&Total time"),
+     localizable("The sum in hours, minutes or as a duration")},
+    {"isTXTMin", localizable("S&hortest event"), nullptr},
+    {"isTXTMax", localizable("&Longest event"), nullptr},
+    {"isTXTAverage", localizable("&Average time"), localizable("The mean of an event")},
+    {"isTXTTotalDays", localizable("&Days"), localizable("On how many days there are events")},
+    {"isTXTTotalEvents", localizable("N&umber of events"), nullptr},
+    {"isTXTDollars", localizable("&Money"), localizable("Rate and cost, while money is shown")},
+}};
+
+constexpr std::array<PreferencesSwitch, 2> tableSwitches{{
+    {"isTXTWrapping", localizable("&Wrap long texts"),
+     localizable(
+         "Texts that are longer than their column go on in the next line; when off, they are cut")},
+    {"isTXTSummaryRow", localizable("&Summary row"),
+     localizable("A last row with the sums of the columns")},
+}};
+
+} // namespace
+
+PreferencesTextPage::PreferencesTextPage(SettingsStore& settings,
+                                         std::function<void()> openTXTSettingsSheet,
+                                         QWidget* parent)
+    : PreferencesPage(settings, parent) {
+    auto* layout = new QVBoxLayout(&body());
+    layout->addWidget(makeFreeText(localized("Te&xt above the report:"),
+                                   localized("Stands before everything else in the report"),
+                                   QStringLiteral("txtHeader")));
+    layout->addWidget(makeGroup(localized("Above the Table"), headerSwitches, 2));
+    layout->addWidget(makeGroup(localized("Table"), tableSwitches, 2));
+    layout->addWidget(makeFreeText(localized("Text below the repo&rt:"),
+                                   localized("Stands behind everything else in the report"),
+                                   QStringLiteral("txtFooter")));
+    auto* presets = new QPushButton(localized("&Presets…"), &body());
+    presets->setObjectName(QStringLiteral("openTXTSettingsSheet"));
+    presets->setToolTip(localized("Keeps all this under a name, and brings it back"));
+    presets->setAutoDefault(false);
+    connect(presets, &QPushButton::clicked, this, std::move(openTXTSettingsSheet));
+    layout->addWidget(presets, 0, Qt::AlignRight);
+    layout->addStretch(1);
+}
+
+QWidget* PreferencesTextPage::makeFreeText(const QString& label, const QString& toolTip,
+                                           const QString& key) {
+    auto* area = new QWidget(&body());
+    auto* layout = new QVBoxLayout(area);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(fontMetrics().height() / 4);
+    auto* text = new QPlainTextEdit(area);
+    text->setTabChangesFocus(true);
+    text->setAccessibleName(spokenLabel(label));
+    text->setToolTip(toolTip);
+    constexpr int shownLines = 3;
+    text->setFixedHeight(text->fontMetrics().lineSpacing() * shownLines +
+                         text->fontMetrics().height());
+    bindTextEdit(*text, settings(), key);
+    auto* caption = new QLabel(label, area);
+    caption->setBuddy(text);
+    layout->addWidget(caption);
+    layout->addWidget(text);
+    return area;
+}
+
+} // namespace quillet
