@@ -8,6 +8,10 @@ target_compile_definitions(quillet_options INTERFACE
 if(QUILLET_WARNINGS_AS_ERRORS)
   target_compile_options(quillet_options INTERFACE -Werror)
 endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+  # Without it ccache would compile anew whatever takes a precompiled header.
+  target_compile_options(quillet_options INTERFACE -fpch-preprocess)
+endif()
 if(QUILLET_SANITIZERS)
   target_compile_options(quillet_options INTERFACE
     -fsanitize=${QUILLET_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
@@ -16,6 +20,20 @@ endif()
 if(QUILLET_FUZZING)
   target_compile_options(quillet_options INTERFACE -fsanitize=fuzzer-no-link)
 endif()
+
+# quillet_precompiled(<name> LINKS <target>... HEADERS <header>...)
+#
+# A precompiled header that other targets take over. What stands in it is the toolkits' and the
+# language's alone, so that no change of the project touches it; scripts/style compiles every file
+# without it, so that each still includes what it uses.
+function(quillet_precompiled name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;HEADERS")
+  set(source ${CMAKE_BINARY_DIR}/${name}.cpp)
+  file(CONFIGURE OUTPUT ${source} CONTENT "// Carries the precompiled header.\n")
+  add_library(quillet_${name} STATIC ${source})
+  target_link_libraries(quillet_${name} PUBLIC ${arg_LINKS} PRIVATE quillet_options)
+  target_precompile_headers(quillet_${name} PRIVATE ${arg_HEADERS})
+endfunction()
 
 # quillet_sources(<variable> <folder> [<room>...]): the C++ files of a folder and of its rooms.
 function(quillet_sources variable folder)
@@ -27,13 +45,13 @@ function(quillet_sources variable folder)
   set(${variable} ${sources} PARENT_SCOPE)
 endfunction()
 
-# quillet_library(<folder below src> [ROOMS <subfolder>...] [LINKS <target>...])
+# quillet_library(<folder below src> [ROOMS <subfolder>...] [PRECOMPILED <name>] [LINKS <target>...])
 #
 # One library for one folder and for its rooms, where it has any. Its headers are reachable as "<folder>/<Header>.h", and only for
 # targets that link it: each library publishes a directory that holds nothing but its own folder.
 # So a forbidden include does not compile.
 function(quillet_library folder)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "ROOMS;LINKS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "PRECOMPILED" "ROOMS;LINKS")
   string(REPLACE "/" "_" suffix ${folder})
   set(target quillet_${suffix})
   quillet_sources(sources ${CMAKE_SOURCE_DIR}/src/${folder} ${arg_ROOMS})
@@ -43,6 +61,10 @@ function(quillet_library folder)
   endif()
   add_library(${target} STATIC ${sources})
   set_target_properties(${target} PROPERTIES AUTOMOC ON)
+  if(NOT arg_PRECOMPILED)
+    set(arg_PRECOMPILED precompiled_core)
+  endif()
+  target_precompile_headers(${target} REUSE_FROM quillet_${arg_PRECOMPILED})
 
   set(published ${CMAKE_BINARY_DIR}/include/${suffix})
   cmake_path(GET folder PARENT_PATH parent)
@@ -72,11 +94,11 @@ function(quillet_string_tables target)
   qt_add_resources(${target} string_tables PREFIX /translations BASE ${folder} FILES ${tables})
 endfunction()
 
-# quillet_tests(<folder below tests> [ROOMS <subfolder>...] [LINKS <target>...])
+# quillet_tests(<folder below tests> [ROOMS <subfolder>...] [PRECOMPILED <name>] [LINKS <target>...])
 #
 # One test program for one folder and its rooms: every *Test.cpp in them, registered test by test.
 function(quillet_tests folder)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "ROOMS;LINKS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "PRECOMPILED" "ROOMS;LINKS")
   string(REPLACE "/" "_" suffix ${folder})
   set(target ${suffix}_tests)
   set_property(GLOBAL APPEND PROPERTY quillet_test_folders ${folder})
@@ -89,7 +111,10 @@ function(quillet_tests folder)
   target_link_libraries(${target} PRIVATE ${arg_LINKS} quillet_test_support quillet_options)
   target_compile_definitions(${target} PRIVATE
     QUILLET_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/${folder}/data")
-  target_precompile_headers(${target} REUSE_FROM quillet_test_support)
+  if(NOT arg_PRECOMPILED)
+    set(arg_PRECOMPILED test_support)
+  endif()
+  target_precompile_headers(${target} REUSE_FROM quillet_${arg_PRECOMPILED})
   gtest_discover_tests(${target} TEST_PREFIX "${folder}/" DISCOVERY_MODE PRE_TEST
     PROPERTIES TIMEOUT 120)
 endfunction()
