@@ -1,6 +1,6 @@
 #include "window/calendars/GroupsSheet.h"
 
-#include "WindowFixture.h"
+#include "window/WindowFixture.h"
 
 #include "backends/settingsfile/SettingsFile.h"
 #include "window/calendars/GroupChooser.h"

@@ -1,6 +1,6 @@
 #include "window/events/SearchBox.h"
 
-#include "WindowFixture.h"
+#include "window/WindowFixture.h"
 
 #include "support/ExpectedLog.h"
 #include "window/widgets/EmptyState.h"

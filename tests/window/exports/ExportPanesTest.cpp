@@ -1,4 +1,4 @@
-#include "WindowFixture.h"
+#include "window/WindowFixture.h"
 
 #include "support/WaitUntil.h"
 #include "window/exports/ReportView.h"

@@ -1,4 +1,4 @@
-#include "WindowFixture.h"
+#include "window/WindowFixture.h"
 
 #include "app/StartupSettings.h"
 #include "backends/translations/Translations.h"

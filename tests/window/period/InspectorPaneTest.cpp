@@ -5,7 +5,7 @@
 #include "support/Fakes.h"
 #include "support/MemorySettings.h"
 
-#include "WindowFixture.h"
+#include "window/WindowFixture.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -1,6 +1,6 @@
 #include "window/widgets/PaneScroller.h"
 
-#include "WindowFixture.h"
+#include "window/WindowFixture.h"
 
 #include "window/period/InspectorPane.h"
 
