@@ -1,17 +1,13 @@
 #include "eventdata/BillingSettings.h"
 
 #include "eventdata/CalendarRecord.h"
+#include "platform/Settings.h"
 
 #include <algorithm>
 
 namespace quillet {
 
 namespace {
-
-const QString allDayHoursKey = QStringLiteral("allDayHours");
-const QString hourlyRateKey = QStringLiteral("hourlyRate");
-const QString isDollarsOnKey = QStringLiteral("isDollarsOn");
-const QString migrationKey = QStringLiteral("tempNumberRate");
 
 constexpr std::int64_t hoursOfADay = 24;
 /// No rule sets a lower bound; below this one sums could no longer be held.
@@ -28,26 +24,27 @@ BillingSettingsSource::BillingSettingsSource(SettingsStore& settings,
                                              const CalendarArithmetic& calendar)
     : settings_(settings)
     , calendar_(calendar) {
-    for (const char* key : {"filterStartDate", "filterEndDate", "allDayHours", "isSingleRate",
-                            "hourlyRate", "calendars", "isDollarsOn", "timeTypeSelection"}) {
-        observations_.push_back(
-            settings_.observe(QString::fromLatin1(key), [this] { snapshot_.reset(); }));
+    for (const SettingKey* key : settings::ofBilling) {
+        observations_.push_back(key->observe(settings_, [this] {
+            snapshot_.reset();
+            Q_EMIT changed();
+        }));
     }
 }
 
 void BillingSettingsSource::migrateHourlyRate() {
-    if (hasKey(settings_, migrationKey)) {
+    if (settings::tempNumberRate.isStored(settings_)) {
         return;
     }
-    if (!hasKey(settings_, hourlyRateKey)) {
-        settings_.setObject(migrationKey, QVariant::fromValue(Decimal::fromInteger(1)));
+    if (!settings::hourlyRate.isStored(settings_)) {
+        settings::tempNumberRate.reset(settings_);
         return;
     }
-    QString text = stringForKey(settings_, hourlyRateKey);
+    QString text = stringForKey(settings_, settings::hourlyRate.name());
     text.replace(u',', u'.');
-    settings_.setObject(migrationKey, text);
-    settings_.remove(hourlyRateKey);
-    settings_.setObject(hourlyRateKey, doubleFromValue(text));
+    settings_.setObject(settings::tempNumberRate.name(), text);
+    settings_.remove(settings::hourlyRate.name());
+    settings_.setObject(settings::hourlyRate.name(), doubleFromValue(text));
 }
 
 const BillingSettings& BillingSettingsSource::current() {
@@ -59,29 +56,28 @@ const BillingSettings& BillingSettingsSource::current() {
 }
 
 void BillingSettingsSource::repairSettings() {
-    if (!hasKey(settings_, allDayHoursKey) ||
-        integerForKey(settings_, allDayHoursKey) > hoursOfADay) {
-        settings_.setObject(allDayHoursKey, QVariant::fromValue<qint64>(hoursOfADay));
+    if (!settings::allDayHours.isStored(settings_) ||
+        settings::allDayHours.read(settings_) > hoursOfADay) {
+        settings::allDayHours.write(settings_, hoursOfADay);
     }
-    if (boolForKey(settings_, isDollarsOnKey)) {
-        setIfAbsent(settings_, hourlyRateKey, QVariant::fromValue(Decimal()));
+    if (settings::isDollarsOn.read(settings_)) {
+        settings::hourlyRate.writeIfAbsent(settings_);
     }
 }
 
 BillingSettings BillingSettingsSource::taken() const {
     BillingSettings result;
-    if (const auto start = dateForKey(settings_, QStringLiteral("filterStartDate"))) {
+    if (const auto start = settings::filterStartDate.read(settings_)) {
         result.periodStart = calendar_.startOfDay(*start);
     }
-    if (const auto end = dateForKey(settings_, QStringLiteral("filterEndDate"))) {
+    if (const auto end = settings::filterEndDate.read(settings_)) {
         result.periodEnd = calendar_.startOfDay(*end) + lengthOfADay;
     }
-    result.allDayHours =
-        std::max<std::int64_t>(integerForKey(settings_, allDayHoursKey), fewestHours);
-    result.isMoneyOn = boolForKey(settings_, isDollarsOnKey);
-    result.isMoneyFromHours = integerForKey(settings_, QStringLiteral("timeTypeSelection")) == 1;
-    result.isSingleRate = boolForKey(settings_, QStringLiteral("isSingleRate"));
-    const Decimal single = decimalFromValue(settings_.object(hourlyRateKey));
+    result.allDayHours = std::max<std::int64_t>(settings::allDayHours.read(settings_), fewestHours);
+    result.isMoneyOn = settings::isDollarsOn.read(settings_);
+    result.isMoneyFromHours = settings::timeTypeSelection.read(settings_) == 1;
+    result.isSingleRate = settings::isSingleRate.read(settings_);
+    const Decimal single = settings::hourlyRate.read(settings_);
     result.singleRate = single.isNaN() ? Decimal() : billableRate(single);
     for (const CalendarRecord& record : storedCalendarRecords(settings_)) {
         // A later record of the same calendar wins.

@@ -7,6 +7,7 @@
 #include "platform/SettingsStore.h"
 
 #include <QHash>
+#include <QObject>
 #include <QString>
 
 #include <optional>
@@ -38,7 +39,9 @@ struct BillingSettings {
 [[nodiscard]] Decimal billableRate(const Decimal& storedRate);
 
 /// Keeps the snapshot of the billing settings that is current. Main thread only.
-class BillingSettingsSource {
+class BillingSettingsSource : public QObject {
+    Q_OBJECT
+
 public:
     /// The calendar is the Gregorian one in the system time zone. Observes the keys that the
     /// snapshot depends on, so that whoever observes them later already finds the new snapshot.
@@ -51,6 +54,11 @@ public:
     /// The snapshot of the settings as they are. Taking it writes `allDayHours` = 24 where that is
     /// absent or above, and `hourlyRate` = 0 where money is on and it is absent.
     [[nodiscard]] const BillingSettings& current();
+
+Q_SIGNALS:
+    /// A setting that figures depend on was written: all of them may have changed. Comes before the
+    /// observers of that setting that registered later, and finds the new snapshot.
+    void changed();
 
 private:
     void repairSettings();

@@ -1,11 +1,10 @@
 #include "results/EventResultsViewController.h"
 
+#include "platform/Settings.h"
+
 namespace quillet {
 
 namespace {
-
-const QString timeTypeKey = QStringLiteral("timeTypeSelection");
-const QString tabKey = QStringLiteral("totalsTabViewSelection");
 
 /// Every character that ends a line.
 const QString newlineCharacters = QStringLiteral("\n\v\f\r\u0085\u2028\u2029");
@@ -18,10 +17,10 @@ EventResultsViewController::EventResultsViewController(const Collaborators& coll
     : with_(collaborators) {}
 
 void EventResultsViewController::awakeFromNib() {
-    with_.settings.setObject(tabKey, qint64(0));
-    setIfAbsent(with_.settings, timeTypeKey, qint64(1));
-    observations_.push_back(
-        with_.settings.observe(timeTypeKey, [this] { observeValueForKeyPath(timeTypeKey); }));
+    settings::totalsTabViewSelection.reset(with_.settings);
+    settings::timeTypeSelection.writeIfAbsent(with_.settings);
+    observations_.push_back(settings::timeTypeSelection.observe(
+        with_.settings, [this] { observeValueForKeyPath(settings::timeTypeSelection.name()); }));
     followValues();
     with_.panel.installTabContent(ResultsTab::AllEvents);
     with_.panel.installTabContent(ResultsTab::SelectedEvents);
@@ -30,7 +29,7 @@ void EventResultsViewController::awakeFromNib() {
 }
 
 void EventResultsViewController::observeValueForKeyPath(const QString& keyPath) {
-    if (keyPath == timeTypeKey) {
+    if (keyPath == settings::timeTypeSelection.name()) {
         setHiddenControls();
     }
 }
@@ -39,7 +38,7 @@ void EventResultsViewController::setHiddenControls() {
     Q_EMIT isHoursHiddenWillChange();
     Q_EMIT isMinutesHiddenWillChange();
     Q_EMIT isDurationHiddenWillChange();
-    const qint64 selection = integerForKey(with_.settings, timeTypeKey);
+    const qint64 selection = settings::timeTypeSelection.read(with_.settings);
     if (selection >= 1 && selection <= 3) {
         const auto timeType = static_cast<TimeType>(selection);
         isHoursHidden_ = timeType != TimeType::Hours;
@@ -60,11 +59,8 @@ void EventResultsViewController::configureTokenFields() {
 }
 
 void EventResultsViewController::followValues() {
-    for (const char* key : {"filterStartDate", "filterEndDate", "allDayHours", "isSingleRate",
-                            "hourlyRate", "calendars", "isDollarsOn", "timeTypeSelection"}) {
-        observations_.push_back(
-            with_.settings.observe(QString::fromLatin1(key), [this] { forgetTotals(); }));
-    }
+    connect(&with_.billing, &BillingSettingsSource::changed, this,
+            &EventResultsViewController::forgetTotals);
     const auto& list = with_.eventsArrayController;
     connect(&list, &ListControllerNotices::arrangedObjectsChanged, this,
             &EventResultsViewController::forgetTotals);
