@@ -4,6 +4,7 @@
 #include "export/ExportNames.h"
 #include "export/ExportSelection.h"
 #include "export/ExportedEvents.h"
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 
 namespace quillet {
@@ -23,16 +24,13 @@ std::vector<ExportColumn> visibleColumns(ColumnTable& table) {
 
 /// TSV goes by the same keys as CSV.
 DelimitedSettings storedSettings(const SettingsStore& settings) {
-    const auto isOn = [&](const char* key) {
-        return boolForKey(settings, QString::fromLatin1(key));
-    };
-    return {.hasHeader = isOn("isCSVHeader"),
-            .includesIdentifier = isOn("isCSVIncludeUID"),
-            .quotesTitle = isOn("isCSVQuotesForTitle"),
-            .quotesNotes = isOn("isCSVQuotesForNote"),
-            .quotesLocation = isOn("isCSVQuotesForLocation"),
-            .quotesCalendar = isOn("isCSVQuotesForCalendar"),
-            .removesReturns = isOn("isCSVRemoveReturns")};
+    return {.hasHeader = settings::isCSVHeader.read(settings),
+            .includesIdentifier = settings::isCSVIncludeUID.read(settings),
+            .quotesTitle = settings::isCSVQuotesForTitle.read(settings),
+            .quotesNotes = settings::isCSVQuotesForNote.read(settings),
+            .quotesLocation = settings::isCSVQuotesForLocation.read(settings),
+            .quotesCalendar = settings::isCSVQuotesForCalendar.read(settings),
+            .removesReturns = settings::isCSVRemoveReturns.read(settings)};
 }
 
 } // namespace

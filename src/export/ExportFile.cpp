@@ -1,6 +1,7 @@
 #include "export/ExportFile.h"
 
 #include "platform/Logging.h"
+#include "platform/Settings.h"
 
 #include <QStandardPaths>
 
@@ -9,9 +10,8 @@ namespace quillet {
 namespace {
 
 TextEncoding chosenEncoding(const SettingsStore& settings) {
-    return integerForKey(settings, QStringLiteral("fileEncodingPopUpIndex")) == 1
-               ? TextEncoding::Utf16
-               : TextEncoding::Utf8;
+    return settings::fileEncodingPopUpIndex.read(settings) == 1 ? TextEncoding::Utf16
+                                                                : TextEncoding::Utf8;
 }
 
 } // namespace

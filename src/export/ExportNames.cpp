@@ -1,5 +1,7 @@
 #include "export/ExportNames.h"
 
+#include "platform/Settings.h"
+
 namespace quillet {
 
 QString formatFileNameDate(const LocaleFormats& formats, Instant date) {
@@ -15,11 +17,12 @@ QString formatEmailNameDate(const LocaleFormats& formats, Instant date) {
 
 QString periodName(const SettingsStore& settings, const LocaleFormats& formats,
                    QString (*formatDate)(const LocaleFormats&, Instant)) {
-    const auto date = [&](const char* key) {
-        const auto stored = dateForKey(settings, QString::fromLatin1(key));
+    const auto date = [&](const Setting<Instant>& setting) {
+        const auto stored = setting.read(settings);
         return stored ? formatDate(formats, *stored) : QStringLiteral("(null)");
     };
-    return QStringLiteral("%1 - %2").arg(date("filterStartDate"), date("filterEndDate"));
+    return QStringLiteral("%1 - %2").arg(date(settings::filterStartDate),
+                                         date(settings::filterEndDate));
 }
 
 } // namespace quillet

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "platform/SettingsStore.h"
+#include "platform/Settings.h"
 
 namespace quillet {
 
 /// Whether exports hold the selected events only: `totalsTabViewSelection` is 1.
 [[nodiscard]] inline bool areOnlySelectedEventsExported(const SettingsStore& settings) {
-    return integerForKey(settings, QStringLiteral("totalsTabViewSelection")) == 1;
+    return settings::totalsTabViewSelection.read(settings) == 1;
 }
 
 } // namespace quillet

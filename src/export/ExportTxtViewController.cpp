@@ -4,6 +4,7 @@
 #include "eventtable/EventColumns.h"
 #include "export/TextReportHeader.h"
 #include "export/TextReportTable.h"
+#include "platform/Settings.h"
 
 #include <algorithm>
 
@@ -33,39 +34,35 @@ ExportTxtViewController::ExportTxtViewController(const Collaborators& collaborat
             &ExportTxtViewController::eventsAttributedStringChanged);
 }
 
-bool ExportTxtViewController::isOn(const char* key) const {
-    return boolForKey(with_.settings, QString::fromLatin1(key));
-}
-
-QString ExportTxtViewController::text(const char* key) const {
-    return stringForKey(with_.settings, QString::fromLatin1(key));
-}
-
 std::vector<ReportColumn> ExportTxtViewController::visibleColumns() const {
     std::vector<ReportColumn> columns;
     for (int position = 0; position < with_.eventItemTableView.columnCount(); ++position) {
         const TableColumn& column = with_.eventItemTableView.columnAt(position);
         if (!column.isHidden()) {
             const char* const titleKey = titleKeyOf(column.identifier());
-            columns.push_back({.identifier = column.identifier(),
-                               .title = titleKey == nullptr ? QString() : text(titleKey),
-                               .length = reportColumnLength(column.widthPoints())});
+            columns.push_back(
+                {.identifier = column.identifier(),
+                 .title = titleKey == nullptr
+                              ? QString()
+                              : stringForKey(with_.settings, QString::fromLatin1(titleKey)),
+                 .length = reportColumnLength(column.widthPoints())});
         }
     }
     return columns;
 }
 
 ReportHeaderSwitches ExportTxtViewController::headerSwitches() const {
-    return {.hasCalendarTitles = isOn("isTXTCalTitle"),
-            .hasBeginDate = isOn("isTXTBeginDate"),
-            .hasEndDate = isOn("isTXTEndDate"),
-            .hasTotalHours = isOn("isTXTTotalHours"),
-            .hasMinimum = isOn("isTXTMin"),
-            .hasMaximum = isOn("isTXTMax"),
-            .hasAverage = isOn("isTXTAverage"),
-            .hasTotalDays = isOn("isTXTTotalDays"),
-            .hasTotalEvents = isOn("isTXTTotalEvents"),
-            .hasMoney = isOn("isTXTDollars")};
+    const SettingsStore& settings = with_.settings;
+    return {.hasCalendarTitles = settings::isTXTCalTitle.read(settings),
+            .hasBeginDate = settings::isTXTBeginDate.read(settings),
+            .hasEndDate = settings::isTXTEndDate.read(settings),
+            .hasTotalHours = settings::isTXTTotalHours.read(settings),
+            .hasMinimum = settings::isTXTMin.read(settings),
+            .hasMaximum = settings::isTXTMax.read(settings),
+            .hasAverage = settings::isTXTAverage.read(settings),
+            .hasTotalDays = settings::isTXTTotalDays.read(settings),
+            .hasTotalEvents = settings::isTXTTotalEvents.read(settings),
+            .hasMoney = settings::isTXTDollars.read(settings)};
 }
 
 TextReportContent ExportTxtViewController::content(ReportScope scope) const {
@@ -77,23 +74,24 @@ TextReportContent ExportTxtViewController::content(ReportScope scope) const {
     content.events = scope == ReportScope::SelectedEvents ? ExportedEvents::selected(list)
                                                           : ExportedEvents::arranged(list);
     content.billing = with_.fields.billing();
-    content.wrapping = isOn("isTXTWrapping") ? CellWrapping::On : CellWrapping::Off;
-    content.hasSummaryRow = isOn("isTXTSummaryRow");
+    content.wrapping =
+        settings::isTXTWrapping.read(settings) ? CellWrapping::On : CellWrapping::Off;
+    content.hasSummaryRow = settings::isTXTSummaryRow.read(settings);
     content.header = headerSwitches();
-    content.timeType = integerForKey(settings, QStringLiteral("timeTypeSelection"));
-    content.headerText = text("txtHeader");
-    content.footerText = text("txtFooter");
+    content.timeType = settings::timeTypeSelection.read(settings);
+    content.headerText = settings::txtHeader.read(settings);
+    content.footerText = settings::txtFooter.read(settings);
     const auto& calendars = with_.calendarsArrayController;
     for (std::size_t row = 0; row < calendars.arrangedCount(); ++row) {
         if (calendars.arranged(row).isSelected) {
             content.calendarTitles << calendars.arranged(row).title;
         }
     }
-    content.calendarColumnTitle = text("calendarColumnTitle");
-    content.periodStart = dateForKey(settings, QStringLiteral("filterStartDate"));
-    content.periodEnd = dateForKey(settings, QStringLiteral("filterEndDate"));
-    if (const QVariant rate = settings.object(QStringLiteral("hourlyRate")); rate.isValid()) {
-        content.hourlyRate = decimalFromValue(rate);
+    content.calendarColumnTitle = settings::calendarColumnTitle.read(settings);
+    content.periodStart = settings::filterStartDate.read(settings);
+    content.periodEnd = settings::filterEndDate.read(settings);
+    if (settings::hourlyRate.isStored(settings)) {
+        content.hourlyRate = settings::hourlyRate.read(settings);
     }
     content.formats = &with_.fields.formats();
     content.calendar = &with_.fields.gregorian();
@@ -115,7 +113,7 @@ ExportTxtViewController::eventsAttributedString(const ExportProgress& progress) 
 }
 
 std::optional<QString> ExportTxtViewController::shownText(const ExportProgress& progress) const {
-    if (eventTextView_ && isOn("isExportTXTViewOn")) {
+    if (eventTextView_ && settings::isExportTXTViewOn.read(with_.settings)) {
         if (auto shown = eventTextView_()) {
             return shown;
         }
@@ -140,7 +138,8 @@ QString ExportTxtViewController::summaryRow() const {
 QString ExportTxtViewController::makeCellWithString(const QString& text, qsizetype columnLength,
                                                     std::size_t iteration) const {
     return reportCell(text, columnLength, iteration,
-                      isOn("isTXTWrapping") ? CellWrapping::On : CellWrapping::Off);
+                      settings::isTXTWrapping.read(with_.settings) ? CellWrapping::On
+                                                                   : CellWrapping::Off);
 }
 
 QString ExportTxtViewController::totalDuration() const {

@@ -90,8 +90,6 @@ private:
     [[nodiscard]] TextReportContent content(ReportScope scope) const;
     [[nodiscard]] std::vector<ReportColumn> visibleColumns() const;
     [[nodiscard]] ReportHeaderSwitches headerSwitches() const;
-    [[nodiscard]] bool isOn(const char* key) const;
-    [[nodiscard]] QString text(const char* key) const;
 
     Collaborators with_;
     TextReportRefresh refresh_;

@@ -1,23 +1,32 @@
 #include "export/TXTSettings.h"
 
+#include "platform/Settings.h"
+
 namespace quillet {
 
-const std::array<TXTSwitch, txtSwitchCount>& txtSwitches() {
-    static constexpr std::array<TXTSwitch, txtSwitchCount> switches{{
-        {"isTXTWrapping", "txtSettingsIsTXTWrapping", true, nullptr},
-        {"isTXTSummaryRow", "txtSettingsIsTXTSummaryRow", true, "isMailSummaryRow"},
-        {"isTXTTotalEvents", "txtSettingsIsTXTTotalEvents", false, "isMailTotalEvents"},
-        {"isTXTDollars", "txtSettingsIsTXTDollars", true, "isMailDollars"},
-        {"isTXTTotalHours", "txtSettingsIsTXTTotalHours", true, "isMailTotalHours"},
-        {"isTXTMax", "txtSettingsIsTXTMax", false, "isMailMax"},
-        {"isTXTMin", "txtSettingsIsTXTMin", false, "isMailMin"},
-        {"isTXTAverage", "txtSettingsIsTXTAverage", false, "isMailAverage"},
-        {"isTXTEndDate", "txtSettingsIsTXTEndDate", true, "isMailEndDate"},
-        {"isTXTBeginDate", "txtSettingsIsTXTBeginDate", true, "isMailBeginDate"},
-        {"isTXTCalTitle", "txtSettingsIsTXTCalTitle", true, "isMailCalTitle"},
-        {"isTXTTotalDays", "txtSettingsIsTXTTotalDays", false, nullptr},
-    }};
+std::span<const TXTSwitch> txtSwitches() {
+    using namespace settings;
+    static constexpr auto switches = std::to_array<TXTSwitch>({
+        {&isTXTWrapping, nullptr},
+        {&isTXTSummaryRow, &isMailSummaryRow},
+        {&isTXTTotalEvents, &isMailTotalEvents},
+        {&isTXTDollars, &isMailDollars},
+        {&isTXTTotalHours, &isMailTotalHours},
+        {&isTXTMax, &isMailMax},
+        {&isTXTMin, &isMailMin},
+        {&isTXTAverage, &isMailAverage},
+        {&isTXTEndDate, &isMailEndDate},
+        {&isTXTBeginDate, &isMailBeginDate},
+        {&isTXTCalTitle, &isMailCalTitle},
+        {&isTXTTotalDays, nullptr},
+    });
     return switches;
+}
+
+QString presetMember(const SettingKey& setting) {
+    QString key = setting.name();
+    key[0] = key[0].toUpper();
+    return settings::txtSettings.name() + key;
 }
 
 } // namespace quillet

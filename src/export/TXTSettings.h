@@ -1,24 +1,24 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
+#include "platform/Setting.h"
+
+#include <span>
 
 namespace quillet {
 
-/// One switch of the text report, and its member in a preset.
+/// One switch of the text report.
 struct TXTSwitch {
-    /// The settings key that the report reads.
-    const char* reportKey;
-    /// The member of a stored preset.
-    const char* presetKey;
-    bool isOnByDefault;
-    /// The settings key of a version that had a report for mails; null where it had none.
-    const char* legacyKey;
+    /// What the report reads.
+    const Setting<bool>* report;
+    /// The setting of a version that had a report for mails; null where it had none.
+    const Setting<bool>* legacy;
 };
 
-inline constexpr std::size_t txtSwitchCount = 12;
-
 /// In the order in which applying a preset writes them.
-[[nodiscard]] const std::array<TXTSwitch, txtSwitchCount>& txtSwitches();
+[[nodiscard]] std::span<const TXTSwitch> txtSwitches();
+
+/// Under which name a stored preset has the value of a setting, made of the keys of the list and of
+/// the setting: "txtSettingsIsTXTMax".
+[[nodiscard]] QString presetMember(const SettingKey& setting);
 
 } // namespace quillet

@@ -1,6 +1,7 @@
 #include "export/TXTSettingsArrayController.h"
 
 #include "export/TXTSettings.h"
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 
 #include <algorithm>
@@ -9,20 +10,12 @@ namespace quillet {
 
 namespace {
 
-const QString isDefaultCreatedKey = QStringLiteral("isDefaultTXTSettingsCreated");
-const QString isApplyingKey = QStringLiteral("isApplyTXTSettingsOn");
-const QString wrappingKey = QStringLiteral("isTXTWrapping");
-const QString headerKey = QStringLiteral("txtHeader");
-const QString footerKey = QStringLiteral("txtFooter");
-const QString headerMember = QStringLiteral("txtSettingsTxtHeader");
-const QString footerMember = QStringLiteral("txtSettingsTxtFooter");
-const QString legacyHeaderKey = QStringLiteral("mailHeader");
-const QString legacyFooterKey = QStringLiteral("mailFooter");
-
-QVariant taken(SettingsStore& settings, const QString& key) {
-    const QVariant value = settings.object(key);
-    if (value.isValid()) {
-        settings.remove(key);
+/// The value of an old version's setting, which is removed.
+template <typename Value>
+Value taken(SettingsStore& settings, const Setting<Value>& legacy) {
+    const Value value = legacy.read(settings);
+    if (legacy.isStored(settings)) {
+        settings.remove(legacy.name());
     }
     return value;
 }
@@ -32,18 +25,17 @@ template <typename IsOn>
 QVariantMap presetMembers(const IsOn& isOn, const QString& header, const QString& footer) {
     QVariantMap members;
     for (const TXTSwitch& each : txtSwitches()) {
-        members.insert(QString::fromLatin1(each.presetKey), isOn(each));
+        members.insert(presetMember(*each.report), isOn(each));
     }
-    members.insert(headerMember, presentText(header));
-    members.insert(footerMember, presentText(footer));
+    members.insert(presetMember(settings::txtHeader), presentText(header));
+    members.insert(presetMember(settings::txtFooter), presentText(footer));
     return members;
 }
 
 bool hasLegacySettings(const SettingsStore& settings) {
-    return hasKey(settings, legacyHeaderKey) || hasKey(settings, legacyFooterKey) ||
+    return settings::mailHeader.isStored(settings) || settings::mailFooter.isStored(settings) ||
            std::ranges::any_of(txtSwitches(), [&](const TXTSwitch& each) {
-               return each.legacyKey != nullptr &&
-                      hasKey(settings, QString::fromLatin1(each.legacyKey));
+               return each.legacy != nullptr && each.legacy->isStored(settings);
            });
 }
 
@@ -53,16 +45,16 @@ TXTSettingsArrayController::TXTSettingsArrayController(SettingsStore& settings,
                                                        AlertPresenter& alerts)
     : NamedRecordsController(
           settings, alerts,
-          {.listKey = QStringLiteral("txtSettings"),
+          {.listKey = settings::txtSettings.name(),
            .nameMember = QStringLiteral("txtSettingsName"),
            .firstStaysMessage = localizable("Cannot delete Default settings"),
            .firstStaysReason = localizable("Default settings cannot be deleted.")}) {}
 
 void TXTSettingsArrayController::awakeFromNib() {
     followStoredList();
-    if (!hasKey(settings(), isDefaultCreatedKey)) {
+    if (!settings::isDefaultTXTSettingsCreated.isStored(settings())) {
         createDefaultTXTSettings();
-        settings().setObject(isDefaultCreatedKey, true);
+        settings::isDefaultTXTSettingsCreated.reset(settings());
     }
     if (hasLegacySettings(settings())) {
         migrateMailSettings();
@@ -71,32 +63,29 @@ void TXTSettingsArrayController::awakeFromNib() {
 }
 
 void TXTSettingsArrayController::createDefaultTXTSettings() {
-    append(localized("Default"),
-           presetMembers([](const TXTSwitch& each) { return each.isOnByDefault; }, {}, {}));
+    append(
+        localized("Default"),
+        presetMembers([](const TXTSwitch& each) { return each.report->firstRunValue(); }, {}, {}));
 }
 
 void TXTSettingsArrayController::migrateMailSettings() {
     const auto isOn = [this](const TXTSwitch& each) {
-        if (each.legacyKey != nullptr) {
-            return boolFromValue(taken(settings(), QString::fromLatin1(each.legacyKey)));
+        if (each.legacy != nullptr) {
+            return taken(settings(), *each.legacy);
         }
         // Wrapping had no switch of its own; the days had none at all and stay off.
-        const QString key = QString::fromLatin1(each.reportKey);
-        return key == wrappingKey && boolForKey(settings(), key);
+        return each.report == &settings::isTXTWrapping && each.report->read(settings());
     };
-    const QVariantMap members =
-        presetMembers(isOn, stringFromValue(taken(settings(), legacyHeaderKey)),
-                      stringFromValue(taken(settings(), legacyFooterKey)));
+    const QVariantMap members = presetMembers(isOn, taken(settings(), settings::mailHeader),
+                                              taken(settings(), settings::mailFooter));
     append(localized("Mail"), members);
 }
 
 void TXTSettingsArrayController::createTXTSettings() {
-    const auto isOn = [this](const TXTSwitch& each) {
-        return boolForKey(settings(), QString::fromLatin1(each.reportKey));
-    };
+    const auto isOn = [this](const TXTSwitch& each) { return each.report->read(settings()); };
     append(numberedName(localized("New Settings")),
-           presetMembers(isOn, stringForKey(settings(), headerKey),
-                         stringForKey(settings(), footerKey)));
+           presetMembers(isOn, settings::txtHeader.read(settings()),
+                         settings::txtFooter.read(settings())));
 }
 
 void TXTSettingsArrayController::saveTXTSettings() {
@@ -113,20 +102,19 @@ void TXTSettingsArrayController::applyTXTSettings() {
         return;
     }
     const QVariantMap members = arranged(selectedRows().front()).members;
-    settings().setObject(isApplyingKey, true);
+    settings::isApplyTXTSettingsOn.write(settings(), true);
     for (const TXTSwitch& each : txtSwitches()) {
-        const QVariant value = members.value(QString::fromLatin1(each.presetKey));
+        const QVariant value = members.value(presetMember(*each.report));
         if (isReadableMember(value)) {
-            settings().setObject(QString::fromLatin1(each.reportKey), boolFromValue(value));
+            each.report->write(settings(), boolFromValue(value));
         }
     }
-    for (const auto& [key, member] :
-         {std::pair{headerKey, headerMember}, {footerKey, footerMember}}) {
-        if (const QVariant value = members.value(member); isReadableMember(value)) {
-            settings().setObject(key, stringFromValue(value));
+    for (const Setting<QString>* text : {&settings::txtHeader, &settings::txtFooter}) {
+        if (const QVariant value = members.value(presetMember(*text)); isReadableMember(value)) {
+            text->write(settings(), stringFromValue(value));
         }
     }
-    settings().setObject(isApplyingKey, false);
+    settings::isApplyTXTSettingsOn.write(settings(), false);
 }
 
 void TXTSettingsArrayController::removeTXTSettings() {

@@ -3,17 +3,12 @@
 #include "export/ExportFile.h"
 #include "export/ExportNames.h"
 #include "export/MailScript.h"
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 
 #include <tuple>
 
 namespace quillet {
-
-namespace {
-
-const QString noticeKey = QStringLiteral("safari50ExportNotice");
-
-} // namespace
 
 QString TextExport::titledPeriod(FormatDate formatDate) const {
     const QString period = periodName(with_.settings, with_.formats, formatDate);
@@ -45,7 +40,7 @@ bool TextExport::isScriptingOfStylesBroken() const {
 }
 
 void TextExport::showBrowserNotice() {
-    if (hasKey(with_.settings, noticeKey)) {
+    if (settings::safari50ExportNotice.isStored(with_.settings)) {
         return;
     }
     constexpr int ignore = 1;
@@ -59,7 +54,7 @@ void TextExport::showBrowserNotice() {
                        "message to Monaco, size 10.\n"),
          .buttonTitles = {localized("Close"), localized("Ignore")}});
     if (chosen == ignore) {
-        with_.settings.setObject(noticeKey, true);
+        settings::safari50ExportNotice.write(with_.settings, true);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "eventtable/EventColumns.h"
 #include "export/ExportSelection.h"
 #include "export/TXTSettings.h"
+#include "platform/Settings.h"
 
 #include <QStringList>
 
@@ -10,23 +11,19 @@ namespace quillet {
 
 namespace {
 
-constexpr const char* isApplyingPreset = "isApplyTXTSettingsOn";
-constexpr const char* isApplyingLayout = "isApplyColumnLayoutOn";
-constexpr const char* isPaneOpen = "isExportTXTViewOn";
-
 QStringList observedKeys() {
-    QStringList keys{isApplyingPreset, isApplyingLayout, "hiddenColumnsChangedTrigger"};
+    using namespace settings;
+    QStringList keys{isApplyTXTSettingsOn.name(), isApplyColumnLayoutOn.name(),
+                     hiddenColumnsChangedTrigger.name()};
     for (const EventColumn& column : eventColumns()) {
         keys << QString::fromLatin1(column.titleKey);
     }
-    keys << "isDollarsOn"
-         << "isSingleRate";
+    keys << isDollarsOn.name() << isSingleRate.name();
     for (const TXTSwitch& each : txtSwitches()) {
-        keys << QString::fromLatin1(each.reportKey);
+        keys << each.report->name();
     }
-    return keys << "txtHeader"
-                << "txtFooter"
-                << "totalsTabViewSelection" << isPaneOpen;
+    return keys << txtHeader.name() << txtFooter.name() << totalsTabViewSelection.name()
+                << isExportTXTViewOn.name();
 }
 
 } // namespace
@@ -37,8 +34,8 @@ TextReportRefresh::TextReportRefresh(SettingsStore& settings,
     , events_(eventsArrayController) {}
 
 void TextReportRefresh::awakeFromNib() {
-    setIfAbsent(settings_, QStringLiteral("totalsTabViewSelection"), qint64(0));
-    settings_.setObject(QString::fromLatin1(isApplyingPreset), false);
+    settings::totalsTabViewSelection.writeIfAbsent(settings_);
+    settings::isApplyTXTSettingsOn.reset(settings_);
     for (const QString& key : observedKeys()) {
         observations_.push_back(settings_.observe(key, [this] { updateEventsAttributedString(); }));
     }
@@ -54,20 +51,19 @@ void TextReportRefresh::selectionChanged() {
     }
 }
 
-bool TextReportRefresh::isOn(const char* key) const {
-    return boolForKey(settings_, QString::fromLatin1(key));
-}
-
 void TextReportRefresh::updateEventsAttributedString() {
-    setIfAbsent(settings_, QString::fromLatin1(isPaneOpen), false);
-    if (isOn(isPaneOpen) && !isOn(isApplyingPreset) && !isOn(isApplyingLayout)) {
+    settings::isExportTXTViewOn.writeIfAbsent(settings_);
+    if (settings::isExportTXTViewOn.read(settings_) &&
+        !settings::isApplyTXTSettingsOn.read(settings_) &&
+        !settings::isApplyColumnLayoutOn.read(settings_)) {
         Q_EMIT eventsAttributedStringChanged();
     }
 }
 
 void TextReportRefresh::tableViewChanged() {
-    setIfAbsent(settings_, QString::fromLatin1(isPaneOpen), false);
-    if (isOn(isPaneOpen) && !isOn(isApplyingLayout)) {
+    settings::isExportTXTViewOn.writeIfAbsent(settings_);
+    if (settings::isExportTXTViewOn.read(settings_) &&
+        !settings::isApplyColumnLayoutOn.read(settings_)) {
         Q_EMIT eventsAttributedStringChanged();
     }
 }

@@ -31,7 +31,6 @@ Q_SIGNALS:
     void eventsAttributedStringChanged();
 
 private:
-    [[nodiscard]] bool isOn(const char* key) const;
     void selectionChanged();
 
     SettingsStore& settings_;
