@@ -2,6 +2,7 @@
 
 #include "app/StartupSettings.h"
 #include "platform/Logging.h"
+#include "platform/Settings.h"
 
 #include <QUrl>
 
@@ -34,7 +35,7 @@ void AppDelegate::awakeFromNib() {
 }
 
 void AppDelegate::accessGranted() {
-    with_.settings.setObject(QStringLiteral("isCalendarAccessGranted"), true);
+    settings::isCalendarAccessGranted.write(with_.settings, true);
 }
 
 void AppDelegate::checkForUpdates() {

@@ -1,59 +1,51 @@
 #include "app/AppViewsController.h"
 
+#include "platform/Settings.h"
+
 namespace quillet {
-
-namespace {
-
-const QString viewModeKey = QStringLiteral("viewMode");
-const QString progressKey = QStringLiteral("isProgressIndicatorOn");
-const QString moneyKey = QStringLiteral("isDollarsOn");
-const QString txtPaneKey = QStringLiteral("isExportTXTViewOn");
-const QString notesPaneKey = QStringLiteral("isNotesViewOn");
-
-} // namespace
 
 AppViewsController::AppViewsController(const Collaborators& collaborators)
     : with_(collaborators) {}
 
 void AppViewsController::awakeFromNib() {
     SettingsStore& settings = with_.settings;
-    setIfAbsent(settings, progressKey, false);
+    settings::isProgressIndicatorOn.writeIfAbsent(settings);
     with_.panes.setProgressAnimated(false);
-    observations_.push_back(
-        settings.observe(progressKey, [this] { observeValueForKeyPath(progressKey); }));
-    setIfAbsent(settings, viewModeKey, qint64(0));
-    settings.setObject(txtPaneKey, false);
-    settings.setObject(notesPaneKey, false);
+    observations_.push_back(settings::isProgressIndicatorOn.observe(
+        settings, [this] { observeValueForKeyPath(settings::isProgressIndicatorOn.name()); }));
+    settings::viewMode.writeIfAbsent(settings);
+    settings::isExportTXTViewOn.reset(settings);
+    settings::isNotesViewOn.reset(settings);
     setExportItemsEnabled(true);
-    observations_.push_back(
-        settings.observe(moneyKey, [this] { observeValueForKeyPath(moneyKey); }));
-    arrangePanes(integerForKey(settings, viewModeKey));
+    observations_.push_back(settings::isDollarsOn.observe(
+        settings, [this] { observeValueForKeyPath(settings::isDollarsOn.name()); }));
+    arrangePanes(settings::viewMode.read(settings));
 }
 
 void AppViewsController::observeValueForKeyPath(const QString& keyPath) {
-    if (keyPath == moneyKey) {
+    if (keyPath == settings::isDollarsOn.name()) {
         toggleRateView();
-    } else if (keyPath == progressKey) {
-        if (boolForKey(with_.settings, progressKey)) {
+    } else if (keyPath == settings::isProgressIndicatorOn.name()) {
+        if (settings::isProgressIndicatorOn.read(with_.settings)) {
             enableProgressIndicator();
         } else {
             disableProgressIndicator();
         }
-    } else if (keyPath == viewModeKey) {
-        arrangePanes(integerForKey(with_.settings, viewModeKey));
+    } else if (keyPath == settings::viewMode.name()) {
+        arrangePanes(settings::viewMode.read(with_.settings));
     }
 }
 
 qint64 AppViewsController::viewMode() {
-    if (!hasKey(with_.settings, viewModeKey)) {
+    if (!settings::viewMode.isStored(with_.settings)) {
         setViewMode(0);
         return 0;
     }
-    return integerForKey(with_.settings, viewModeKey);
+    return settings::viewMode.read(with_.settings);
 }
 
 void AppViewsController::setViewMode(qint64 mode) {
-    with_.settings.setObject(viewModeKey, mode);
+    settings::viewMode.write(with_.settings, mode);
 }
 
 void AppViewsController::arrangePanes(qint64 mode) {
@@ -98,8 +90,8 @@ void AppViewsController::changeExportViewController() {
         with_.panes.remove(shown->second);
         contents_.erase(shown);
     }
-    const bool isTxtOn = boolForKey(with_.settings, txtPaneKey);
-    const bool isNotesOn = boolForKey(with_.settings, notesPaneKey);
+    const bool isTxtOn = settings::isExportTXTViewOn.read(with_.settings);
+    const bool isNotesOn = settings::isNotesViewOn.read(with_.settings);
     const auto show = [this](PaneContent content) {
         with_.panes.setPaneHidden(Pane::Export, false);
         contents_[Pane::Export] = content;
@@ -117,7 +109,8 @@ void AppViewsController::changeExportViewController() {
 }
 
 void AppViewsController::toggleRateView() {
-    with_.panes.setPaneHidden(Pane::Rate, integerForKey(with_.settings, moneyKey) != 1);
+    with_.panes.setPaneHidden(Pane::Rate,
+                              integerForKey(with_.settings, settings::isDollarsOn.name()) != 1);
 }
 
 void AppViewsController::enableProgressIndicator() {
@@ -142,35 +135,35 @@ void AppViewsController::exportNotesToolbarItemClicked() {
 }
 
 void AppViewsController::displayTxtExportView() {
-    showExport(txtPaneKey);
+    showExport(settings::isExportTXTViewOn);
 }
 
 void AppViewsController::displayNotesExportView() {
-    showExport(notesPaneKey);
+    showExport(settings::isNotesViewOn);
 }
 
 void AppViewsController::turnTxtExportViewOff() {
-    closeExport(txtPaneKey);
+    closeExport(settings::isExportTXTViewOn);
 }
 
 void AppViewsController::turnNotesExportViewOff() {
-    closeExport(notesPaneKey);
+    closeExport(settings::isNotesViewOn);
 }
 
-void AppViewsController::showExport(const QString& key) {
-    with_.settings.setObject(key, true);
+void AppViewsController::showExport(const Setting<bool>& isOpen) {
+    isOpen.write(with_.settings, true);
     changeExportViewController();
 }
 
-void AppViewsController::closeExport(const QString& key) {
-    with_.settings.setObject(key, false);
+void AppViewsController::closeExport(const Setting<bool>& isOpen) {
+    isOpen.write(with_.settings, false);
     changeExportViewController();
     setExportItemsEnabled(true);
 }
 
 QRectF AppViewsController::effectiveRect(const QRectF& proposed) const {
-    const bool isOpen = integerForKey(with_.settings, txtPaneKey) == 1 ||
-                        integerForKey(with_.settings, notesPaneKey) == 1;
+    const bool isOpen = integerForKey(with_.settings, settings::isExportTXTViewOn.name()) == 1 ||
+                        integerForKey(with_.settings, settings::isNotesViewOn.name()) == 1;
     return isOpen ? proposed : QRectF();
 }
 

@@ -2,7 +2,7 @@
 
 #include "platform/InterfaceItems.h"
 #include "platform/Observation.h"
-#include "platform/SettingsStore.h"
+#include "platform/Setting.h"
 
 #include <QRectF>
 #include <QString>
@@ -89,8 +89,8 @@ public:
 private:
     void arrangePanes(qint64 mode);
     void swapPane(Pane pane, PaneContent content, bool isContentTaken);
-    void showExport(const QString& key);
-    void closeExport(const QString& key);
+    void showExport(const Setting<bool>& isOpen);
+    void closeExport(const Setting<bool>& isOpen);
     void setExportItemsEnabled(bool isEnabled);
 
     Collaborators with_;

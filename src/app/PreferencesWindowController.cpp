@@ -1,5 +1,6 @@
 #include "app/PreferencesWindowController.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 
 #include <array>
@@ -7,8 +8,6 @@
 namespace quillet {
 
 namespace {
-
-const QString selectedKey = QStringLiteral("selectedPreferencesToolbarItem");
 
 struct PaneName {
     const char* identifier;
@@ -40,8 +39,8 @@ QString PreferencesWindowController::toolbarItemIdentifier(PreferencesPane pane)
 }
 
 void PreferencesWindowController::awakeFromNib() {
-    settings_.setObject(selectedKey, qint64(0));
-    const qint64 stored = integerForKey(settings_, selectedKey);
+    settings::selectedPreferencesToolbarItem.reset(settings_);
+    const qint64 stored = settings::selectedPreferencesToolbarItem.read(settings_);
     changePreferencesViewSubview(static_cast<quint64>(stored));
     const bool isPane = stored >= 0 && stored < std::ssize(paneNames);
     window_.setSelectedToolbarItem(toolbarItemIdentifier(
@@ -50,7 +49,7 @@ void PreferencesWindowController::awakeFromNib() {
 
 void PreferencesWindowController::toolbarItemClicked(PreferencesPane pane) {
     changePreferencesViewSubview(static_cast<quint64>(pane));
-    settings_.setObject(selectedKey, static_cast<qint64>(pane));
+    settings::selectedPreferencesToolbarItem.write(settings_, static_cast<qint64>(pane));
 }
 
 void PreferencesWindowController::changePreferencesViewSubview(quint64 index) {
@@ -76,7 +75,7 @@ void PreferencesWindowController::showWindowWithColumnsPreferencesView() {
 }
 
 void PreferencesWindowController::showWindowWith(PreferencesPane pane) {
-    settings_.setObject(selectedKey, static_cast<qint64>(pane));
+    settings::selectedPreferencesToolbarItem.write(settings_, static_cast<qint64>(pane));
     window_.showWindow();
     changePreferencesViewSubview(static_cast<quint64>(pane));
     window_.setSelectedToolbarItem(toolbarItemIdentifier(pane));

@@ -1,5 +1,7 @@
 #include "calendars/CalendarGroup.h"
 
+#include "platform/Settings.h"
+
 #include <algorithm>
 
 namespace quillet {
@@ -75,7 +77,7 @@ QVariant valueFromCalendarGroup(const CalendarGroup& group) {
 
 std::vector<CalendarGroup> storedCalendarGroups(const SettingsStore& settings) {
     std::vector<CalendarGroup> groups;
-    for (const QVariant& element : arrayForKey(settings, QStringLiteral("calendarGroups"))) {
+    for (const QVariant& element : settings::calendarGroups.read(settings)) {
         if (isRecord(element)) {
             groups.push_back(calendarGroupFromValue(element));
         }

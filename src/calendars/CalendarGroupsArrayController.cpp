@@ -1,5 +1,6 @@
 #include "calendars/CalendarGroupsArrayController.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 
 #include <algorithm>
@@ -7,10 +8,6 @@
 namespace quillet {
 
 namespace {
-
-const QString groupsKey = QStringLiteral("calendarGroups");
-const QString sheetKey = QStringLiteral("isCalendarGroupsSheetActive");
-const QString defaultCreatedKey = QStringLiteral("isDefaultAllCalendarsGroupCreated");
 
 constexpr int deleteButton = 0;
 
@@ -26,15 +23,16 @@ CalendarGroupsArrayController::CalendarGroupsArrayController(SettingsStore& sett
     , alerts_(alerts) {}
 
 void CalendarGroupsArrayController::awakeFromNib() {
-    setIfAbsent(settings_, groupsKey, QVariantList());
-    setIfAbsent(settings_, sheetKey, false);
+    settings::calendarGroups.writeIfAbsent(settings_);
+    settings::isCalendarGroupsSheetActive.writeIfAbsent(settings_);
     show(storedCalendarGroups(settings_));
-    if (!hasKey(settings_, defaultCreatedKey)) {
+    if (!settings::isDefaultAllCalendarsGroupCreated.isStored(settings_)) {
         createDefaultAllCalendarsGroup();
-        settings_.setObject(defaultCreatedKey, true);
+        settings::isDefaultAllCalendarsGroupCreated.reset(settings_);
     }
-    observations_.push_back(settings_.observe(sheetKey, [this] { sheetChanged(); }));
-    observations_.push_back(settings_.observe(groupsKey, [this] {
+    observations_.push_back(
+        settings::isCalendarGroupsSheetActive.observe(settings_, [this] { sheetChanged(); }));
+    observations_.push_back(settings::calendarGroups.observe(settings_, [this] {
         if (!isWritingBack_) {
             show(storedCalendarGroups(settings_));
         }
@@ -122,7 +120,7 @@ void CalendarGroupsArrayController::setCalendarGroupArray(std::size_t position,
 }
 
 void CalendarGroupsArrayController::sheetChanged() {
-    if (boolForKey(settings_, sheetKey)) {
+    if (settings::isCalendarGroupsSheetActive.read(settings_)) {
         // There and back, so that everything that shows the selected group is built anew.
         const std::size_t position = selectionIndex();
         setSelectedRows({0});
@@ -150,7 +148,7 @@ void CalendarGroupsArrayController::writeBack(std::vector<CalendarGroup> groups)
     QVariantList values;
     std::ranges::transform(*content(), std::back_inserter(values), valueFromCalendarGroup);
     isWritingBack_ = true;
-    settings_.setObject(groupsKey, values);
+    settings::calendarGroups.write(settings_, values);
     isWritingBack_ = false;
 }
 

@@ -1,15 +1,10 @@
 #include "calendars/CalendarGroupsArraySelectedCalendarsArrayController.h"
 
+#include "platform/Settings.h"
+
 #include <utility>
 
 namespace quillet {
-
-namespace {
-
-const QString calendarsKey = QStringLiteral("calendars");
-const QString sheetKey = QStringLiteral("isCalendarGroupsSheetActive");
-
-} // namespace
 
 CalendarGroupsArraySelectedCalendarsArrayController::
     CalendarGroupsArraySelectedCalendarsArrayController(
@@ -23,11 +18,12 @@ CalendarGroupsArraySelectedCalendarsArrayController::
     , groups_(calendarGroupsArrayController) {}
 
 void CalendarGroupsArraySelectedCalendarsArrayController::awakeFromNib() {
-    setIfAbsent(settings_, sheetKey, false);
+    settings::isCalendarGroupsSheetActive.writeIfAbsent(settings_);
     setOrder([](const CalendarGroupEntry& left, const CalendarGroupEntry& right) {
         return left.title < right.title;
     });
-    observations_.push_back(settings_.observe(calendarsKey, [this] { syncWhileSheetIsOpen(); }));
+    observations_.push_back(
+        settings::calendars.observe(settings_, [this] { syncWhileSheetIsOpen(); }));
     connect(&groups_, &ListControllerNotices::selectedObjectsChanged, this,
             [this] { selectedGroupChanged(); });
     shownInstance_ = groups_.selectedInstance();
@@ -40,7 +36,7 @@ void CalendarGroupsArraySelectedCalendarsArrayController::syncCalendars() {
         return;
     }
     setIsCalendarsSyncing(true);
-    setIfAbsent(settings_, calendarsKey, QVariantList());
+    settings::calendars.writeIfAbsent(settings_);
     CalendarGroupEntries entries = syncedEntries(*content(), storedCalendarRecords(settings_));
     if (entries != *content()) {
         writeBack(std::move(entries));
@@ -74,7 +70,7 @@ void CalendarGroupsArraySelectedCalendarsArrayController::selectedGroupChanged()
 }
 
 void CalendarGroupsArraySelectedCalendarsArrayController::syncWhileSheetIsOpen() {
-    if (!isCalendarsSyncing_ && boolForKey(settings_, sheetKey)) {
+    if (!isCalendarsSyncing_ && settings::isCalendarGroupsSheetActive.read(settings_)) {
         syncCalendars();
     }
 }

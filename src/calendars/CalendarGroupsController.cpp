@@ -1,12 +1,10 @@
 #include "calendars/CalendarGroupsController.h"
 
+#include "platform/Settings.h"
+
 namespace quillet {
 
 namespace {
-
-const QString indexKey = QStringLiteral("calendarGroupsSelectedIndex");
-const QString sheetKey = QStringLiteral("isCalendarGroupsSheetActive");
-const QString triggerKey = QStringLiteral("datesChangedTrigger");
 
 constexpr double firstFetchDelaySeconds = 1.5;
 
@@ -29,10 +27,11 @@ CalendarGroupsController::CalendarGroupsController(const Collaborators& collabor
     : with_(collaborators) {}
 
 void CalendarGroupsController::awakeFromNib() {
-    setIfAbsent(with_.settings, indexKey, qint64{0});
-    observations_.push_back(with_.settings.observe(indexKey, [this] { updateFilterPredicate(); }));
-    observations_.push_back(with_.settings.observe(sheetKey, [this] {
-        if (!boolForKey(with_.settings, sheetKey)) {
+    settings::calendarGroupsSelectedIndex.writeIfAbsent(with_.settings);
+    observations_.push_back(settings::calendarGroupsSelectedIndex.observe(
+        with_.settings, [this] { updateFilterPredicate(); }));
+    observations_.push_back(settings::isCalendarGroupsSheetActive.observe(with_.settings, [this] {
+        if (!settings::isCalendarGroupsSheetActive.read(with_.settings)) {
             updateFilterPredicate();
         }
     }));
@@ -59,17 +58,17 @@ void CalendarGroupsController::updateFilterPredicate() {
 }
 
 void CalendarGroupsController::triggerEventsArrayUpdate() {
-    flipBool(with_.settings, triggerKey);
+    settings::datesChangedTrigger.flip(with_.settings);
 }
 
 std::size_t CalendarGroupsController::calendarGroupsSelectedIndex() const {
-    const qint64 index = integerForKey(with_.settings, indexKey);
+    const qint64 index = settings::calendarGroupsSelectedIndex.read(with_.settings);
     const auto count = static_cast<qint64>(with_.calendarGroupsArrayController.arrangedCount());
     return index > 0 && index < count ? static_cast<std::size_t>(index) : 0;
 }
 
 void CalendarGroupsController::setCalendarGroupsSelectedIndex(std::size_t position) {
-    with_.settings.setObject(indexKey, static_cast<qint64>(position));
+    settings::calendarGroupsSelectedIndex.write(with_.settings, static_cast<qint64>(position));
 }
 
 } // namespace quillet

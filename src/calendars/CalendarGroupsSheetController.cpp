@@ -1,23 +1,19 @@
 #include "calendars/CalendarGroupsSheetController.h"
 
+#include "platform/Settings.h"
+
 namespace quillet {
-
-namespace {
-
-const QString sheetKey = QStringLiteral("isCalendarGroupsSheetActive");
-
-} // namespace
 
 void CalendarGroupsSheetController::openCalendarGroupsSheet() {
     theSheet_.begin();
-    settings_.setObject(sheetKey, true);
+    settings::isCalendarGroupsSheetActive.write(settings_, true);
 }
 
 void CalendarGroupsSheetController::closeCalendarGroupsSheet() {
     theSheet_.commitEditing();
     theSheet_.end();
     theSheet_.orderOut();
-    settings_.setObject(sheetKey, false);
+    settings::isCalendarGroupsSheetActive.write(settings_, false);
 }
 
 } // namespace quillet

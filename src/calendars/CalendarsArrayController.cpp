@@ -1,15 +1,12 @@
 #include "calendars/CalendarsArrayController.h"
 
+#include "platform/Settings.h"
+
 #include <algorithm>
 
 namespace quillet {
 
 namespace {
-
-const QString calendarsKey = QStringLiteral("calendars");
-const QString accessKey = QStringLiteral("isCalendarAccessGranted");
-const QString sheetKey = QStringLiteral("isCalendarGroupsSheetActive");
-const QString hourlyRateKey = QStringLiteral("hourlyRate");
 
 constexpr double firstFetchDelaySeconds = 1.5;
 
@@ -42,19 +39,19 @@ CalendarsArrayController::CalendarsArrayController(SettingsStore& settings,
     , timer_(timer) {}
 
 void CalendarsArrayController::awakeFromNib() {
-    setIfAbsent(settings_, calendarsKey, QVariantList());
-    settings_.setObject(sheetKey, false);
-    setIfAbsent(settings_, accessKey, false);
+    settings::calendars.writeIfAbsent(settings_);
+    settings::isCalendarGroupsSheetActive.reset(settings_);
+    settings::isCalendarAccessGranted.writeIfAbsent(settings_);
     connect(&eventKitManager_, &EventKitManager::accessGranted, this, [this] { accessGranted(); });
     // Syncing again with an unchanged store changes nothing, so that one sync answers for all the
     // announcements of one change.
     connect(&eventKitManager_, &EventKitManager::storeChanged, this, [this] { storeChanged(); });
-    for (const char* key : {"isDollarsOn", "isSingleRate", "hourlyRate",
-                            "isCalendarGroupsSheetActive", "calendarGroupsSelectedIndex"}) {
-        observations_.push_back(
-            settings_.observe(QString::fromLatin1(key), [this] { moneySettingChanged(); }));
+    for (const SettingKey* key : settingGroup(
+             settings::isDollarsOn, settings::isSingleRate, settings::hourlyRate,
+             settings::isCalendarGroupsSheetActive, settings::calendarGroupsSelectedIndex)) {
+        observations_.push_back(key->observe(settings_, [this] { moneySettingChanged(); }));
     }
-    observations_.push_back(settings_.observe(calendarsKey, [this] {
+    observations_.push_back(settings::calendars.observe(settings_, [this] {
         if (!isWritingBack_) {
             reload();
         }
@@ -63,13 +60,13 @@ void CalendarsArrayController::awakeFromNib() {
         return left.title < right.title;
     });
     reload();
-    if (boolForKey(settings_, accessKey)) {
+    if (settings::isCalendarAccessGranted.read(settings_)) {
         syncCalendars();
     }
 }
 
 void CalendarsArrayController::syncCalendars() {
-    setIfAbsent(settings_, calendarsKey, QVariantList());
+    settings::calendars.writeIfAbsent(settings_);
     // The setting may tell the last run's answer. A store that is closed now has no calendars, but
     // that says nothing about those of the list, whose rates would be lost.
     if (!eventKitManager_.eventCalendarsAccessGranted()) {
@@ -118,9 +115,9 @@ void CalendarsArrayController::refresh(CalendarRecord& record, const StoreCalend
         record.rate = Decimal();
     }
     Decimal rate = *record.rate;
-    if (boolForKey(settings_, QStringLiteral("isSingleRate"))) {
-        setIfAbsent(settings_, hourlyRateKey, QVariant::fromValue(Decimal()));
-        const Decimal shared = decimalFromValue(settings_.object(hourlyRateKey));
+    if (settings::isSingleRate.read(settings_)) {
+        settings::hourlyRate.writeIfAbsent(settings_);
+        const Decimal shared = settings::hourlyRate.read(settings_);
         rate = shared.isNaN() ? Decimal() : shared;
     }
     record.titleWithRate = makeTitleWithStringAndRate(calendar.title, rate.toString());
@@ -128,19 +125,18 @@ void CalendarsArrayController::refresh(CalendarRecord& record, const StoreCalend
 
 void CalendarsArrayController::accessGranted() {
     syncCalendars();
-    timer_.start(firstFetchDelaySeconds,
-                 [this] { flipBool(settings_, QStringLiteral("datesChangedTrigger")); });
+    timer_.start(firstFetchDelaySeconds, [this] { settings::datesChangedTrigger.flip(settings_); });
 }
 
 void CalendarsArrayController::storeChanged() {
-    if (boolForKey(settings_, accessKey)) {
+    if (settings::isCalendarAccessGranted.read(settings_)) {
         syncCalendars();
     }
 }
 
 void CalendarsArrayController::moneySettingChanged() {
-    if (!isCalendarsSyncing_ && !boolForKey(settings_, sheetKey) &&
-        boolForKey(settings_, accessKey)) {
+    if (!isCalendarsSyncing_ && !settings::isCalendarGroupsSheetActive.read(settings_) &&
+        settings::isCalendarAccessGranted.read(settings_)) {
         syncCalendars();
     }
 }
@@ -173,7 +169,7 @@ void CalendarsArrayController::setRate(std::size_t row, const Decimal& rate) {
 
 QString CalendarsArrayController::makeTitleWithStringAndRate(const QString& title,
                                                              const QString& rateText) const {
-    if (!boolForKey(settings_, QStringLiteral("isDollarsOn"))) {
+    if (!settings::isDollarsOn.read(settings_)) {
         return title.isNull() ? QStringLiteral("") : title;
     }
     const Decimal rate = rateText.isNull() ? Decimal() : Decimal::fromString(rateText);
@@ -192,7 +188,7 @@ void CalendarsArrayController::writeBack(std::vector<CalendarRecord> records) {
     setContent(std::move(records));
     isWritingBack_ = true;
     // From the content: whoever was told of the change may have changed the list further.
-    settings_.setObject(calendarsKey, valuesFrom(*content()));
+    settings::calendars.write(settings_, valuesFrom(*content()));
     isWritingBack_ = false;
 }
 

@@ -1,5 +1,7 @@
 #include "eventdata/CalendarRecord.h"
 
+#include "platform/Settings.h"
+
 namespace quillet {
 
 namespace {
@@ -41,7 +43,7 @@ QVariant valueFromCalendarRecord(const CalendarRecord& record) {
 
 std::vector<CalendarRecord> storedCalendarRecords(const SettingsStore& settings) {
     std::vector<CalendarRecord> records;
-    for (const QVariant& element : arrayForKey(settings, QStringLiteral("calendars"))) {
+    for (const QVariant& element : settings::calendars.read(settings)) {
         if (element.typeId() == QMetaType::QVariantMap) {
             records.push_back(calendarRecordFromValue(element));
         }

@@ -1,17 +1,12 @@
 #include "eventdata/EventKitManager.h"
 
 #include "platform/Logging.h"
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 
 #include <QPointer>
 
 namespace quillet {
-
-namespace {
-
-const QString accessKey = QStringLiteral("isCalendarAccessGranted");
-
-} // namespace
 
 EventKitManager::EventKitManager(EventStore& store, SettingsStore& settings, AlertPresenter& alerts,
                                  SerialQueue& mainQueue)
@@ -29,7 +24,7 @@ void EventKitManager::becomeActive() {
         break;
     case AuthorizationStatus::Restricted:
     case AuthorizationStatus::Denied:
-        settings_.setObject(accessKey, false);
+        settings::isCalendarAccessGranted.write(settings_, false);
         (void)alerts_.runModal(
             {.style = AlertStyle::Informational,
              .messageText = localized("Access Denied"),
@@ -37,7 +32,7 @@ void EventKitManager::becomeActive() {
              .buttonTitles = {localized("OK")}});
         break;
     case AuthorizationStatus::Authorized:
-        settings_.setObject(accessKey, true);
+        settings::isCalendarAccessGranted.write(settings_, true);
         observeStore();
         break;
     }
@@ -83,7 +78,7 @@ void EventKitManager::accessWasGranted() {
     observeStore();
     Q_EMIT eventCalendarsAccessGrantedChanged();
     Q_EMIT accessGranted();
-    settings_.setObject(accessKey, true);
+    settings::isCalendarAccessGranted.write(settings_, true);
 }
 
 void EventKitManager::observeStore() {

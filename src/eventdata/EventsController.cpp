@@ -3,6 +3,7 @@
 #include "eventdata/Duration.h"
 #include "eventdata/EventFigures.h"
 #include "platform/Predicate.h"
+#include "platform/Settings.h"
 
 #include <QPointer>
 
@@ -11,13 +12,6 @@
 namespace quillet {
 
 namespace {
-
-const QString accessKey = QStringLiteral("isCalendarAccessGranted");
-const QString progressKey = QStringLiteral("isProgressIndicatorOn");
-const QString allDayKey = QStringLiteral("allDayEventsNotIncluded");
-const QString startKey = QStringLiteral("filterStartDate");
-const QString endKey = QStringLiteral("filterEndDate");
-const QString viewModeKey = QStringLiteral("viewMode");
 
 /// The condition that the wanted calendars meet; one that no calendar meets when none is ticked.
 QString conditionForTicked(const ListController<CalendarRecord>& records) {
@@ -46,20 +40,21 @@ QString EventsController::backgroundEventFetchQueueLabel() {
 }
 
 void EventsController::awakeFromNib() {
-    setIfAbsent(with_.settings, allDayKey, false);
-    setIfAbsent(with_.settings, QStringLiteral("isSingleRate"), true);
-    setIfAbsent(with_.settings, accessKey, false);
-    setIfAbsent(with_.settings, QStringLiteral("datesChangedTrigger"), false);
+    settings::allDayEventsNotIncluded.writeIfAbsent(with_.settings);
+    settings::isSingleRate.writeIfAbsent(with_.settings);
+    settings::isCalendarAccessGranted.writeIfAbsent(with_.settings);
+    settings::datesChangedTrigger.writeIfAbsent(with_.settings);
     // A fetch that quitting interrupted must not block this run.
-    with_.settings.setObject(progressKey, false);
+    settings::isProgressIndicatorOn.reset(with_.settings);
 
-    observe("filterStartDate", Refetch::No);
-    observe("filterEndDate", Refetch::No);
-    for (const char* key : {"calendars", "allDayHours", "allDayEventsNotIncluded", "isSingleRate",
-                            "hourlyRate", "viewMode"}) {
-        observe(key, Refetch::Yes);
+    observe(settings::filterStartDate, Refetch::No);
+    observe(settings::filterEndDate, Refetch::No);
+    for (const SettingKey* key :
+         settingGroup(settings::calendars, settings::allDayHours, settings::allDayEventsNotIncluded,
+                      settings::isSingleRate, settings::hourlyRate, settings::viewMode)) {
+        observe(*key, Refetch::Yes);
     }
-    observations_.push_back(with_.settings.observe(accessKey, [this] {
+    observations_.push_back(settings::isCalendarAccessGranted.observe(with_.settings, [this] {
         setupEventKitManager();
         settingChanged(Refetch::No);
     }));
@@ -70,18 +65,18 @@ void EventsController::awakeFromNib() {
             [this] { settingChanged(Refetch::No); });
     connect(&with_.calendarsArrayController, &ListControllerNotices::arrangedObjectsChanged, this,
             refetch);
-    observe("datesChangedTrigger", Refetch::Yes);
+    observe(settings::datesChangedTrigger, Refetch::Yes);
     connect(&with_.eventKitManager, &EventKitManager::storeChanged, this,
             &EventsController::storeChanged);
 
-    if (boolForKey(with_.settings, accessKey)) {
+    if (settings::isCalendarAccessGranted.read(with_.settings)) {
         setupEventKitManager();
     }
 }
 
-void EventsController::observe(const char* key, Refetch refetch) {
-    observations_.push_back(with_.settings.observe(QString::fromLatin1(key),
-                                                   [this, refetch] { settingChanged(refetch); }));
+void EventsController::observe(const SettingKey& key, Refetch refetch) {
+    observations_.push_back(
+        key.observe(with_.settings, [this, refetch] { settingChanged(refetch); }));
 }
 
 void EventsController::setupEventKitManager() {
@@ -93,7 +88,8 @@ void EventsController::setupEventKitManager() {
 }
 
 bool EventsController::isFollowing() const {
-    return boolForKey(with_.settings, accessKey) && integerForKey(with_.settings, viewModeKey) == 0;
+    return settings::isCalendarAccessGranted.read(with_.settings) &&
+           settings::viewMode.read(with_.settings) == 0;
 }
 
 void EventsController::settingChanged(Refetch refetch) {
@@ -112,26 +108,27 @@ void EventsController::storeChanged(int announcements) {
     // Each listener hears each announcement. Once one of those calls has started a fetch, the
     // others would be dropped one by one; a thousand squared of them need not be made for that.
     const std::int64_t calls = std::int64_t{announcements} * storeListeners_;
-    for (std::int64_t call = 0; call < calls && !boolForKey(with_.settings, progressKey) &&
-                                integerForKey(with_.settings, viewModeKey) == 0;
+    for (std::int64_t call = 0;
+         call < calls && !settings::isProgressIndicatorOn.read(with_.settings) &&
+         settings::viewMode.read(with_.settings) == 0;
          ++call) {
         updateEvents();
     }
 }
 
 void EventsController::updateEvents() {
-    if (boolForKey(with_.settings, progressKey)) {
+    if (settings::isProgressIndicatorOn.read(with_.settings)) {
         return;
     }
-    with_.settings.setObject(progressKey, true);
+    settings::isProgressIndicatorOn.write(with_.settings, true);
     Q_EMIT eventsWillChange();
-    const auto start = dateForKey(with_.settings, startKey);
-    const auto end = dateForKey(with_.settings, endKey);
+    const auto start = settings::filterStartDate.read(with_.settings);
+    const auto end = settings::filterEndDate.read(with_.settings);
     with_.backgroundEventFetchQueue.async([self = QPointer(this), &manager = with_.eventKitManager,
                                            &settings = with_.settings, &mainQueue = with_.mainQueue,
                                            calendars = calendarsToFetch(), start, end] {
         EventList events = manager.eventsInCalendars(calendars, start, end);
-        if (boolForKey(settings, allDayKey)) {
+        if (settings::allDayEventsNotIncluded.read(settings)) {
             std::erase_if(events, [](const Event& event) { return event.details->isAllDay; });
         }
         auto fetched = std::make_shared<EventList>(std::move(events));
@@ -161,7 +158,7 @@ void EventsController::publish(EventList events) {
     // rearrangement does not start another fetch.
     with_.eventsArrayController.setContent(std::move(events));
     Q_EMIT eventsChanged();
-    with_.settings.setObject(progressKey, false);
+    settings::isProgressIndicatorOn.write(with_.settings, false);
     // Freeing a hundred thousand events takes longer than the main thread may be kept busy.
     with_.backgroundEventFetchQueue.async([old = std::move(old)]() mutable { old.reset(); });
 }
@@ -188,8 +185,8 @@ void EventsController::updateDurationValues() {
 }
 
 void EventsController::updateTotalDays() {
-    const auto start = dateForKey(with_.settings, startKey);
-    const auto end = dateForKey(with_.settings, endKey);
+    const auto start = settings::filterStartDate.read(with_.settings);
+    const auto end = settings::filterEndDate.read(with_.settings);
     setAggregate(Aggregate::TotalDays,
                  start && end ? daysCovered(*start, *end, with_.calendar) : 0);
 }

@@ -7,6 +7,7 @@
 #include "platform/CalendarArithmetic.h"
 #include "platform/ListController.h"
 #include "platform/SerialQueue.h"
+#include "platform/Setting.h"
 
 #include <QObject>
 
@@ -76,7 +77,7 @@ Q_SIGNALS:
 private:
     enum class Refetch { Yes, No };
 
-    void observe(const char* key, Refetch refetch);
+    void observe(const SettingKey& key, Refetch refetch);
     void settingChanged(Refetch refetch);
     void storeChanged(int announcements);
     [[nodiscard]] bool isFollowing() const;

@@ -1,30 +1,25 @@
 #include "eventdata/MissedChanges.h"
 
+#include "platform/Settings.h"
+
 #include <QPointer>
 
 namespace quillet {
-
-namespace {
-
-const QString progressKey = QStringLiteral("isProgressIndicatorOn");
-const QString triggerKey = QStringLiteral("datesChangedTrigger");
-
-} // namespace
 
 MissedChanges::MissedChanges(const Collaborators& collaborators)
     : with_(collaborators) {}
 
 void MissedChanges::awakeFromNib() {
     // Rates and hours of a day change figures, not what is fetched.
-    for (const char* key : {"datesChangedTrigger", "calendars", "allDayEventsNotIncluded"}) {
-        observations_.push_back(
-            with_.settings.observe(QString::fromLatin1(key), [this] { noteRequest(); }));
+    for (const SettingKey* key : settingGroup(settings::datesChangedTrigger, settings::calendars,
+                                              settings::allDayEventsNotIncluded)) {
+        observations_.push_back(key->observe(with_.settings, [this] { noteRequest(); }));
     }
     connect(&with_.calendarsArrayController, &ListControllerNotices::arrangedObjectsChanged, this,
             &MissedChanges::noteRequest);
     connect(&with_.eventKitManager, &EventKitManager::storeChanged, this,
             &MissedChanges::noteRequest);
-    observations_.push_back(with_.settings.observe(progressKey, [this] {
+    observations_.push_back(settings::isProgressIndicatorOn.observe(with_.settings, [this] {
         if (!isFetching()) {
             fetchEnded();
         }
@@ -32,7 +27,7 @@ void MissedChanges::awakeFromNib() {
 }
 
 bool MissedChanges::isFetching() const {
-    return boolForKey(with_.settings, progressKey);
+    return settings::isProgressIndicatorOn.read(with_.settings);
 }
 
 void MissedChanges::noteRequest() {
@@ -47,7 +42,7 @@ void MissedChanges::fetchEnded() {
     // Later, so that all who wait for the end of this fetch have heard of it.
     with_.mainQueue.async([self = QPointer(this)] {
         if (self) {
-            flipBool(self->with_.settings, triggerKey);
+            settings::datesChangedTrigger.flip(self->with_.settings);
         }
     });
 }

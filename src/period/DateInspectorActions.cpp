@@ -1,13 +1,12 @@
 #include "period/DateInspectorController.h"
 
+#include "platform/Settings.h"
+
 #include <algorithm>
 
 namespace quillet {
 
 namespace {
-
-const QString appliedKindKey = QStringLiteral("quickDatePeriodPreviousValue");
-const QString triggerKey = QStringLiteral("datesChangedTrigger");
 
 bool isKind(qint64 index) {
     return index >= static_cast<qint64>(PeriodKind::Day) &&
@@ -39,15 +38,15 @@ DateOffset reversed(const DateOffset& offset) {
 
 void DateInspectorController::setQuickDatePeriod() {
     const qint64 index = quickDatePeriodIndex();
-    if (hasKey(with_.settings, appliedKindKey) &&
-        integerForKey(with_.settings, appliedKindKey) == index) {
+    if (settings::quickDatePeriodPreviousValue.isStored(with_.settings) &&
+        settings::quickDatePeriodPreviousValue.read(with_.settings) == index) {
         return;
     }
     if (isKind(index)) {
         applyKind(static_cast<PeriodKind>(index));
     }
-    with_.settings.setObject(appliedKindKey, index);
-    flipBool(with_.settings, triggerKey);
+    settings::quickDatePeriodPreviousValue.write(with_.settings, index);
+    settings::datesChangedTrigger.flip(with_.settings);
 }
 
 void DateInspectorController::applyKind(PeriodKind kind) {
@@ -62,7 +61,7 @@ void DateInspectorController::setQuickDates(PeriodStep segment) {
     if (isKind(index)) {
         step(static_cast<PeriodKind>(index), segment);
     }
-    flipBool(with_.settings, triggerKey);
+    settings::datesChangedTrigger.flip(with_.settings);
 }
 
 void DateInspectorController::step(PeriodKind kind, PeriodStep segment) {
@@ -162,7 +161,7 @@ void DateInspectorController::startDateControlClicked() {
     } else if (isKind(index)) {
         setPeriodStartingWith(static_cast<PeriodKind>(index), start);
     }
-    flipBool(with_.settings, triggerKey);
+    settings::datesChangedTrigger.flip(with_.settings);
 }
 
 void DateInspectorController::endDateControlClicked() {
@@ -171,7 +170,7 @@ void DateInspectorController::endDateControlClicked() {
     }
     setCustomDateOn(true);
     lockedPeriod_ = arithmetic_.totalDaysFromStartDate(startDate(), endDate());
-    flipBool(with_.settings, triggerKey);
+    settings::datesChangedTrigger.flip(with_.settings);
 }
 
 void DateInspectorController::toggleEndDateLock() {

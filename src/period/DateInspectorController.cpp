@@ -1,16 +1,11 @@
 #include "period/DateInspectorController.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 
 namespace quillet {
 
 namespace {
-
-const QString startKey = QStringLiteral("filterStartDate");
-const QString endKey = QStringLiteral("filterEndDate");
-const QString selectedKey = QStringLiteral("selectedDate");
-const QString kindKey = QStringLiteral("quickDatePeriod");
-const QString accessKey = QStringLiteral("isCalendarAccessGranted");
 
 constexpr qint64 customIndex = static_cast<qint64>(PeriodKind::Custom);
 
@@ -23,19 +18,18 @@ DateInspectorController::DateInspectorController(const Collaborators& collaborat
 DateInspectorController::~DateInspectorController() = default;
 
 void DateInspectorController::awakeFromNib() {
-    isInterfaceEnabled_ = boolForKey(with_.settings, accessKey);
-    setQuickDatePeriodIndex(hasKey(with_.settings, kindKey)
-                                ? integerForKey(with_.settings, kindKey)
-                                : static_cast<qint64>(PeriodKind::Week));
-    setSelectedDate(
-        stored(selectedKey).value_or(arithmetic_.firstSecondOfWeekFromDate(with_.clock.now())));
+    isInterfaceEnabled_ = settings::isCalendarAccessGranted.read(with_.settings);
+    setQuickDatePeriodIndex(settings::quickDatePeriod.readOrFirstRun(with_.settings));
+    setSelectedDate(stored(settings::selectedDate)
+                        .value_or(arithmetic_.firstSecondOfWeekFromDate(with_.clock.now())));
 
-    observations_.push_back(with_.settings.observe(accessKey, [this] {
-        isInterfaceEnabled_ = boolForKey(with_.settings, accessKey);
+    observations_.push_back(settings::isCalendarAccessGranted.observe(with_.settings, [this] {
+        isInterfaceEnabled_ = settings::isCalendarAccessGranted.read(with_.settings);
         Q_EMIT isInterfaceEnabledChanged();
     }));
-    for (const QString& key : {startKey, endKey, kindKey}) {
-        observations_.push_back(with_.settings.observe(key, [this] { setLabels(); }));
+    for (const SettingKey* key : settingGroup(settings::filterStartDate, settings::filterEndDate,
+                                              settings::quickDatePeriod)) {
+        observations_.push_back(key->observe(with_.settings, [this] { setLabels(); }));
     }
     setLabels();
     if (!isCustomDateOn_) {
@@ -43,8 +37,8 @@ void DateInspectorController::awakeFromNib() {
     }
 }
 
-std::optional<Instant> DateInspectorController::stored(const QString& key) const {
-    return dateForKey(with_.settings, key);
+std::optional<Instant> DateInspectorController::stored(const Setting<Instant>& setting) const {
+    return setting.read(with_.settings);
 }
 
 Instant DateInspectorController::today() const {
@@ -53,32 +47,32 @@ Instant DateInspectorController::today() const {
 
 Instant DateInspectorController::startDate() {
     if (!startDate_) {
-        setStartDate(
-            stored(startKey).value_or(arithmetic_.firstSecondOfWeekFromDate(with_.clock.now())));
+        setStartDate(stored(settings::filterStartDate)
+                         .value_or(arithmetic_.firstSecondOfWeekFromDate(with_.clock.now())));
     }
     return *startDate_;
 }
 
 Instant DateInspectorController::endDate() {
     if (!endDate_) {
-        setEndDate(
-            stored(endKey).value_or(arithmetic_.lastSecondOfWeekFromDate(with_.clock.now())));
+        setEndDate(stored(settings::filterEndDate)
+                       .value_or(arithmetic_.lastSecondOfWeekFromDate(with_.clock.now())));
     }
     return *endDate_;
 }
 
 Instant DateInspectorController::selectedDate() {
     if (!selectedDate_) {
-        setSelectedDate(
-            stored(selectedKey).value_or(arithmetic_.firstSecondOfWeekFromDate(with_.clock.now())));
+        setSelectedDate(stored(settings::selectedDate)
+                            .value_or(arithmetic_.firstSecondOfWeekFromDate(with_.clock.now())));
     }
     return *selectedDate_;
 }
 
-void DateInspectorController::adopt(const QString& key, std::optional<Instant>& property,
-                                    Instant value) {
+void DateInspectorController::adopt(const Setting<Instant>& setting,
+                                    std::optional<Instant>& property, Instant value) {
     property = value;
-    with_.settings.setObject(key, QVariant::fromValue(value));
+    setting.write(with_.settings, value);
 }
 
 void DateInspectorController::setStartDate(Instant date) {
@@ -86,12 +80,13 @@ void DateInspectorController::setStartDate(Instant date) {
     const Instant start = arithmetic_.normalizedStart(date);
     startDate_ = start;
     if (endDate_ && *endDate_ < start) {
-        adopt(endKey, endDate_, arithmetic_.lastSecondOfDayFromDate(start));
+        adopt(settings::filterEndDate, endDate_, arithmetic_.lastSecondOfDayFromDate(start));
     } else if (endDate_ && arithmetic_.totalDaysFromStartDate(start, *endDate_) >
                                PeriodArithmetic::longestPeriodDays) {
-        adopt(endKey, endDate_, arithmetic_.lastSecondBefore(start, {.days = farthest + 1}));
+        adopt(settings::filterEndDate, endDate_,
+              arithmetic_.lastSecondBefore(start, {.days = farthest + 1}));
     }
-    adopt(startKey, startDate_, start);
+    adopt(settings::filterStartDate, startDate_, start);
 }
 
 void DateInspectorController::setEndDate(Instant date) {
@@ -99,27 +94,26 @@ void DateInspectorController::setEndDate(Instant date) {
     const Instant end = arithmetic_.lastSecondOfDayFromDate(arithmetic_.normalizedStart(date));
     endDate_ = end;
     if (startDate_ && end < *startDate_) {
-        adopt(startKey, startDate_, arithmetic_.firstSecondOfDayFromDate(end));
+        adopt(settings::filterStartDate, startDate_, arithmetic_.firstSecondOfDayFromDate(end));
     } else if (startDate_ && arithmetic_.totalDaysFromStartDate(*startDate_, end) >
                                  PeriodArithmetic::longestPeriodDays) {
-        adopt(startKey, startDate_, arithmetic_.firstSecondAfter(end, {.days = -farthest}));
+        adopt(settings::filterStartDate, startDate_,
+              arithmetic_.firstSecondAfter(end, {.days = -farthest}));
     }
-    adopt(endKey, endDate_, end);
+    adopt(settings::filterEndDate, endDate_, end);
 }
 
 void DateInspectorController::setSelectedDate(Instant date) {
-    adopt(selectedKey, selectedDate_, arithmetic_.normalizedStart(date));
+    adopt(settings::selectedDate, selectedDate_, arithmetic_.normalizedStart(date));
 }
 
 qint64 DateInspectorController::quickDatePeriodIndex() {
-    if (!hasKey(with_.settings, kindKey)) {
-        setQuickDatePeriodIndex(static_cast<qint64>(PeriodKind::Week));
-    }
-    return integerForKey(with_.settings, kindKey);
+    settings::quickDatePeriod.writeIfAbsent(with_.settings);
+    return settings::quickDatePeriod.read(with_.settings);
 }
 
 void DateInspectorController::setQuickDatePeriodIndex(qint64 index) {
-    with_.settings.setObject(kindKey, index);
+    settings::quickDatePeriod.write(with_.settings, index);
 }
 
 void DateInspectorController::setCustomDateOn(bool isOn) {
@@ -128,8 +122,8 @@ void DateInspectorController::setCustomDateOn(bool isOn) {
 }
 
 std::int32_t DateInspectorController::totalDays() const {
-    const auto start = stored(startKey);
-    const auto end = stored(endKey);
+    const auto start = stored(settings::filterStartDate);
+    const auto end = stored(settings::filterEndDate);
     return start && end ? arithmetic_.totalDaysFromStartDate(*start, *end) : 0;
 }
 
@@ -158,8 +152,8 @@ void DateInspectorController::setLabels() {
     default:
         periodLabel_.clear();
     }
-    const Instant start = stored(startKey).value_or(*startDate_);
-    const Instant end = stored(endKey).value_or(*endDate_);
+    const Instant start = stored(settings::filterStartDate).value_or(*startDate_);
+    const Instant end = stored(settings::filterEndDate).value_or(*endDate_);
     dateRangeLabel_ = with_.formats.longDate(start);
     if (kind > 0) {
         dateRangeLabel_ += QStringLiteral(" - ") + with_.formats.longDate(end);

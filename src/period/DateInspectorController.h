@@ -3,7 +3,7 @@
 #include "period/PeriodArithmetic.h"
 #include "platform/Clock.h"
 #include "platform/LocaleFormats.h"
-#include "platform/SettingsStore.h"
+#include "platform/Setting.h"
 
 #include <QObject>
 
@@ -91,9 +91,9 @@ Q_SIGNALS:
     void isCustomDateOnChanged();
 
 private:
-    [[nodiscard]] std::optional<Instant> stored(const QString& key) const;
+    [[nodiscard]] std::optional<Instant> stored(const Setting<Instant>& setting) const;
     [[nodiscard]] Instant today() const;
-    void adopt(const QString& key, std::optional<Instant>& property, Instant value);
+    void adopt(const Setting<Instant>& setting, std::optional<Instant>& property, Instant value);
     void applyKind(PeriodKind kind);
     void step(PeriodKind kind, PeriodStep segment);
     void stepCustomPeriod(PeriodStep segment);

@@ -1,21 +1,8 @@
 #include "results/EventNotesViewController.h"
 
+#include "platform/Settings.h"
+
 namespace quillet {
-
-namespace {
-
-struct Switch {
-    const char* key;
-    bool isOnByDefault;
-};
-
-constexpr Switch switches[] = {{"isEventNotesCalendar", true},
-                               {"isEventNotesDate", true},
-                               {"isEventNotesLocation", true},
-                               {"isEventNotesTitle", true},
-                               {"isNotesViewOn", false}};
-
-} // namespace
 
 EventNotesViewController::EventNotesViewController(const Collaborators& collaborators)
     : with_(collaborators) {}
@@ -23,12 +10,11 @@ EventNotesViewController::EventNotesViewController(const Collaborators& collabor
 void EventNotesViewController::awakeFromNib() {
     connect(&with_.eventsArrayController, &ListControllerNotices::arrangedObjectsChanged, this,
             &EventNotesViewController::listChanged);
-    for (const Switch& each : switches) {
-        observations_.push_back(
-            with_.settings.observe(QString::fromLatin1(each.key), [this] { refresh(); }));
+    for (const SettingKey* each : settings::ofEventNotes) {
+        observations_.push_back(each->observe(with_.settings, [this] { refresh(); }));
     }
-    for (const Switch& each : switches) {
-        setIfAbsent(with_.settings, QString::fromLatin1(each.key), each.isOnByDefault);
+    for (const SettingKey* each : settings::ofEventNotes) {
+        each->writeIfAbsent(with_.settings);
     }
 }
 
@@ -43,21 +29,18 @@ void EventNotesViewController::listChanged() {
 }
 
 void EventNotesViewController::refresh() {
-    if (isOn("isNotesViewOn")) {
+    if (settings::isNotesViewOn.read(with_.settings)) {
         Q_EMIT notesChanged();
         Q_EMIT notesCountChanged();
     }
 }
 
-bool EventNotesViewController::isOn(const char* key) const {
-    return boolForKey(with_.settings, QString::fromLatin1(key));
-}
-
 EventNotesViewController::HeadingItems EventNotesViewController::headingItems() const {
-    return {.hasCalendar = isOn("isEventNotesCalendar"),
-            .hasDate = isOn("isEventNotesDate"),
-            .hasTitle = isOn("isEventNotesTitle"),
-            .hasLocation = isOn("isEventNotesLocation")};
+    const SettingsStore& settings = with_.settings;
+    return {.hasCalendar = settings::isEventNotesCalendar.read(settings),
+            .hasDate = settings::isEventNotesDate.read(settings),
+            .hasTitle = settings::isEventNotesTitle.read(settings),
+            .hasLocation = settings::isEventNotesLocation.read(settings)};
 }
 
 std::optional<QString> EventNotesViewController::heading(const Event& event,
@@ -130,7 +113,7 @@ std::optional<StyledText> EventNotesViewController::notes(const ExportProgress& 
 }
 
 std::optional<QString> EventNotesViewController::shownText(const ExportProgress& progress) const {
-    if (notesTextView_ && isOn("isNotesViewOn")) {
+    if (notesTextView_ && settings::isNotesViewOn.read(with_.settings)) {
         if (auto shown = notesTextView_()) {
             return shown;
         }

@@ -57,7 +57,6 @@ private:
     /// Another order alone is no reason to build the text anew.
     void listChanged();
     void refresh();
-    [[nodiscard]] bool isOn(const char* key) const;
     struct HeadingItems {
         bool hasCalendar;
         bool hasDate;

@@ -1,16 +1,11 @@
 #include "results/OpenCalendarEvent.h"
 
 #include "platform/Logging.h"
+#include "platform/Settings.h"
 
 #include <QStringList>
 
 namespace quillet {
-
-namespace {
-
-const QString progressKey = QStringLiteral("isProgressIndicatorOn");
-
-} // namespace
 
 QString showEventScript(const QString& calendarIdentifier,
                         const QString& calendarItemExternalIdentifier) {
@@ -41,7 +36,7 @@ bool OpenCalendarEvent::isOpenInCalendarEnabled() const {
 }
 
 void OpenCalendarEvent::openEventInCalendar() {
-    with_.settings.setObject(progressKey, true);
+    settings::isProgressIndicatorOn.write(with_.settings, true);
     if (with_.eventsArrayController.selectedRows().size() != 1) {
         return;
     }
@@ -51,7 +46,7 @@ void OpenCalendarEvent::openEventInCalendar() {
     if (!result) {
         qCWarning(quilletLog).noquote() << "it was an error";
     }
-    with_.settings.setObject(progressKey, false);
+    settings::isProgressIndicatorOn.write(with_.settings, false);
 }
 
 } // namespace quillet

@@ -1,35 +1,32 @@
 #include "results/PreferencesColumnsViewController.h"
 
+#include "platform/Settings.h"
+
 namespace quillet {
 
-namespace {
-
-const QString timeTypeKey = QStringLiteral("timeTypeSelection");
-
-} // namespace
-
 void PreferencesColumnsViewController::awakeFromNib() {
-    setIfAbsent(settings_, timeTypeKey, qint64(1));
-    timeType_ = settings_.observe(timeTypeKey, [this] { observeValueForKeyPath(timeTypeKey); });
+    settings::timeTypeSelection.writeIfAbsent(settings_);
+    timeType_ = settings::timeTypeSelection.observe(
+        settings_, [this] { observeValueForKeyPath(settings::timeTypeSelection.name()); });
     announce();
 }
 
 void PreferencesColumnsViewController::observeValueForKeyPath(const QString& keyPath) {
-    if (keyPath == timeTypeKey) {
+    if (keyPath == settings::timeTypeSelection.name()) {
         announce();
     }
 }
 
 bool PreferencesColumnsViewController::isHoursHidden() const {
-    return integerForKey(settings_, timeTypeKey) != 1;
+    return settings::timeTypeSelection.read(settings_) != 1;
 }
 
 bool PreferencesColumnsViewController::isMinutesHidden() const {
-    return integerForKey(settings_, timeTypeKey) != 2;
+    return settings::timeTypeSelection.read(settings_) != 2;
 }
 
 bool PreferencesColumnsViewController::isDurationHidden() const {
-    return integerForKey(settings_, timeTypeKey) != 3;
+    return settings::timeTypeSelection.read(settings_) != 3;
 }
 
 void PreferencesColumnsViewController::announce() {

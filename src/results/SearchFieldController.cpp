@@ -1,12 +1,11 @@
 #include "results/SearchFieldController.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 
 namespace quillet {
 
 namespace {
-
-const QString viewModeKey = QStringLiteral("viewMode");
 
 constexpr qint64 eventsView = 0;
 constexpr qint64 remindersView = 1;
@@ -84,7 +83,8 @@ SearchFieldController::SearchFieldController(const Collaborators& collaborators)
     : with_(collaborators) {}
 
 void SearchFieldController::awakeFromNib() {
-    viewModeObservation_ = with_.settings.observe(viewModeKey, [this] { setSearchFieldMode(); });
+    viewModeObservation_ =
+        settings::viewMode.observe(with_.settings, [this] { setSearchFieldMode(); });
     setSearchFieldMode();
 }
 
@@ -132,7 +132,7 @@ void SearchFieldController::updateFilter() {
 }
 
 qint64 SearchFieldController::viewMode() const {
-    return integerForKey(with_.settings, viewModeKey);
+    return settings::viewMode.read(with_.settings);
 }
 
 } // namespace quillet
