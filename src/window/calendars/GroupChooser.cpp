@@ -1,5 +1,6 @@
 #include "window/calendars/GroupChooser.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 #include "window/main/NameListModel.h"
 #include "window/preferences/SettingsBinding.h"
@@ -12,12 +13,6 @@
 
 namespace quillet {
 
-namespace {
-
-const QString indexKey = QStringLiteral("calendarGroupsSelectedIndex");
-
-} // namespace
-
 GroupChooser::GroupChooser(const WindowGroups& groups, SettingsStore& settings, QWidget& window)
     : QWidget(&window)
     , with_(groups)
@@ -26,7 +21,7 @@ GroupChooser::GroupChooser(const WindowGroups& groups, SettingsStore& settings, 
     , chooser_(new NamedComboBox(this)) {
     chooser_->setAccessibleName(localized("Calendar Group"));
     chooser_->setToolTip(localized("The calendars of the chosen group are listed"));
-    chooser_->setObjectName(indexKey);
+    chooser_->setObjectName(settings::calendarGroupsSelectedIndex.name());
     // A long name must widen neither the pane nor the list that opens.
     chooser_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     chooser_->setMinimumContentsLength(8);
@@ -54,7 +49,8 @@ GroupChooser::GroupChooser(const WindowGroups& groups, SettingsStore& settings, 
     });
     connect(&with_.groups, &ListControllerNotices::arrangedObjectsChanged, this,
             &GroupChooser::showGroups);
-    observeWhileAlive(*this, settings, indexKey, [this] { showGroups(); });
+    observeWhileAlive(*this, settings, settings::calendarGroupsSelectedIndex,
+                      [this] { showGroups(); });
     showGroups();
 }
 

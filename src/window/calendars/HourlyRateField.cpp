@@ -1,5 +1,6 @@
 #include "window/calendars/HourlyRateField.h"
 
+#include "platform/Settings.h"
 #include "window/calendars/RateEditing.h"
 #include "window/preferences/SettingsBinding.h"
 
@@ -9,29 +10,23 @@
 
 namespace quillet {
 
-namespace {
-
-const QString rateKey = QStringLiteral("hourlyRate");
-
-} // namespace
-
 EditedRate sharedRate(SettingsStore& settings) {
     return {.owner = [] { return QString(); },
             .rate =
                 [&settings] {
-                    const Decimal rate = decimalFromValue(settings.object(rateKey));
+                    const Decimal rate = settings::hourlyRate.read(settings);
                     return std::optional(rate.isNaN() ? Decimal() : rate);
                 },
             .setRate =
                 [&settings](const Decimal& rate) {
-                    if (decimalFromValue(settings.object(rateKey)) != rate) {
-                        settings.setObject(rateKey, QVariant::fromValue(rate));
+                    if (settings::hourlyRate.read(settings) != rate) {
+                        settings::hourlyRate.write(settings, rate);
                     }
                 },
             .remember = [&settings]() -> std::function<void()> {
-                return [&settings, old = settings.object(rateKey)] {
-                    if (settings.object(rateKey) != old) {
-                        settings.setObject(rateKey, old);
+                return [&settings, old = settings.object(settings::hourlyRate.name())] {
+                    if (settings.object(settings::hourlyRate.name()) != old) {
+                        settings.setObject(settings::hourlyRate.name(), old);
                     }
                 };
             }};
@@ -50,7 +45,7 @@ HourlyRateField::HourlyRateField(SettingsStore& settings, const LocaleFormats& f
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(edit_);
     layout->addWidget(complaint_, 1);
-    observeWhileAlive(*this, settings, rateKey, [this] { editing_->refresh(); });
+    observeWhileAlive(*this, settings, settings::hourlyRate, [this] { editing_->refresh(); });
 }
 
 HourlyRateField::~HourlyRateField() {

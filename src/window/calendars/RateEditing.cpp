@@ -1,5 +1,6 @@
 #include "window/calendars/RateEditing.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 
 #include <QLabel>
@@ -15,7 +16,7 @@ RateEditing::RateEditing(QLineEdit& edit, QLabel& complaint, const LocaleFormats
     , complaint_(complaint)
     , formats_(formats)
     , edited_(std::move(edited)) {
-    edit_.setObjectName(QStringLiteral("hourlyRate"));
+    edit_.setObjectName(settings::hourlyRate.name());
     edit_.setAlignment(Qt::AlignRight);
     complaint_.setObjectName(QStringLiteral("hourlyRateProblem"));
     connect(&edit_, &QLineEdit::textEdited, this, &RateEditing::takeTyped);

@@ -1,5 +1,6 @@
 #include "window/calendars/RatePane.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 #include "window/calendars/HourlyRateField.h"
 #include "window/preferences/SettingsBinding.h"
@@ -10,13 +11,6 @@
 #include <QLineEdit>
 
 namespace quillet {
-
-namespace {
-
-const QString singleRateKey = QStringLiteral("isSingleRate");
-const QString hourlyRateKey = QStringLiteral("hourlyRate");
-
-} // namespace
 
 RatePane::RatePane(CalendarsArrayController& calendars, EventItemViewController& labels,
                    SettingsStore& settings, const LocaleFormats& formats, QWidget* parent)
@@ -29,7 +23,7 @@ RatePane::RatePane(CalendarsArrayController& calendars, EventItemViewController&
     , complaint_(new ElidedLabel(this))
     , editing_(new RateEditing(*field_, *complaint_, formats, editedRate())) {
     auto* single = new QCheckBox(localized("&One rate for all calendars"), this);
-    bindCheckBox(*single, settings_, singleRateKey);
+    bindCheckBox(*single, settings_, settings::isSingleRate);
     field_->setAccessibleName(localized("Hourly Rate"));
     const int digit = fontMetrics().horizontalAdvance(u'0');
     field_->setMinimumWidth(digit * 8);
@@ -48,8 +42,9 @@ RatePane::RatePane(CalendarsArrayController& calendars, EventItemViewController&
     connect(&labels_, &EventItemViewController::hourlyRateLabelStringChanged, this,
             &RatePane::refresh);
     connect(&calendars_, &ListControllerNotices::selectedObjectsChanged, this, &RatePane::refresh);
-    for (const QString& key : {singleRateKey, hourlyRateKey, QStringLiteral("calendars")}) {
-        observeWhileAlive(*this, settings_, key, [this] { refresh(); });
+    for (const SettingKey* key :
+         settingGroup(settings::isSingleRate, settings::hourlyRate, settings::calendars)) {
+        observeWhileAlive(*this, settings_, *key, [this] { refresh(); });
     }
     refresh();
 }
@@ -60,7 +55,7 @@ RatePane::~RatePane() {
 }
 
 bool RatePane::isSingleRate() const {
-    return boolForKey(settings_, singleRateKey);
+    return settings::isSingleRate.read(settings_);
 }
 
 void RatePane::refresh() {

@@ -1,5 +1,6 @@
 #include "window/exports/NotesPane.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 #include "window/exports/StyledTextView.h"
 #include "window/preferences/SettingsBinding.h"
@@ -18,21 +19,21 @@ NotesPane::NotesPane(StyledTextView* view, EventNotesViewController& notes, Sett
     , notes_(notes)
     , view_(view) {
     struct Switch {
-        const char* key;
+        const Setting<bool>* setting;
         const char* text;
         const char* toolTip;
     };
-    for (const Switch& item : {Switch{"isEventNotesCalendar", localizable("Calendar"),
+    for (const Switch& item : {Switch{&settings::isEventNotesCalendar, localizable("Calendar"),
                                       localizable("Tell the calendar in each heading")},
-                               Switch{"isEventNotesDate", localizable("Date"),
+                               Switch{&settings::isEventNotesDate, localizable("Date"),
                                       localizable("Tell the date in each heading")},
-                               Switch{"isEventNotesTitle", localizable("Title"),
+                               Switch{&settings::isEventNotesTitle, localizable("Title"),
                                       localizable("Tell the title in each heading")},
-                               Switch{"isEventNotesLocation", localizable("Location"),
+                               Switch{&settings::isEventNotesLocation, localizable("Location"),
                                       localizable("Tell the location in each heading")}}) {
         auto* box = new QCheckBox(localized(item.text), this);
         box->setToolTip(localized(item.toolTip));
-        bindCheckBox(*box, settings, QString::fromLatin1(item.key));
+        bindCheckBox(*box, settings, *item.setting);
         addSwitch(*box);
     }
     refreshing_.setSingleShot(true);

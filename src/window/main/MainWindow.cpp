@@ -1,5 +1,6 @@
 #include "window/main/MainWindow.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 #include "window/calendars/CalendarPane.h"
 #include "window/calendars/RatePane.h"
@@ -32,9 +33,6 @@
 namespace quillet {
 
 namespace {
-
-const QString accessKey = QStringLiteral("isCalendarAccessGranted");
-const QString progressKey = QStringLiteral("isProgressIndicatorOn");
 
 QFrame* line() {
     auto* frame = new QFrame;
@@ -138,7 +136,7 @@ void MainWindow::makeColumnLayoutsButton() {
     columnLayoutsButton_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     columnLayoutsButton_->setAutoRaise(true);
     columnLayoutsButton_->setFocusPolicy(Qt::TabFocus);
-    columnLayoutsButton_->setObjectName(QStringLiteral("columnLayouts"));
+    columnLayoutsButton_->setObjectName(settings::columnLayouts.name());
     columnLayoutsButton_->setToolTip(localized("Keeps arrangements of the columns under names"));
     connect(columnLayoutsButton_, &QToolButton::clicked, this,
             [this] { columnLayoutsPopover_.showColumnLayoutsPopover(*columnLayoutsButton_); });
@@ -184,11 +182,12 @@ void MainWindow::followState() {
             reason);
     connect(&with_.calendarsArrayController, &ListControllerNotices::arrangedObjectsChanged, this,
             reason);
-    for (const QString& key : {accessKey, progressKey}) {
-        observeWhileAlive(*this, with_.settings, key, reason);
+    for (const SettingKey* key :
+         settingGroup(settings::isCalendarAccessGranted, settings::isProgressIndicatorOn)) {
+        observeWhileAlive(*this, with_.settings, *key, reason);
     }
-    observeWhileAlive(*this, with_.settings, progressKey, [this] {
-        if (!boolForKey(with_.settings, progressKey)) {
+    observeWhileAlive(*this, with_.settings, settings::isProgressIndicatorOn, [this] {
+        if (!settings::isProgressIndicatorOn.read(with_.settings)) {
             // A query may have found one, or shown that one is gone.
             refreshProblems();
         }
@@ -213,7 +212,7 @@ void MainWindow::showPeriodTitle() {
 
 void MainWindow::showTableOrReason() {
     // While a fetch runs what was shown stays, so that nothing flickers.
-    if (boolForKey(with_.settings, progressKey) &&
+    if (settings::isProgressIndicatorOn.read(with_.settings) &&
         with_.eventsArrayController.arrangedCount() == 0) {
         return;
     }
@@ -222,7 +221,7 @@ void MainWindow::showTableOrReason() {
     for (std::size_t row = 0; row < calendars.arrangedCount(); ++row) {
         isAnyTicked = isAnyTicked || calendars.arranged(row).isSelected;
     }
-    if (!boolForKey(with_.settings, accessKey)) {
+    if (!settings::isCalendarAccessGranted.read(with_.settings)) {
         emptyState_->show(localized("Quillet may not read your calendars yet"),
                           localized("Your events appear here once you allow it."),
                           localized("Allow Calendar Access…"), with_.calendarActions.allowAccess);

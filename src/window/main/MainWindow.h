@@ -10,6 +10,7 @@
 #include "export/ExportTSV.h"
 #include "export/ExportTXT.h"
 #include "period/DateInspectorController.h"
+#include "platform/Setting.h"
 #include "results/EventNotesViewController.h"
 #include "results/SearchFieldController.h"
 #include "window/calendars/CalendarListModel.h"
@@ -134,7 +135,7 @@ private:
     void makeHelpMenu();
     QAction* addAction(QMenu& menu, const QString& text, const char* name,
                        const QKeySequence& shortcut, std::function<void()> action);
-    void addExportPaneAction(QMenu& menu, const QString& text, const QString& paneKey,
+    void addExportPaneAction(QMenu& menu, const QString& text, const Setting<bool>& pane,
                              const QKeySequence& shortcut);
     void makeStepActions();
     /// Without access to the calendars the period stays as it is.

@@ -1,3 +1,4 @@
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 #include "window/events/EventTableView.h"
 #include "window/exports/NotesPane.h"
@@ -10,13 +11,6 @@
 #include <QPointer>
 
 namespace quillet {
-
-namespace {
-
-const QString txtPaneKey = QStringLiteral("isExportTXTViewOn");
-const QString notesPaneKey = QStringLiteral("isNotesViewOn");
-
-} // namespace
 
 void MainWindow::makeExportActions() {
     ExportItems& items = with_.exportItems;
@@ -54,14 +48,14 @@ void MainWindow::makeExportActions() {
     items.mail.action().setShortcut(QKeySequence(Qt::CTRL | Qt::Key_M));
 }
 
-void MainWindow::addExportPaneAction(QMenu& menu, const QString& text, const QString& paneKey,
+void MainWindow::addExportPaneAction(QMenu& menu, const QString& text, const Setting<bool>& pane,
                                      const QKeySequence& shortcut) {
-    const bool isReport = paneKey == txtPaneKey;
-    const QString& otherKey = isReport ? notesPaneKey : txtPaneKey;
+    const bool isReport = &pane == &settings::isExportTXTViewOn;
+    const Setting<bool>& other = isReport ? settings::isNotesViewOn : settings::isExportTXTViewOn;
     QAction* action =
         addAction(menu, text, isReport ? "displayTxtExportView" : "displayNotesExportView",
-                  shortcut, [this, paneKey, isReport] {
-                      const bool isOpen = boolForKey(with_.settings, paneKey);
+                  shortcut, [this, &pane, isReport] {
+                      const bool isOpen = pane.read(with_.settings);
                       if (isReport) {
                           isOpen ? closeExportPane(&AppViewsController::turnTxtExportViewOff)
                                  : views_->exportTxtToolbarItemClicked();
@@ -71,12 +65,12 @@ void MainWindow::addExportPaneAction(QMenu& menu, const QString& text, const QSt
                       }
                   });
     action->setCheckable(true);
-    const auto follow = [this, action, paneKey, otherKey] {
-        action->setChecked(boolForKey(with_.settings, paneKey));
-        action->setEnabled(!boolForKey(with_.settings, otherKey));
+    const auto follow = [this, action, &pane, &other] {
+        action->setChecked(pane.read(with_.settings));
+        action->setEnabled(!other.read(with_.settings));
     };
-    for (const QString& key : {paneKey, otherKey}) {
-        observeWhileAlive(*action, with_.settings, key, follow);
+    for (const SettingKey* key : settingGroup(pane, other)) {
+        observeWhileAlive(*action, with_.settings, *key, follow);
     }
     follow();
 }
@@ -119,7 +113,7 @@ void MainWindow::closeExportPane(void (AppViewsController::*turnOff)()) {
 }
 
 void MainWindow::mail() {
-    if (boolForKey(with_.settings, notesPaneKey)) {
+    if (settings::isNotesViewOn.read(with_.settings)) {
         with_.exports.notes.sendToMail();
     } else {
         with_.exports.text.sendToMail();
@@ -130,8 +124,9 @@ void MainWindow::followExportPanes() {
     const auto follow = [this] {
         panes_->setCentreDividerDraggable(!views_->effectiveRect(QRectF(rect())).isEmpty());
     };
-    for (const QString& key : {txtPaneKey, notesPaneKey}) {
-        observeWhileAlive(*this, with_.settings, key, follow);
+    for (const SettingKey* key :
+         settingGroup(settings::isExportTXTViewOn, settings::isNotesViewOn)) {
+        observeWhileAlive(*this, with_.settings, *key, follow);
     }
     follow();
 }

@@ -1,5 +1,6 @@
 #include "window/main/MainWindow.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 #include "window/events/ColumnLayoutsMenu.h"
 #include "window/events/ColumnsMenu.h"
@@ -157,28 +158,27 @@ void MainWindow::makeEditMenu() {
 
 void MainWindow::makeViewMenu() {
     QMenu& menu = *menuBar()->addMenu(localized("&View"));
-    addExportPaneAction(menu, localized("&Text Report"), QStringLiteral("isExportTXTViewOn"),
+    addExportPaneAction(menu, localized("&Text Report"), settings::isExportTXTViewOn,
                         QKeySequence(Qt::CTRL | Qt::Key_R));
-    addExportPaneAction(menu, localized("Event &Notes"), QStringLiteral("isNotesViewOn"),
+    addExportPaneAction(menu, localized("Event &Notes"), settings::isNotesViewOn,
                         QKeySequence(Qt::CTRL | Qt::Key_E));
     menu.addSeparator();
-    bindAction(*menu.addAction(localized("&Money")), with_.settings, QStringLiteral("isDollarsOn"));
+    bindAction(*menu.addAction(localized("&Money")), with_.settings, settings::isDollarsOn);
     menu.addSeparator();
     auto* group = new QActionGroup(this);
-    const QString timeTypeKey = QStringLiteral("timeTypeSelection");
     constexpr std::array texts{localizable("Time as &Hours"), localizable("Time as M&inutes"),
                                localizable("Time as &Duration")};
     for (qint64 number = 1; number <= static_cast<qint64>(texts.size()); ++number) {
         QAction* action = menu.addAction(localized(texts[static_cast<std::size_t>(number - 1)]));
         action->setCheckable(true);
         action->setActionGroup(group);
-        const auto refresh = [this, action, number, timeTypeKey] {
-            action->setChecked(integerForKey(with_.settings, timeTypeKey) == number);
+        const auto refresh = [this, action, number] {
+            action->setChecked(settings::timeTypeSelection.read(with_.settings) == number);
         };
         refresh();
-        observeWhileAlive(*action, with_.settings, timeTypeKey, refresh);
+        observeWhileAlive(*action, with_.settings, settings::timeTypeSelection, refresh);
         connect(action, &QAction::triggered, this,
-                [this, number, timeTypeKey] { with_.settings.setObject(timeTypeKey, number); });
+                [this, number] { settings::timeTypeSelection.write(with_.settings, number); });
     }
     menu.addSeparator();
     makeColumnsMenu(menu);

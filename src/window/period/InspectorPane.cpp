@@ -1,5 +1,6 @@
 #include "window/period/InspectorPane.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 #include "window/preferences/SettingsBinding.h"
 #include "window/widgets/PeriodPicker.h"
@@ -75,7 +76,7 @@ InspectorPane::InspectorPane(DateInspectorController& inspector, SettingsStore& 
             &InspectorPane::showPeriod);
     connect(&inspector_, &DateInspectorController::isInterfaceEnabledChanged, this,
             [this] { setEnabled(inspector_.isInterfaceEnabled()); });
-    observeWhileAlive(*this, settings, QStringLiteral("quickDatePeriod"), [this] { showPeriod(); });
+    observeWhileAlive(*this, settings, settings::quickDatePeriod, [this] { showPeriod(); });
     setEnabled(inspector_.isInterfaceEnabled());
     showPeriod();
 }

@@ -1,14 +1,16 @@
 #include "window/period/PeriodLabels.h"
 
+#include "platform/Settings.h"
+
 #include <QWidget>
 
 namespace quillet {
 
 namespace {
 
-void writeIfOther(SettingsStore& settings, const QString& key, const QVariant& value) {
-    if (settings.object(key) != value) {
-        settings.setObject(key, value);
+void writeIfOther(SettingsStore& store, const SettingKey& setting, const QVariant& value) {
+    if (store.object(setting.name()) != value) {
+        store.setObject(setting.name(), value);
     }
 }
 
@@ -17,13 +19,12 @@ void writeIfOther(SettingsStore& settings, const QString& key, const QVariant& v
 void followReportingPeriod(EventItemViewController& labels, DateInspectorController& inspector,
                            SettingsStore& settings) {
     const auto follow = [&labels, &inspector, &settings] {
-        writeIfOther(settings, QStringLiteral("quickDatePeriodIndex"),
-                     inspector.quickDatePeriodIndex());
-        writeIfOther(settings, QStringLiteral("isCustomDateOn"), inspector.isCustomDateOn());
-        writeIfOther(settings, QStringLiteral("eventStartDate"),
-                     settings.object(QStringLiteral("filterStartDate")));
-        writeIfOther(settings, QStringLiteral("eventEndDate"),
-                     settings.object(QStringLiteral("filterEndDate")));
+        writeIfOther(settings, settings::quickDatePeriodIndex, inspector.quickDatePeriodIndex());
+        writeIfOther(settings, settings::isCustomDateOn, inspector.isCustomDateOn());
+        writeIfOther(settings, settings::eventStartDate,
+                     settings.object(settings::filterStartDate.name()));
+        writeIfOther(settings, settings::eventEndDate,
+                     settings.object(settings::filterEndDate.name()));
         labels.setPeriodLabel();
         labels.setDateRangeLabel();
     };

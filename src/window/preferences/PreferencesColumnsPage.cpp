@@ -1,6 +1,7 @@
 #include "window/preferences/PreferencesColumnsPage.h"
 
 #include "eventtable/EventColumns.h"
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 #include "window/preferences/SettingsBinding.h"
 
@@ -81,7 +82,7 @@ QWidget* PreferencesColumnsPage::makeTimeType() {
     timeType->addItem(localized("Hours"), 1);
     timeType->addItem(localized("Minutes"), 2);
     timeType->addItem(localized("Duration"), 3);
-    bindComboBox(*timeType, settings(), QStringLiteral("timeTypeSelection"));
+    bindComboBox(*timeType, settings(), settings::timeTypeSelection);
     const QString label = localized("Show &time as:");
     timeType->setAccessibleName(spokenLabel(label));
     timeType->setToolTip(localized("Which time column the table, the results and reports show"));
@@ -104,9 +105,9 @@ void PreferencesColumnsPage::addColumns(QGridLayout& grid) {
 void PreferencesColumnsPage::addColumn(QGridLayout& grid, const EventColumn& column, int place) {
     const int rows = (static_cast<int>(eventColumns().size()) - 2) / 2;
     auto* box = makeCheckBox(
-        {column.visibilityKey, column.defaultTitle,
-         isMoneyColumn(column) ? localizable("The table has this column only while money is shown")
-                               : nullptr});
+        QString::fromLatin1(column.visibilityKey), column.defaultTitle,
+        isMoneyColumn(column) ? localizable("The table has this column only while money is shown")
+                              : nullptr);
     auto* title = new QLineEdit(&body());
     title->setAccessibleName(localized("Title of “%1”").arg(localized(column.defaultTitle)));
     bindLineEdit(*title, settings(), QString::fromLatin1(column.titleKey));

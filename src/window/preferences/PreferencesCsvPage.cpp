@@ -1,5 +1,6 @@
 #include "window/preferences/PreferencesCsvPage.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 
 #include <QLabel>
@@ -12,21 +13,21 @@ namespace quillet {
 namespace {
 
 constexpr std::array<PreferencesSwitch, 2> recordSwitches{{
-    {"isCSVHeader", localizable("Write a &header record"),
+    {&settings::isCSVHeader, localizable("Write a &header record"),
      localizable("The first line of the file names the columns")},
-    {"isCSVIncludeUID", localizable("Write the event's &identifier"),
+    {&settings::isCSVIncludeUID, localizable("Write the event's &identifier"),
      localizable("The first column is the calendar's own identifier of the event")},
 }};
 
 constexpr std::array<PreferencesSwitch, 4> quoteSwitches{{
-    {"isCSVQuotesForTitle", localizable("&Titles"), nullptr},
-    {"isCSVQuotesForNote", localizable("&Notes"), nullptr},
-    {"isCSVQuotesForLocation", localizable("&Locations"), nullptr},
-    {"isCSVQuotesForCalendar", localizable("C&alendars"), nullptr},
+    {&settings::isCSVQuotesForTitle, localizable("&Titles"), nullptr},
+    {&settings::isCSVQuotesForNote, localizable("&Notes"), nullptr},
+    {&settings::isCSVQuotesForLocation, localizable("&Locations"), nullptr},
+    {&settings::isCSVQuotesForCalendar, localizable("C&alendars"), nullptr},
 }};
 
 constexpr std::array<PreferencesSwitch, 1> lineSwitches{{
-    {"isCSVRemoveReturns", localizable("Replace line &breaks by blanks"),
+    {&settings::isCSVRemoveReturns, localizable("Replace line &breaks by blanks"),
      localizable("In titles, notes, locations and calendars, for programs that take every line for "
                  "an event")},
 }};

@@ -28,11 +28,16 @@ QSize PreferencesPage::sizeHint() const {
 }
 
 QCheckBox* PreferencesPage::makeCheckBox(const PreferencesSwitch& each) {
-    auto* box = new QCheckBox(localized(each.label), &body());
-    if (each.toolTip != nullptr) {
-        box->setToolTip(localized(each.toolTip));
+    return makeCheckBox(each.setting->name(), each.label, each.toolTip);
+}
+
+QCheckBox* PreferencesPage::makeCheckBox(const QString& key, const char* label,
+                                         const char* toolTip) {
+    auto* box = new QCheckBox(localized(label), &body());
+    if (toolTip != nullptr) {
+        box->setToolTip(localized(toolTip));
     }
-    bindCheckBox(*box, settings_, QString::fromLatin1(each.key));
+    bindCheckBox(*box, settings_, key);
     return box;
 }
 

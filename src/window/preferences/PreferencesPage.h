@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/SettingsStore.h"
+#include "platform/Setting.h"
 
 #include <QScrollArea>
 
@@ -11,9 +11,9 @@ class QLabel;
 
 namespace quillet {
 
-/// What a switch of the preferences shows, in English, and the settings key that it stands for.
+/// What a switch of the preferences shows, in English, and the setting that it stands for.
 struct PreferencesSwitch {
-    const char* key;
+    const Setting<bool>* setting;
     const char* label;
     /// Null where the label says it all.
     const char* toolTip = nullptr;
@@ -33,6 +33,9 @@ protected:
     /// The parent of the controls.
     [[nodiscard]] QWidget& body() const { return *widget(); }
     [[nodiscard]] QCheckBox* makeCheckBox(const PreferencesSwitch& each);
+    /// The same by the key of the setting.
+    [[nodiscard]] QCheckBox* makeCheckBox(const QString& key, const char* label,
+                                          const char* toolTip);
     /// A titled box of switches in columns, filled from the top and then from the left.
     [[nodiscard]] QWidget* makeGroup(const QString& title,
                                      std::span<const PreferencesSwitch> switches, int columns);

@@ -1,5 +1,6 @@
 #include "window/preferences/PreferencesRemindersPage.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 
 #include <QHBoxLayout>
@@ -13,28 +14,30 @@ namespace quillet {
 namespace {
 
 constexpr std::array<PreferencesSwitch, 9> csvSwitches{{
-    {"isTodoCSVIncludeUID", localizable("Identifier"),
+    {&settings::isTodoCSVIncludeUID, localizable("Identifier"),
      localizable("The calendar's own identifier of the reminder")},
-    {"isTodoCSVCalendar", localizable("Calendar"), nullptr},
-    {"isTodoCSVTitle", localizable("Title"), nullptr},
-    {"isTodoCSVCompleted", localizable("Completed"), localizable("Whether the reminder is done")},
-    {"isTodoCSVCompletedDate", localizable("Completion date"), nullptr},
-    {"isTodoCSVPriority", localizable("Priority"), nullptr},
-    {"isTodoCSVDueDate", localizable("Due date"), nullptr},
-    {"isTodoCSVURL", localizable("URL"), nullptr},
-    {"isTodoCSVNotes", localizable("Notes"), nullptr},
+    {&settings::isTodoCSVCalendar, localizable("Calendar"), nullptr},
+    {&settings::isTodoCSVTitle, localizable("Title"), nullptr},
+    {&settings::isTodoCSVCompleted, localizable("Completed"),
+     localizable("Whether the reminder is done")},
+    {&settings::isTodoCSVCompletedDate, localizable("Completion date"), nullptr},
+    {&settings::isTodoCSVPriority, localizable("Priority"), nullptr},
+    {&settings::isTodoCSVDueDate, localizable("Due date"), nullptr},
+    {&settings::isTodoCSVURL, localizable("URL"), nullptr},
+    {&settings::isTodoCSVNotes, localizable("Notes"), nullptr},
 }};
 
 constexpr std::array<PreferencesSwitch, 9> textSwitches{{
-    {"isTodoTXTIncludeCount", localizable("Number of reminders"), nullptr},
-    {"isTodoTXTCalendar", localizable("Calendar"), nullptr},
-    {"isTodoTXTTitle", localizable("Title"), nullptr},
-    {"isTodoTXTCompleted", localizable("Completed"), localizable("Whether the reminder is done")},
-    {"isTodoTXTCompletedDate", localizable("Completion date"), nullptr},
-    {"isTodoTXTPriority", localizable("Priority"), nullptr},
-    {"isTodoTXTDueDate", localizable("Due date"), nullptr},
-    {"isTodoTXTURL", localizable("URL"), nullptr},
-    {"isTodoTXTNotes", localizable("Notes"), nullptr},
+    {&settings::isTodoTXTIncludeCount, localizable("Number of reminders"), nullptr},
+    {&settings::isTodoTXTCalendar, localizable("Calendar"), nullptr},
+    {&settings::isTodoTXTTitle, localizable("Title"), nullptr},
+    {&settings::isTodoTXTCompleted, localizable("Completed"),
+     localizable("Whether the reminder is done")},
+    {&settings::isTodoTXTCompletedDate, localizable("Completion date"), nullptr},
+    {&settings::isTodoTXTPriority, localizable("Priority"), nullptr},
+    {&settings::isTodoTXTDueDate, localizable("Due date"), nullptr},
+    {&settings::isTodoTXTURL, localizable("URL"), nullptr},
+    {&settings::isTodoTXTNotes, localizable("Notes"), nullptr},
 }};
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "window/preferences/PreferencesTextPage.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 #include "window/preferences/SettingsBinding.h"
 
@@ -17,24 +18,29 @@ namespace {
 
 /// In the order of the report's lines, so that the boxes look like the report.
 constexpr std::array<PreferencesSwitch, 10> headerSwitches{{
-    {"isTXTCalTitle", localizable("&Calendars"), localizable("The titles of the ticked calendars")},
-    {"isTXTBeginDate", localizable("&Beginning date"), localizable("The first day of the period")},
-    {"isTXTEndDate", localizable("E&nding date"), localizable("The last day of the period")},
-    {"isTXTTotalHours", localizable("&Total time"),
+    {&settings::isTXTCalTitle, localizable("&Calendars"),
+     localizable("The titles of the ticked calendars")},
+    {&settings::isTXTBeginDate, localizable("&Beginning date"),
+     localizable("The first day of the period")},
+    {&settings::isTXTEndDate, localizable("E&nding date"),
+     localizable("The last day of the period")},
+    {&settings::isTXTTotalHours, localizable("&Total time"),
      localizable("The sum in hours, minutes or as a duration")},
-    {"isTXTMin", localizable("S&hortest event"), nullptr},
-    {"isTXTMax", localizable("&Longest event"), nullptr},
-    {"isTXTAverage", localizable("&Average time"), localizable("The mean of an event")},
-    {"isTXTTotalDays", localizable("&Days"), localizable("On how many days there are events")},
-    {"isTXTTotalEvents", localizable("N&umber of events"), nullptr},
-    {"isTXTDollars", localizable("&Money"), localizable("Rate and cost, while money is shown")},
+    {&settings::isTXTMin, localizable("S&hortest event"), nullptr},
+    {&settings::isTXTMax, localizable("&Longest event"), nullptr},
+    {&settings::isTXTAverage, localizable("&Average time"), localizable("The mean of an event")},
+    {&settings::isTXTTotalDays, localizable("&Days"),
+     localizable("On how many days there are events")},
+    {&settings::isTXTTotalEvents, localizable("N&umber of events"), nullptr},
+    {&settings::isTXTDollars, localizable("&Money"),
+     localizable("Rate and cost, while money is shown")},
 }};
 
 constexpr std::array<PreferencesSwitch, 2> tableSwitches{{
-    {"isTXTWrapping", localizable("&Wrap long texts"),
+    {&settings::isTXTWrapping, localizable("&Wrap long texts"),
      localizable(
          "Texts that are longer than their column go on in the next line; when off, they are cut")},
-    {"isTXTSummaryRow", localizable("&Summary row"),
+    {&settings::isTXTSummaryRow, localizable("&Summary row"),
      localizable("A last row with the sums of the columns")},
 }};
 
@@ -47,12 +53,12 @@ PreferencesTextPage::PreferencesTextPage(SettingsStore& settings,
     auto* layout = new QVBoxLayout(&body());
     layout->addWidget(makeFreeText(localized("Te&xt above the report:"),
                                    localized("Stands before everything else in the report"),
-                                   QStringLiteral("txtHeader")));
+                                   settings::txtHeader));
     layout->addWidget(makeGroup(localized("Above the Table"), headerSwitches, 2));
     layout->addWidget(makeGroup(localized("Table"), tableSwitches, 2));
     layout->addWidget(makeFreeText(localized("Text below the repo&rt:"),
                                    localized("Stands behind everything else in the report"),
-                                   QStringLiteral("txtFooter")));
+                                   settings::txtFooter));
     auto* presets = new QPushButton(localized("&Presets…"), &body());
     presets->setObjectName(QStringLiteral("openTXTSettingsSheet"));
     presets->setToolTip(localized("Keeps all this under a name, and brings it back"));
@@ -63,7 +69,7 @@ PreferencesTextPage::PreferencesTextPage(SettingsStore& settings,
 }
 
 QWidget* PreferencesTextPage::makeFreeText(const QString& label, const QString& toolTip,
-                                           const QString& key) {
+                                           const Setting<QString>& setting) {
     auto* area = new QWidget(&body());
     auto* layout = new QVBoxLayout(area);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -75,7 +81,7 @@ QWidget* PreferencesTextPage::makeFreeText(const QString& label, const QString& 
     constexpr int shownLines = 3;
     text->setFixedHeight(text->fontMetrics().lineSpacing() * shownLines +
                          text->fontMetrics().height());
-    bindTextEdit(*text, settings(), key);
+    bindTextEdit(*text, settings(), setting);
     auto* caption = new QLabel(label, area);
     caption->setBuddy(text);
     layout->addWidget(caption);

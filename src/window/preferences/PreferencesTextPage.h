@@ -17,7 +17,7 @@ public:
 private:
     /// A label and a field of a few lines for one of the report's free texts.
     [[nodiscard]] QWidget* makeFreeText(const QString& label, const QString& toolTip,
-                                        const QString& key);
+                                        const Setting<QString>& setting);
 };
 
 } // namespace quillet

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/SettingsStore.h"
+#include "platform/Setting.h"
 
 #include <QObject>
 
@@ -28,5 +28,30 @@ void bindComboBox(QComboBox& box, SettingsStore& settings, const QString& key, i
 /// Calls back after each write of the key for as long as the owner lives.
 void observeWhileAlive(QObject& owner, SettingsStore& settings, const QString& key,
                        std::function<void()> callback);
+
+inline void bindCheckBox(QCheckBox& box, SettingsStore& store, const Setting<bool>& setting) {
+    bindCheckBox(box, store, setting.name());
+}
+inline void bindAction(QAction& action, SettingsStore& store, const Setting<bool>& setting) {
+    bindAction(action, store, setting.name());
+}
+inline void bindSpinBox(QSpinBox& box, SettingsStore& store, const Setting<qint64>& setting) {
+    bindSpinBox(box, store, setting.name());
+}
+inline void bindLineEdit(QLineEdit& edit, SettingsStore& store, const Setting<QString>& setting) {
+    bindLineEdit(edit, store, setting.name());
+}
+inline void bindTextEdit(QPlainTextEdit& edit, SettingsStore& store,
+                         const Setting<QString>& setting) {
+    bindTextEdit(edit, store, setting.name());
+}
+inline void bindComboBox(QComboBox& box, SettingsStore& store, const Setting<qint64>& setting,
+                         int otherIndex = -1) {
+    bindComboBox(box, store, setting.name(), otherIndex);
+}
+inline void observeWhileAlive(QObject& owner, SettingsStore& store, const SettingKey& setting,
+                              std::function<void()> callback) {
+    observeWhileAlive(owner, store, setting.name(), std::move(callback));
+}
 
 } // namespace quillet
