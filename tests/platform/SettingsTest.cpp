@@ -13,7 +13,8 @@ namespace quillet {
 
 namespace {
 
-/// A setting as it is told: its type, and its first-run value as JSON would have it, empty for none.
+/// A setting as it is told: its type, and its first-run value as JSON would have it, empty for
+/// none.
 struct Told {
     QString type;
     QString firstRun;
