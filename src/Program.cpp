@@ -64,51 +64,8 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
     , store_(present(folderStore_, calendarService_.get()))
     , mainQueue_(makeMainQueue())
     , timer_(makeOneShotTimer())
-    , eventKitManager_(store_, settings_, dialogs_, *mainQueue_)
-    , billing_(settings_, gregorian_)
-    , fields_(billing_, formats_, gregorian_, currentCalendar_)
-    , events_(eventIdentityHash, isSameEvent)
-    , calendars_(settings_, eventKitManager_, formats_, *timer_)
-    , calendarGroups_(settings_, dialogs_)
-    , calendarGroupsChecklist_(settings_, calendarGroups_)
-    , calendarGroupsFilter_({settings_, calendars_, calendarGroups_, *timer_})
     , fetchQueue_(makeBackgroundQueue(EventsController::backgroundEventFetchQueueLabel()))
-    , eventsController_({eventKitManager_, settings_, billing_, gregorian_, events_, calendars_,
-                         *fetchQueue_, *mainQueue_})
-    , missedChanges_({settings_, eventKitManager_, calendars_, *mainQueue_})
-    , dateInspector_({settings_, clock_, gregorian_, currentCalendar_, formats_})
     , collator_(locales_.collation)
-    , eventOrder_(fields_, currentCalendar_, collator_)
-    , eventModel_(events_, fields_, settings_)
-    , eventTable_(new EventTableView(
-          eventModel_, events_, settings_,
-          [this](const QString& column, SortDirection direction) {
-              return eventOrder_.sorter(column, direction);
-          },
-          headerTimeColumns_))
-    , resultsPane_(new ResultsPane(settings_))
-    , eventItemTableView_({events_, *eventTable_, fields_, pasteboard_})
-    , openCalendarEvent_({settings_, events_, scriptRunner_})
-    , eventItemView_({settings_, *eventTable_, items(menuTimeColumns_), items(headerTimeColumns_),
-                      calendars_, gregorian_, formats_})
-    , eventResults_({settings_, *resultsPane_, eventsController_, events_, billing_, formats_})
-    , columnLayouts_({settings_, *eventTable_, dialogs_})
-    , eventNotes_({settings_, events_, formats_, gregorian_})
-    , txtSettings_(settings_, dialogs_)
-    , exportTxtView_({settings_, *eventTable_, events_, calendars_, fields_})
-    , exportCSV_({settings_, *eventTable_, events_, fields_, dialogs_, dialogs_})
-    , exportTSV_({settings_, *eventTable_, events_, fields_, dialogs_, dialogs_})
-    , exportTXT_(
-          {settings_, formats_, dialogs_, dialogs_, scriptRunner_, installedPrograms_, textColor_,
-           dialogs_,
-           [this](const ExportProgress& progress) { return exportTxtView_.shownText(progress); }})
-    , exportNotes_(
-          {settings_, formats_, dialogs_, dialogs_, scriptRunner_, installedPrograms_, textColor_,
-           dialogs_,
-           [this](const ExportProgress& progress) { return eventNotes_.shownText(progress); }})
-    , reportFormats_(locales_, timeZone_)
-    , reportCalendar_(locales_.time, timeZone_, CalendarSystem::Gregorian)
-    , reportQueue_(makeBackgroundQueue(QStringLiteral("org.quillet.Quillet.textReport")))
     , updateDialogs_(formats_)
     , updater_({.presenter = updateDialogs_,
                 .address = releaseListAddress(),
@@ -117,9 +74,58 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
                 .openSoftwareCentre = [this] { return showInSoftwareCentre(taskLauncher_); },
                 .security = &QSslConfiguration::defaultConfiguration,
                 .limits = ReleaseListUpdater::usualLimits})
-    , appDelegate_({settings_, workspace_, taskLauncher_, updater_, toolbarItems(exportItems_),
-                    paths.releaseNotes})
-    , activation_(clock_, [this] { eventKitManager_.becomeActive(); }) {}
+    , resultsPane_(new ResultsPane(settings_))
+    , core_(seams())
+    , reportFormats_(locales_, timeZone_)
+    , reportCalendar_(locales_.time, timeZone_, CalendarSystem::Gregorian)
+    , reportQueue_(makeBackgroundQueue(QStringLiteral("org.quillet.Quillet.textReport")))
+    , activation_(clock_, [this] { core_.eventKitManager.becomeActive(); }) {}
+
+CoreSeams Program::seams() {
+    return {.settings = settings_,
+            .store = store_,
+            .clock = clock_,
+            .formats = formats_,
+            .gregorian = gregorian_,
+            .currentCalendar = currentCalendar_,
+            .collator = collator_,
+            .fetchQueue = *fetchQueue_,
+            .mainQueue = *mainQueue_,
+            .timer = *timer_,
+            .alerts = dialogs_,
+            .savePanel = dialogs_,
+            .progress = dialogs_,
+            .textColor = textColor_,
+            .pasteboard = pasteboard_,
+            .scriptRunner = scriptRunner_,
+            .installedPrograms = installedPrograms_,
+            .workspace = workspace_,
+            .taskLauncher = taskLauncher_,
+            .updater = updater_,
+            .releaseNotesPath = paths_.releaseNotes,
+            .makeTable = [this](const EventTableSource& source) -> ColumnTable& {
+                return makeTable(source);
+            },
+            .resultsPanel = *resultsPane_,
+            .menuItems = items(menuTimeColumns_),
+            .txtMenuItems = items(headerTimeColumns_),
+            .exportToolbarItems = toolbarItems(exportItems_)};
+}
+
+ColumnTable& Program::makeTable(const EventTableSource& source) {
+    eventModel_ = std::make_unique<EventTableModel>(source.events, source.fields, source.settings);
+    eventTable_ = new EventTableView(
+        *eventModel_, source.events, source.settings,
+        [&order = source.order](const QString& column, SortDirection direction) {
+            return order.sorter(column, direction);
+        },
+        headerTimeColumns_);
+    const QSettings state(paths_.stateFolder + windowStateFile, QSettings::IniFormat);
+    if (!eventTable_->restoreColumnState(state.value(QStringLiteral("columns")).toByteArray())) {
+        applyPlacements(defaultColumnPlacements(), *eventTable_);
+    }
+    return *eventTable_;
+}
 
 Program::~Program() {
     if (window_) {
@@ -133,77 +139,30 @@ Program::~Program() {
 }
 
 void Program::start() {
-    wake();
-    window_ = std::make_unique<MainWindow>(MainWindow::Collaborators{
-        settings_,
-        formats_,
-        gregorian_,
-        events_,
-        calendars_,
-        WindowGroups{calendarGroups_, calendarGroupsChecklist_, calendarGroupsFilter_},
-        dateInspector_,
-        eventItemView_,
-        exports(),
-        {columnLayouts_, txtSettings_},
-        appDelegate_,
-        *eventTable_,
-        *resultsPane_,
-        exportItems_,
-        menuTimeColumns_,
-        calendarActions()});
+    core_.wake();
+    window_ = std::make_unique<MainWindow>(
+        core_, MainWindow::Parts{
+                   .eventTable = *eventTable_,
+                   .resultsPane = *resultsPane_,
+                   .exportItems = exportItems_,
+                   .timeColumnActions = menuTimeColumns_,
+                   .reportBuilding = {*reportQueue_, *mainQueue_, reportFormats_, reportCalendar_},
+                   .calendarActions = calendarActions()});
     dialogs_.setWindow(window_.get());
     updateDialogs_.setWindow(window_.get());
     connectNotices();
-    appDelegate_.awakeFromNib();
-    appDelegate_.applicationDidFinishLaunching();
+    core_.finishLaunching();
     window_->restoreState(paths_.stateFolder + windowStateFile);
     window_->refreshProblems();
     window_->showMessage(settings_.startMessage().value_or(QString()));
     window_->show();
     serveDesktop();
-    QTimer::singleShot(0, window_.get(), [this] { becomeActiveFirst(); });
-}
-
-void Program::becomeActiveFirst() {
-    eventKitManager_.becomeActive();
-    // Access that was granted in an earlier run, whose settings are gone, is announced by nobody.
-    if (eventKitManager_.eventCalendarsAccessGranted()) {
-        calendars_.syncCalendars();
-    }
-}
-
-void Program::wake() {
-    billing_.migrateHourlyRate();
-    calendars_.awakeFromNib();
-    calendarGroups_.awakeFromNib();
-    calendarGroupsChecklist_.awakeFromNib();
-    calendarGroupsFilter_.awakeFromNib();
-    dateInspector_.awakeFromNib();
-    arrangeColumns();
-    eventTable_->follow(eventItemTableView_);
-    openCalendarEvent_.awakeFromNib();
-    eventTable_->follow(openCalendarEvent_);
-    eventResults_.awakeFromNib();
-    resultsPane_->follow(eventResults_);
-    columnLayouts_.awakeFromNib();
-    eventNotes_.awakeFromNib();
-    txtSettings_.awakeFromNib();
-    exportTxtView_.awakeFromNib();
-    eventItemView_.awakeFromNib();
-    missedChanges_.awakeFromNib();
-    eventsController_.awakeFromNib();
-}
-
-void Program::arrangeColumns() {
-    const QSettings state(paths_.stateFolder + windowStateFile, QSettings::IniFormat);
-    if (!eventTable_->restoreColumnState(state.value(QStringLiteral("columns")).toByteArray())) {
-        applyPlacements(defaultColumnPlacements(), *eventTable_);
-    }
+    QTimer::singleShot(0, window_.get(), [this] { core_.becomeActiveFirst(); });
 }
 
 void Program::connectNotices() {
-    QObject::connect(&eventKitManager_, &EventKitManager::accessGranted, window_.get(),
-                     [this] { appDelegate_.accessGranted(); });
+    QObject::connect(&core_.eventKitManager, &EventKitManager::accessGranted, window_.get(),
+                     [this] { core_.appDelegate.accessGranted(); });
     storeObservation_ = store_.observeChanges([this] { window_->refreshProblems(); });
     settingsProblemObservation_ = settings_.observeWriteProblem(
         [this](const QString& problem) { window_->showMessage(problem); });
@@ -231,16 +190,9 @@ void Program::perform(const QString& desktopAction) {
     const std::map<QString, PeriodKind> kinds{{QStringLiteral("this-week"), PeriodKind::Week},
                                               {QStringLiteral("this-month"), PeriodKind::Month}};
     if (const auto kind = kinds.find(desktopAction); kind != kinds.end()) {
-        dateInspector_.choosePeriodKind(kind->second);
-        dateInspector_.setQuickDates(PeriodStep::Current);
+        core_.dateInspector.choosePeriodKind(kind->second);
+        core_.dateInspector.setQuickDates(PeriodStep::Current);
     }
-}
-
-WindowExports Program::exports() {
-    return {exportCSV_,     exportTSV_,
-            exportTXT_,     exportNotes_,
-            exportTxtView_, {*reportQueue_, *mainQueue_, reportFormats_, reportCalendar_},
-            eventNotes_};
 }
 
 EventPlace Program::placeOf(const EventRequest& request) const {
@@ -248,7 +200,7 @@ EventPlace Program::placeOf(const EventRequest& request) const {
                      .file =
                          folderStore_.fileOf(request.calendarIdentifier, request.eventIdentifier),
                      .start = {}};
-    for (const Event& event : events_.selectedObjects()) {
+    for (const Event& event : core_.events.selectedObjects()) {
         if (event.details->eventIdentifier == request.eventIdentifier) {
             place.start =
                 QDateTime::fromMSecsSinceEpoch(event.startDate.time_since_epoch().count());
@@ -274,7 +226,7 @@ CalendarActions Program::calendarActions() {
                 },
             .colorOf =
                 [this](const QString& identifier) {
-                    for (const auto& calendar : eventKitManager_.eventCalendars()) {
+                    for (const auto& calendar : core_.eventKitManager.eventCalendars()) {
                         if (calendar->calendarIdentifier == identifier) {
                             return QColor(calendar->colorName);
                         }
@@ -285,9 +237,9 @@ CalendarActions Program::calendarActions() {
 
 void Program::askForAccessAgain() {
     access_.forget();
-    eventKitManager_.becomeActive();
+    core_.eventKitManager.becomeActive();
     if (access_.status() == AuthorizationStatus::Denied) {
-        eventKitManager_.becomeActive();
+        core_.eventKitManager.becomeActive();
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Core.h"
 #include "backends/activation/ApplicationService.h"
 #include "backends/combined/CalendarAccess.h"
 #include "backends/combined/CombinedEventStore.h"
@@ -11,20 +12,6 @@
 #include "backends/programs/DesktopScripting.h"
 #include "backends/settingsfile/SettingsFile.h"
 #include "backends/updates/ReleaseListUpdater.h"
-#include "calendars/CalendarGroupsArrayController.h"
-#include "calendars/CalendarGroupsArraySelectedCalendarsArrayController.h"
-#include "calendars/CalendarGroupsController.h"
-#include "eventdata/MissedChanges.h"
-#include "eventtable/ColumnLayoutsArrayController.h"
-#include "eventtable/EventItemTableView.h"
-#include "eventtable/EventOrder.h"
-#include "export/ExportNotes.h"
-#include "export/ExportTSV.h"
-#include "export/ExportTXT.h"
-#include "export/ExportTxtViewController.h"
-#include "export/TXTSettingsArrayController.h"
-#include "results/EventNotesViewController.h"
-#include "results/OpenCalendarEvent.h"
 #include "window/calendars/CalendarOffer.h"
 #include "window/events/EventTableModel.h"
 #include "window/events/EventTableView.h"
@@ -62,11 +49,9 @@ public:
 
 private:
     [[nodiscard]] CalendarActions calendarActions();
-    [[nodiscard]] WindowExports exports();
     [[nodiscard]] EventPlace placeOf(const EventRequest& request) const;
-    void wake();
-    void becomeActiveFirst();
-    void arrangeColumns();
+    [[nodiscard]] CoreSeams seams();
+    [[nodiscard]] ColumnTable& makeTable(const EventTableSource& source);
     void askForAccessAgain();
     void connectNotices();
     void serveDesktop();
@@ -95,45 +80,21 @@ private:
     CombinedEventStore store_;
     std::unique_ptr<SerialQueue> mainQueue_;
     std::unique_ptr<OneShotTimer> timer_;
-    EventKitManager eventKitManager_;
-    BillingSettingsSource billing_;
-    EventFields fields_;
-    ListController<Event> events_;
-    CalendarsArrayController calendars_;
-    CalendarGroupsArrayController calendarGroups_;
-    CalendarGroupsArraySelectedCalendarsArrayController calendarGroupsChecklist_;
-    CalendarGroupsController calendarGroupsFilter_;
     std::unique_ptr<SerialQueue> fetchQueue_;
-    EventsController eventsController_;
-    MissedChanges missedChanges_;
-    DateInspectorController dateInspector_;
+    IcuCollator collator_;
+    UpdateDialogs updateDialogs_;
+    ReleaseListUpdater updater_;
     TimeColumnActions menuTimeColumns_;
     TimeColumnActions headerTimeColumns_;
     ExportItems exportItems_;
-    IcuCollator collator_;
-    EventOrder eventOrder_;
-    EventTableModel eventModel_;
+    std::unique_ptr<EventTableModel> eventModel_;
     /// Belong to the window once that is built.
-    EventTableView* eventTable_;
+    EventTableView* eventTable_ = nullptr;
     ResultsPane* resultsPane_;
-    EventItemTableView eventItemTableView_;
-    OpenCalendarEvent openCalendarEvent_;
-    EventItemViewController eventItemView_;
-    EventResultsViewController eventResults_;
-    ColumnLayoutsArrayController columnLayouts_;
-    EventNotesViewController eventNotes_;
-    TXTSettingsArrayController txtSettings_;
-    ExportTxtViewController exportTxtView_;
-    ExportCSV exportCSV_;
-    ExportTSV exportTSV_;
-    ExportTXT exportTXT_;
-    ExportNotes exportNotes_;
+    Core core_;
     IcuLocaleFormats reportFormats_;
     IcuCalendarArithmetic reportCalendar_;
     std::unique_ptr<SerialQueue> reportQueue_;
-    UpdateDialogs updateDialogs_;
-    ReleaseListUpdater updater_;
-    AppDelegate appDelegate_;
     std::unique_ptr<MainWindow> window_;
     ActivationWatcher activation_;
     Observation storeObservation_;

@@ -1,20 +1,9 @@
-#include "app/AppDelegate.h"
 #include "app/AppViewsController.h"
+#include "app/Core.h"
 #include "app/PreferencesWindowController.h"
 #include "backends/icu/IcuCalendarArithmetic.h"
+#include "backends/icu/IcuCollator.h"
 #include "backends/icu/IcuLocaleFormats.h"
-#include "calendars/CalendarGroupsArrayController.h"
-#include "calendars/CalendarGroupsArraySelectedCalendarsArrayController.h"
-#include "calendars/CalendarGroupsController.h"
-#include "calendars/CalendarsArrayController.h"
-#include "eventdata/EventsController.h"
-#include "eventtable/ColumnLayoutsArrayController.h"
-#include "eventtable/EventItemViewController.h"
-#include "export/TXTSettingsArrayController.h"
-#include "export/TextReportRefresh.h"
-#include "period/DateInspectorController.h"
-#include "results/EventNotesViewController.h"
-#include "results/EventResultsViewController.h"
 #include "results/PreferencesColumnsViewController.h"
 #include "support/EventTableFake.h"
 #include "support/Fakes.h"
@@ -56,29 +45,45 @@ public:
     void setTokenizingCharacters(const QString&, const QString&) override {}
 };
 
-/// Every controller that has settings of its own, over one store.
+/// One start after the other over one store of settings.
 class FirstRunTest : public testing::Test {
 protected:
     /// One start of the program: all wake up, then the delegate hears of the launch.
     void launch() {
-        billing.migrateHourlyRate();
-        calendars.awakeFromNib();
-        groups.awakeFromNib();
-        checklist.awakeFromNib();
-        groupFilter.awakeFromNib();
-        dateInspector.awakeFromNib();
-        columns.awakeFromNib();
-        layouts.awakeFromNib();
-        events.awakeFromNib();
-        results.awakeFromNib();
-        preferencesColumns.awakeFromNib();
-        notes.awakeFromNib();
-        report.awakeFromNib();
-        presets.awakeFromNib();
-        panesController.awakeFromNib();
-        preferencesController.awakeFromNib();
-        delegate.awakeFromNib();
-        delegate.applicationDidFinishLaunching();
+        core = std::make_unique<Core>(seams());
+        core->wake();
+        PreferencesColumnsViewController(settings).awakeFromNib();
+        AppViewsController({settings, panes, button, button, button, button}).awakeFromNib();
+        PreferencesWindowController(settings, preferences).awakeFromNib();
+        core->finishLaunching();
+    }
+    [[nodiscard]] CoreSeams seams() {
+        return {.settings = settings,
+                .store = store,
+                .clock = clock,
+                .formats = formats,
+                .gregorian = calendar,
+                .currentCalendar = calendar,
+                .collator = collator,
+                .fetchQueue = background,
+                .mainQueue = main,
+                .timer = timer,
+                .alerts = alerts,
+                .savePanel = panel,
+                .progress = progress,
+                .textColor = textColor,
+                .pasteboard = pasteboard,
+                .scriptRunner = scripts,
+                .installedPrograms = installed,
+                .workspace = workspace,
+                .taskLauncher = launcher,
+                .updater = updater,
+                .releaseNotesPath = "/notes.rtf",
+                .makeTable = [this](const EventTableSource&) -> ColumnTable& { return table; },
+                .resultsPanel = resultsPanel,
+                .menuItems = {item, item, item},
+                .txtMenuItems = {item, item, item},
+                .exportToolbarItems = {&button}};
     }
 
     test::MemorySettings settings;
@@ -90,6 +95,12 @@ protected:
     test::FakeTable table = test::eventTable();
     test::FakeMenuItem item;
     test::FakeToolbarItem button;
+    test::FakeSavePanel panel;
+    test::FakeProgress progress;
+    test::FakeTextColor textColor;
+    test::FakePasteboard pasteboard;
+    test::FakeScriptRunner scripts;
+    test::FakeInstalledPrograms installed;
     test::FakeWorkspace workspace;
     test::FakeTaskLauncher launcher;
     test::FakeUpdater updater;
@@ -99,36 +110,8 @@ protected:
     SilentResults resultsPanel;
     IcuCalendarArithmetic calendar{"en_US", "UTC", CalendarSystem::Gregorian};
     IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "UTC"};
-    BillingSettingsSource billing{settings, calendar};
-    EventKitManager manager{store, settings, alerts, main};
-    ListController<Event> list{eventIdentityHash, isSameEvent};
-    CalendarsArrayController calendars{settings, manager, formats, timer};
-    CalendarGroupsArrayController groups{settings, alerts};
-    CalendarGroupsArraySelectedCalendarsArrayController checklist{settings, groups};
-    CalendarGroupsController groupFilter{{.settings = settings,
-                                          .calendarsArrayController = calendars,
-                                          .calendarGroupsArrayController = groups,
-                                          .timer = timer}};
-    DateInspectorController dateInspector{{settings, clock, calendar, calendar, formats}};
-    EventItemViewController columns{{.settings = settings,
-                                     .eventsTableView = table,
-                                     .menuItems = {item, item, item},
-                                     .txtMenuItems = {item, item, item},
-                                     .calendarsArrayController = calendars,
-                                     .calendar = calendar,
-                                     .formats = formats}};
-    ColumnLayoutsArrayController layouts{
-        {.settings = settings, .eventsTableView = table, .alerts = alerts}};
-    EventsController events{
-        {manager, settings, billing, calendar, list, calendars, background, main}};
-    EventResultsViewController results{{settings, resultsPanel, events, list, billing, formats}};
-    PreferencesColumnsViewController preferencesColumns{settings};
-    EventNotesViewController notes{{settings, list, formats, calendar}};
-    TextReportRefresh report{settings, list};
-    TXTSettingsArrayController presets{settings, alerts};
-    AppViewsController panesController{{settings, panes, button, button, button, button}};
-    PreferencesWindowController preferencesController{settings, preferences};
-    AppDelegate delegate{{settings, workspace, launcher, updater, {&button}, "/notes.rtf"}};
+    IcuCollator collator{"en_US"};
+    std::unique_ptr<Core> core;
 };
 
 } // namespace
@@ -138,6 +121,7 @@ TEST_F(FirstRunTest, TheFirstStartStoresExactlyTheseSettings) {
     QVariantMap expected;
     for (const char* key : {"allDayEventsNotIncluded",
                             "datesChangedTrigger",
+                            "hiddenColumnsChangedTrigger",
                             "isApplyColumnLayoutOn",
                             "isApplyTXTSettingsOn",
                             "isCSVIncludeUID",
@@ -165,8 +149,7 @@ TEST_F(FirstRunTest, TheFirstStartStoresExactlyTheseSettings) {
                             "isWeekdayColumn"}) {
         expected.insert(key, false);
     }
-    for (const char* key : {"hiddenColumnsChangedTrigger",
-                            "isCSVHeader",
+    for (const char* key : {"isCSVHeader",
                             "isCSVQuotesForCalendar",
                             "isCSVQuotesForLocation",
                             "isCSVQuotesForNote",

@@ -1,13 +1,10 @@
 #pragma once
 
+#include "app/Core.h"
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuCollator.h"
 #include "backends/icu/IcuLocaleFormats.h"
-#include "eventdata/MissedChanges.h"
 #include "eventtable/ColumnLayout.h"
-#include "eventtable/EventItemTableView.h"
-#include "eventtable/EventOrder.h"
-#include "results/OpenCalendarEvent.h"
 #include "support/EventSamples.h"
 #include "support/Fakes.h"
 #include "support/MemorySettings.h"
@@ -65,53 +62,21 @@ protected:
     }
 
     void open() {
-        calendars.awakeFromNib();
-        groups.awakeFromNib();
-        checklist.awakeFromNib();
-        groupsFilter.awakeFromNib();
-        inspector.awakeFromNib();
-        applyPlacements(defaultColumnPlacements(), *table);
-        table->follow(copying);
-        table->follow(opening);
-        opening.awakeFromNib();
-        results.awakeFromNib();
-        resultsPane->follow(results);
-        columnLayouts.awakeFromNib();
-        notes.awakeFromNib();
-        txtSettings.awakeFromNib();
-        report.awakeFromNib();
-        itemView.awakeFromNib();
-        missedChanges.awakeFromNib();
-        eventsController.awakeFromNib();
-        window = std::make_unique<MainWindow>(MainWindow::Collaborators{
-            settings,
-            formats,
-            gregorian,
-            events,
-            calendars,
-            WindowGroups{groups, checklist, groupsFilter},
-            inspector,
-            itemView,
-            WindowExports{exportCSV,
-                          exportTSV,
-                          exportTXT,
-                          exportNotes,
-                          report,
-                          {reportQueue, main, formats, gregorian},
-                          notes},
-            {columnLayouts, txtSettings},
-            delegate,
-            *table,
-            *resultsPane,
-            exportItems,
-            menuTimeColumns,
-            CalendarActions{
-                .addCalendar = [](const QString&) { return std::expected<void, QString>(); },
-                .allowAccess = [] {},
-                .problems = [this] { return problems; },
-                .colorOf = [](const QString&) { return QColor(Qt::red); }}});
-        delegate.awakeFromNib();
-        delegate.applicationDidFinishLaunching();
+        core.wake();
+        window = std::make_unique<MainWindow>(
+            core,
+            MainWindow::Parts{
+                .eventTable = *table,
+                .resultsPane = *resultsPane,
+                .exportItems = exportItems,
+                .timeColumnActions = menuTimeColumns,
+                .reportBuilding = {reportQueue, main, formats, gregorian},
+                .calendarActions = {
+                    .addCalendar = [](const QString&) { return std::expected<void, QString>(); },
+                    .allowAccess = [] {},
+                    .problems = [this] { return problems; },
+                    .colorOf = [](const QString&) { return QColor(Qt::red); }}});
+        core.finishLaunching();
         window->show();
         fetch();
     }
@@ -149,68 +114,76 @@ protected:
     QStringList problems;
     IcuCalendarArithmetic gregorian{"en_US", "UTC", CalendarSystem::Gregorian};
     IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "UTC"};
-    EventKitManager manager{store, settings, alerts, main};
-    BillingSettingsSource billing{settings, gregorian};
-    EventFields fields{billing, formats, gregorian, gregorian};
-    ListController<Event> events{eventIdentityHash, isSameEvent};
-    CalendarsArrayController calendars{settings, manager, formats, timer};
-    CalendarGroupsArrayController groups{settings, alerts};
-    CalendarGroupsArraySelectedCalendarsArrayController checklist{settings, groups};
-    CalendarGroupsController groupsFilter{{settings, calendars, groups, timer}};
-    EventsController eventsController{
-        {manager, settings, billing, gregorian, events, calendars, background, main}};
-    MissedChanges missedChanges{{settings, manager, calendars, main}};
-    DateInspectorController inspector{{settings, clock, gregorian, gregorian, formats}};
+    IcuCollator collator{"en_US"};
     TimeColumnActions menuTimeColumns;
     TimeColumnActions headerTimeColumns;
     ExportItems exportItems;
-    IcuCollator collator{"en_US"};
-    EventOrder order{fields, gregorian, collator};
-    EventTableModel model{events, fields, settings};
-    EventTableView* table = new EventTableView(
-        model, events, settings,
-        [this](const QString& column, SortDirection direction) {
-            return order.sorter(column, direction);
-        },
-        headerTimeColumns);
-    EventItemViewController itemView{
-        {settings,
-         *table,
-         {menuTimeColumns.hours, menuTimeColumns.minutes, menuTimeColumns.duration},
-         {headerTimeColumns.hours, headerTimeColumns.minutes, headerTimeColumns.duration},
-         calendars,
-         gregorian,
-         formats}};
-    ColumnLayoutsArrayController columnLayouts{
-        {.settings = settings, .eventsTableView = *table, .alerts = alerts}};
-    TXTSettingsArrayController txtSettings{settings, alerts};
+    std::unique_ptr<EventTableModel> tableModel;
+    EventTableView* table = nullptr;
     ResultsPane* resultsPane = new ResultsPane(settings);
-    EventResultsViewController results{
-        {settings, *resultsPane, eventsController, events, billing, formats}};
     FakePasteboard pasteboard;
-    EventItemTableView copying{{events, *table, fields, pasteboard}};
     FakeScriptRunner scripts;
-    OpenCalendarEvent opening{{settings, events, scripts}};
     FakeInstalledPrograms installed;
     FakeTextColor textColor;
     FakeQueue reportQueue;
-    EventNotesViewController notes{{settings, events, formats, gregorian}};
-    ExportTxtViewController report{{settings, *table, events, calendars, fields}};
-    ExportCSV exportCSV{{settings, *table, events, fields, panel, progress}};
-    ExportTSV exportTSV{{settings, *table, events, fields, panel, progress}};
-    ExportTXT exportTXT{{settings, formats, panel, alerts, scripts, installed, textColor, progress,
-                         [this](const ExportProgress& asked) { return report.shownText(asked); }}};
-    ExportNotes exportNotes{
-        {settings, formats, panel, alerts, scripts, installed, textColor, progress,
-         [this](const ExportProgress& asked) { return notes.shownText(asked); }}};
-    AppDelegate delegate{
-        {settings,
-         workspace,
-         launcher,
-         updater,
-         {&exportItems.text, &exportItems.csv, &exportItems.tsv, &exportItems.notes},
-         {}}};
+    Core core{
+        {.settings = settings,
+         .store = store,
+         .clock = clock,
+         .formats = formats,
+         .gregorian = gregorian,
+         .currentCalendar = gregorian,
+         .collator = collator,
+         .fetchQueue = background,
+         .mainQueue = main,
+         .timer = timer,
+         .alerts = alerts,
+         .savePanel = panel,
+         .progress = progress,
+         .textColor = textColor,
+         .pasteboard = pasteboard,
+         .scriptRunner = scripts,
+         .installedPrograms = installed,
+         .workspace = workspace,
+         .taskLauncher = launcher,
+         .updater = updater,
+         .releaseNotesPath = {},
+         .makeTable = [this](const EventTableSource& source) -> ColumnTable& {
+             return makeTable(source);
+         },
+         .resultsPanel = *resultsPane,
+         .menuItems = {menuTimeColumns.hours, menuTimeColumns.minutes, menuTimeColumns.duration},
+         .txtMenuItems = {headerTimeColumns.hours, headerTimeColumns.minutes,
+                          headerTimeColumns.duration},
+         .exportToolbarItems = {&exportItems.text, &exportItems.csv, &exportItems.tsv,
+                                &exportItems.notes}}};
+    EventTableModel& model = *tableModel;
+    ListController<Event>& events = core.events;
+    CalendarsArrayController& calendars = core.calendars;
+    CalendarGroupsArrayController& groups = core.calendarGroups;
+    CalendarGroupsController& groupsFilter = core.calendarGroupsFilter;
+    DateInspectorController& inspector = core.dateInspector;
+    EventItemViewController& itemView = core.eventItemView;
+    ColumnLayoutsArrayController& columnLayouts = core.columnLayouts;
+    TXTSettingsArrayController& txtSettings = core.txtSettings;
+    EventNotesViewController& notes = core.eventNotes;
+    ExportTxtViewController& report = core.exportTxtView;
+    ExportCSV& exportCSV = core.exportCSV;
     std::unique_ptr<MainWindow> window;
+
+private:
+    ColumnTable& makeTable(const EventTableSource& source) {
+        tableModel =
+            std::make_unique<EventTableModel>(source.events, source.fields, source.settings);
+        table = new EventTableView(
+            *tableModel, source.events, source.settings,
+            [&order = source.order](const QString& column, SortDirection direction) {
+                return order.sorter(column, direction);
+            },
+            headerTimeColumns);
+        applyPlacements(defaultColumnPlacements(), *table);
+        return *table;
+    }
 };
 
 } // namespace quillet::test

@@ -43,17 +43,21 @@ QFrame* line() {
 
 } // namespace
 
-MainWindow::MainWindow(Collaborators collaborators, QWidget* parent)
+MainWindow::MainWindow(Core& core, Parts parts, QWidget* parent)
     : QMainWindow(parent)
-    , with_(std::move(collaborators))
-    , columnLayoutsPopover_(with_.settings, with_.arrangements.columnLayouts)
-    , txtSettingsSheet_(with_.arrangements.txtSettings, *this)
-    , preferences_({with_.settings, with_.formats,
-                    [this] { with_.eventItemViewController.resetAllColumnTitles(); },
+    , core_(core)
+    , parts_(std::move(parts))
+    , columnLayoutsPopover_(core_.settings, core_.columnLayouts)
+    , txtSettingsSheet_(core_.txtSettings, *this)
+    , preferences_({core_.settings, core_.formats,
+                    [this] { core_.eventItemView.resetAllColumnTitles(); },
                     [this] { txtSettingsSheet_.controller().openTXTSettingsSheet(); }},
                    *this) {
     setWindowTitle(QStringLiteral("Quillet"));
     setAcceptDrops(true);
+    parts_.eventTable.follow(core_.eventItemTableView);
+    parts_.eventTable.follow(core_.openCalendarEvent);
+    parts_.resultsPane.follow(core_.eventResults);
     makeStepActions();
     makeExportActions();
     makePanes();
@@ -61,9 +65,9 @@ MainWindow::MainWindow(Collaborators collaborators, QWidget* parent)
     makeMenus();
     followState();
     preferences_.controller().awakeFromNib();
-    ExportItems& items = with_.exportItems;
+    ExportItems& items = parts_.exportItems;
     views_ = std::make_unique<AppViewsController>(AppViewsController::Collaborators{
-        with_.settings, *panes_, items.text, items.csv, items.tsv, items.notes});
+        core_.settings, *panes_, items.text, items.csv, items.tsv, items.notes});
     views_->awakeFromNib();
     followExportPanes();
 }
@@ -71,14 +75,14 @@ MainWindow::MainWindow(Collaborators collaborators, QWidget* parent)
 MainWindow::~MainWindow() = default;
 
 void MainWindow::makePanes() {
-    calendarPane_ =
-        new CalendarPane(with_.calendarsArrayController, with_.calendarActions.colorOf, this);
-    groupChooser_ = new GroupChooser(with_.calendarGroups, with_.settings, *this);
+    calendarPane_ = new CalendarPane(core_.calendars, parts_.calendarActions.colorOf, this);
+    groupChooser_ = new GroupChooser(
+        {core_.calendarGroups, core_.calendarGroupsChecklist, core_.calendarGroupsFilter},
+        core_.settings, *this);
     calendarPane_->setHeader(*groupChooser_);
-    auto* inspector =
-        new InspectorPane(with_.dateInspectorController, with_.settings, with_.calendar, this);
-    auto* rate = new RatePane(with_.calendarsArrayController, with_.eventItemViewController,
-                              with_.settings, with_.formats, this);
+    auto* inspector = new InspectorPane(core_.dateInspector, core_.settings, core_.gregorian, this);
+    auto* rate =
+        new RatePane(core_.calendars, core_.eventItemView, core_.settings, core_.formats, this);
     WindowPanes::Contents contents = exportPanes();
     contents.insert({{PaneContent::CalendarListView, calendarPane_},
                      {PaneContent::EventItemView, makeEventItemView()},
@@ -112,7 +116,7 @@ QWidget* MainWindow::makeEventItemView() {
     periodTitle_->setSmallestScale(1 / titleScale);
     emptyState_ = new EmptyState(this);
     centreStack_ = new QStackedWidget(this);
-    centreStack_->addWidget(&with_.eventTable);
+    centreStack_->addWidget(&parts_.eventTable);
     centreStack_->addWidget(emptyState_);
 
     auto* view = new QWidget(this);
@@ -149,7 +153,7 @@ QWidget* MainWindow::makeCentre() {
     layout->setSpacing(0);
     layout->addWidget(&panes_->centreSplitter(), 1);
     layout->addWidget(line());
-    layout->addWidget(&with_.resultsPane);
+    layout->addWidget(&parts_.resultsPane);
     return centre;
 }
 
@@ -159,7 +163,7 @@ bool MainWindow::focusNextPrevChild(bool next) {
     for (ExportPane* pane : findChildren<ExportPane*>()) {
         areas.append(pane);
     }
-    areas << panes_->container(Pane::Rate) << &with_.resultsPane
+    areas << panes_->container(Pane::Rate) << &parts_.resultsPane
           << panes_->container(Pane::Inspector);
     QWidget* const neighbour =
         neighbourInFocusOrder(areas, focusWidget(), next ? FocusStep::Next : FocusStep::Previous);
@@ -178,31 +182,28 @@ bool MainWindow::focusNextPrevChild(bool next) {
 
 void MainWindow::followState() {
     const auto reason = [this] { showTableOrReason(); };
-    connect(&with_.eventsArrayController, &ListControllerNotices::arrangedObjectsChanged, this,
-            reason);
-    connect(&with_.calendarsArrayController, &ListControllerNotices::arrangedObjectsChanged, this,
-            reason);
+    connect(&core_.events, &ListControllerNotices::arrangedObjectsChanged, this, reason);
+    connect(&core_.calendars, &ListControllerNotices::arrangedObjectsChanged, this, reason);
     for (const SettingKey* key :
          settingGroup(settings::isCalendarAccessGranted, settings::isProgressIndicatorOn)) {
-        observeWhileAlive(*this, with_.settings, *key, reason);
+        observeWhileAlive(*this, core_.settings, *key, reason);
     }
-    observeWhileAlive(*this, with_.settings, settings::isProgressIndicatorOn, [this] {
-        if (!settings::isProgressIndicatorOn.read(with_.settings)) {
+    observeWhileAlive(*this, core_.settings, settings::isProgressIndicatorOn, [this] {
+        if (!settings::isProgressIndicatorOn.read(core_.settings)) {
             // A query may have found one, or shown that one is gone.
             refreshProblems();
         }
     });
-    connect(&with_.dateInspectorController, &DateInspectorController::labelsChanged, this,
+    connect(&core_.dateInspector, &DateInspectorController::labelsChanged, this,
             &MainWindow::showPeriodTitle);
-    followReportingPeriod(with_.eventItemViewController, with_.dateInspectorController,
-                          with_.settings);
-    describeWithPeriod(with_.eventTable, with_.eventItemViewController);
+    followReportingPeriod(core_.eventItemView, core_.dateInspector, core_.settings);
+    describeWithPeriod(parts_.eventTable, core_.eventItemView);
     showPeriodTitle();
     showTableOrReason();
 }
 
 void MainWindow::showPeriodTitle() {
-    const DateInspectorController& period = with_.dateInspectorController;
+    const DateInspectorController& period = core_.dateInspector;
     // A kind that nobody knows has no name.
     periodTitle_->setText(period.periodLabelString().isEmpty()
                               ? period.dateRangeLabelString()
@@ -212,19 +213,18 @@ void MainWindow::showPeriodTitle() {
 
 void MainWindow::showTableOrReason() {
     // While a fetch runs what was shown stays, so that nothing flickers.
-    if (settings::isProgressIndicatorOn.read(with_.settings) &&
-        with_.eventsArrayController.arrangedCount() == 0) {
+    if (settings::isProgressIndicatorOn.read(core_.settings) && core_.events.arrangedCount() == 0) {
         return;
     }
-    const auto& calendars = with_.calendarsArrayController;
+    const auto& calendars = core_.calendars;
     bool isAnyTicked = false;
     for (std::size_t row = 0; row < calendars.arrangedCount(); ++row) {
         isAnyTicked = isAnyTicked || calendars.arranged(row).isSelected;
     }
-    if (!settings::isCalendarAccessGranted.read(with_.settings)) {
+    if (!settings::isCalendarAccessGranted.read(core_.settings)) {
         emptyState_->show(localized("Quillet may not read your calendars yet"),
                           localized("Your events appear here once you allow it."),
-                          localized("Allow Calendar Access…"), with_.calendarActions.allowAccess);
+                          localized("Allow Calendar Access…"), parts_.calendarActions.allowAccess);
     } else if (calendars.arrangedCount() == 0 && !calendars.content()->empty()) {
         emptyState_->show(localized("No calendar in this group"),
                           localized("Tick the calendars that belong to it."),
@@ -239,25 +239,24 @@ void MainWindow::showTableOrReason() {
         emptyState_->show(localized("No calendar is ticked"),
                           localized("Tick the calendars whose time counts."),
                           localized("Tick All Calendars"), [this] { tickAllCalendars(); });
-    } else if (with_.eventsArrayController.arrangedCount() == 0 &&
-               !with_.eventsArrayController.content()->empty()) {
+    } else if (core_.events.arrangedCount() == 0 && !core_.events.content()->empty()) {
         emptyState_->show(localized("Nothing found"),
                           localized("No event of this period matches the search."),
                           localized("Clear Search"), [this] { searchBox_->clear(); });
-    } else if (with_.eventsArrayController.arrangedCount() == 0) {
+    } else if (core_.events.arrangedCount() == 0) {
         emptyState_->show(localized("No events in this period"),
                           localized("The ticked calendars have no events on these days."),
                           localized("Show the Current Period"),
                           [this] { currentAction_->trigger(); });
     } else {
-        centreStack_->setCurrentWidget(&with_.eventTable);
+        centreStack_->setCurrentWidget(&parts_.eventTable);
         return;
     }
     centreStack_->setCurrentWidget(emptyState_);
 }
 
 void MainWindow::tickAllCalendars() {
-    auto& calendars = with_.calendarsArrayController;
+    auto& calendars = core_.calendars;
     if (calendars.selectedRows().empty()) {
         calendars.setSelectedRows({0});
     }
@@ -266,7 +265,7 @@ void MainWindow::tickAllCalendars() {
 }
 
 void MainWindow::refreshProblems() {
-    calendarPane_->showProblems(with_.calendarActions.problems());
+    calendarPane_->showProblems(parts_.calendarActions.problems());
     calendarPane_->refreshColors();
 }
 
@@ -297,7 +296,7 @@ void MainWindow::saveState(const QString& stateFile) const {
     state.setValue(QStringLiteral("geometry"), saveGeometry());
     state.setValue(QStringLiteral("panes"), splitter_->saveState());
     state.setValue(QStringLiteral("exportPane"), panes_->exportRoom());
-    state.setValue(QStringLiteral("columns"), with_.eventTable.columnState());
+    state.setValue(QStringLiteral("columns"), parts_.eventTable.columnState());
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

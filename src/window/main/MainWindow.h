@@ -1,17 +1,8 @@
 #pragma once
 
-#include "app/AppDelegate.h"
 #include "app/AppViewsController.h"
-#include "calendars/CalendarsArrayController.h"
-#include "eventtable/ColumnLayoutsArrayController.h"
-#include "eventtable/EventItemViewController.h"
-#include "export/ExportCSV.h"
-#include "export/ExportNotes.h"
-#include "export/ExportTSV.h"
-#include "export/ExportTXT.h"
-#include "period/DateInspectorController.h"
+#include "app/Core.h"
 #include "platform/Setting.h"
-#include "results/EventNotesViewController.h"
 #include "results/SearchFieldController.h"
 #include "window/calendars/CalendarListModel.h"
 #include "window/calendars/GroupChooser.h"
@@ -53,49 +44,24 @@ struct CalendarActions {
     CalendarListModel::ColorOf colorOf;
 };
 
-/// What the window can send out, and what it shows of that before.
-struct WindowExports {
-    ExportCSV& csv;
-    ExportTSV& tsv;
-    ExportTXT& text;
-    ExportNotes& notes;
-    ExportTxtViewController& report;
-    ReportPane::Building reportBuilding;
-    EventNotesViewController& eventNotes;
-};
-
-/// What the user keeps under names.
-struct NamedArrangements {
-    ColumnLayoutsArrayController& columnLayouts;
-    TXTSettingsArrayController& txtSettings;
-};
-
 /// The main window: the calendars to the left, the events in the middle, the period to the right.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    struct Collaborators {
-        SettingsStore& settings;
-        const LocaleFormats& formats;
-        const CalendarArithmetic& calendar;
-        ListController<Event>& eventsArrayController;
-        CalendarsArrayController& calendarsArrayController;
-        WindowGroups calendarGroups;
-        DateInspectorController& dateInspectorController;
-        EventItemViewController& eventItemViewController;
-        WindowExports exports;
-        NamedArrangements arrangements;
-        AppDelegate& appDelegate;
+    /// What the window has besides the core.
+    struct Parts {
         /// Become the window's.
         EventTableView& eventTable;
         ResultsPane& resultsPane;
         ExportItems& exportItems;
         TimeColumnActions& timeColumnActions;
+        ReportPane::Building reportBuilding;
         CalendarActions calendarActions;
     };
 
-    explicit MainWindow(Collaborators collaborators, QWidget* parent = nullptr);
+    /// Shows the core, which is awake.
+    MainWindow(Core& core, Parts parts, QWidget* parent = nullptr);
     ~MainWindow() override;
     Q_DISABLE_COPY_MOVE(MainWindow)
 
@@ -151,7 +117,8 @@ private:
     void showPreferences();
     void showAbout();
 
-    Collaborators with_;
+    Core& core_;
+    Parts parts_;
     CalendarPane* calendarPane_ = nullptr;
     GroupChooser* groupChooser_ = nullptr;
     ElidedLabel* periodTitle_ = nullptr;

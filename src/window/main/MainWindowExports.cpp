@@ -13,7 +13,7 @@
 namespace quillet {
 
 void MainWindow::makeExportActions() {
-    ExportItems& items = with_.exportItems;
+    ExportItems& items = parts_.exportItems;
     struct Item {
         QAction& action;
         const char* name;
@@ -31,10 +31,10 @@ void MainWindow::makeExportActions() {
                   [this] { views_->exportNotesToolbarItemClicked(); }},
              Item{items.csv.action(), "saveAsCSV", localizable("CSV"),
                   localizable("Save the listed events as a CSV file"), Symbol::Save,
-                  [this] { with_.exports.csv.saveAsCSV(); }},
+                  [this] { core_.exportCSV.saveAsCSV(); }},
              Item{items.tsv.action(), "saveAsTSV", localizable("TSV"),
                   localizable("Save the listed events as a TSV file"), Symbol::Save,
-                  [this] { with_.exports.tsv.saveAsTSV(); }},
+                  [this] { core_.exportTSV.saveAsTSV(); }},
              Item{items.mail.action(), "sendToMail", localizable("Mail"),
                   localizable("Put the report into a new message"), Symbol::Mail,
                   [this] { mail(); }},
@@ -55,7 +55,7 @@ void MainWindow::addExportPaneAction(QMenu& menu, const QString& text, const Set
     QAction* action =
         addAction(menu, text, isReport ? "displayTxtExportView" : "displayNotesExportView",
                   shortcut, [this, &pane, isReport] {
-                      const bool isOpen = pane.read(with_.settings);
+                      const bool isOpen = pane.read(core_.settings);
                       if (isReport) {
                           isOpen ? closeExportPane(&AppViewsController::turnTxtExportViewOff)
                                  : views_->exportTxtToolbarItemClicked();
@@ -66,39 +66,38 @@ void MainWindow::addExportPaneAction(QMenu& menu, const QString& text, const Set
                   });
     action->setCheckable(true);
     const auto follow = [this, action, &pane, &other] {
-        action->setChecked(pane.read(with_.settings));
-        action->setEnabled(!other.read(with_.settings));
+        action->setChecked(pane.read(core_.settings));
+        action->setEnabled(!other.read(core_.settings));
     };
     for (const SettingKey* key : settingGroup(pane, other)) {
-        observeWhileAlive(*action, with_.settings, *key, follow);
+        observeWhileAlive(*action, core_.settings, *key, follow);
     }
     follow();
 }
 
 WindowPanes::Contents MainWindow::exportPanes() {
-    const WindowExports& exports = with_.exports;
     auto* report = new ReportPane(
-        exports.report, exports.reportBuilding,
+        core_.exportTxtView, parts_.reportBuilding,
         [this] { preferences_.controller().showWindowWithTextPreferencesView(); },
-        {.save = [this] { with_.exports.text.saveAsTxt(); },
-         .mail = [this] { with_.exports.text.sendToMail(); },
+        {.save = [this] { core_.exportTXT.saveAsTxt(); },
+         .mail = [this] { core_.exportTXT.sendToMail(); },
          .close = [this] { closeExportPane(&AppViewsController::turnTxtExportViewOff); }},
         this);
     auto* notes = new NotesPane(
-        exports.eventNotes, with_.settings,
-        {.save = [this] { with_.exports.notes.saveAsTxt(); },
-         .mail = [this] { with_.exports.notes.sendToMail(); },
+        core_.eventNotes, core_.settings,
+        {.save = [this] { core_.exportNotes.saveAsTxt(); },
+         .mail = [this] { core_.exportNotes.sendToMail(); },
          .close = [this] { closeExportPane(&AppViewsController::turnNotesExportViewOff); }},
         this);
-    exports.report.setEventTextView(
+    core_.exportTxtView.setEventTextView(
         [view = QPointer(report)] { return view ? view->shownText() : std::nullopt; });
-    exports.eventNotes.setNotesTextView(
+    core_.eventNotes.setNotesTextView(
         [view = QPointer(notes)] { return view ? view->shownText() : std::nullopt; });
-    const QHeaderView* header = with_.eventTable.horizontalHeader();
-    connect(header, &QHeaderView::sectionMoved, &exports.report,
+    const QHeaderView* header = parts_.eventTable.horizontalHeader();
+    connect(header, &QHeaderView::sectionMoved, &core_.exportTxtView,
             &ExportTxtViewController::tableViewChanged);
-    connect(header, &QHeaderView::sectionResized, &exports.report,
-            [&report = exports.report](int, int oldWidth, int newWidth) {
+    connect(header, &QHeaderView::sectionResized, &core_.exportTxtView,
+            [&report = core_.exportTxtView](int, int oldWidth, int newWidth) {
                 // To and from 0 a column is hidden or shown, which is announced apart.
                 if (oldWidth > 0 && newWidth > 0) {
                     report.tableViewChanged();
@@ -109,14 +108,14 @@ WindowPanes::Contents MainWindow::exportPanes() {
 
 void MainWindow::closeExportPane(void (AppViewsController::*turnOff)()) {
     (views_.get()->*turnOff)();
-    with_.eventTable.setFocus();
+    parts_.eventTable.setFocus();
 }
 
 void MainWindow::mail() {
-    if (settings::isNotesViewOn.read(with_.settings)) {
-        with_.exports.notes.sendToMail();
+    if (settings::isNotesViewOn.read(core_.settings)) {
+        core_.exportNotes.sendToMail();
     } else {
-        with_.exports.text.sendToMail();
+        core_.exportTXT.sendToMail();
     }
 }
 
@@ -126,7 +125,7 @@ void MainWindow::followExportPanes() {
     };
     for (const SettingKey* key :
          settingGroup(settings::isExportTXTViewOn, settings::isNotesViewOn)) {
-        observeWhileAlive(*this, with_.settings, *key, follow);
+        observeWhileAlive(*this, core_.settings, *key, follow);
     }
     follow();
 }

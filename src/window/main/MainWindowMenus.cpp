@@ -56,16 +56,16 @@ void MainWindow::makeStepActions() {
         step.action->setShortcut(step.shortcut);
         enableWithPeriod(*step.action);
         connect(step.action, &QAction::triggered, this,
-                [this, which = step.step] { with_.dateInspectorController.setQuickDates(which); });
+                [this, which = step.step] { core_.dateInspector.setQuickDates(which); });
     }
 }
 
 void MainWindow::enableWithPeriod(QAction& action) {
     const auto enable = [this, &action] {
-        action.setEnabled(with_.dateInspectorController.isInterfaceEnabled());
+        action.setEnabled(core_.dateInspector.isInterfaceEnabled());
     };
-    connect(&with_.dateInspectorController, &DateInspectorController::isInterfaceEnabledChanged,
-            &action, enable);
+    connect(&core_.dateInspector, &DateInspectorController::isInterfaceEnabledChanged, &action,
+            enable);
     enable();
 }
 
@@ -74,7 +74,7 @@ void MainWindow::makeToolBar() {
     addToolBar(bar);
     bar->setObjectName(QStringLiteral("toolbar"));
     bar->setMovable(false);
-    ExportItems& items = with_.exportItems;
+    ExportItems& items = parts_.exportItems;
     bar->addActions({&items.text.action(), &items.notes.action()});
     bar->addSeparator();
     bar->addActions({&items.csv.action(), &items.tsv.action(), &items.mail.action()});
@@ -94,11 +94,11 @@ void MainWindow::makeSearch(QToolBar& bar) {
     searchBox_ = new SearchBox(this);
     bar.addWidget(searchBox_);
     search_ = std::make_unique<SearchFieldController>(SearchFieldController::Collaborators{
-        with_.settings, *searchBox_, *searchBox_, with_.eventsArrayController});
+        core_.settings, *searchBox_, *searchBox_, core_.events});
     connect(searchBox_, &QLineEdit::textChanged, this, [this] { search_->updateFilter(); });
     connect(searchBox_, &SearchBox::categoryChosen, this,
             [this](std::size_t position) { search_->setSearchCategoryFrom(position); });
-    connect(searchBox_, &SearchBox::left, this, [this] { with_.eventTable.setFocus(); });
+    connect(searchBox_, &SearchBox::left, this, [this] { parts_.eventTable.setFocus(); });
     search_->awakeFromNib();
 }
 
@@ -114,18 +114,18 @@ void MainWindow::makeMenus() {
 void MainWindow::makeFileMenu() {
     QMenu& menu = *menuBar()->addMenu(localized("&File"));
     addAction(menu, localized("&Save as CSV…"), "saveAsCSV", QKeySequence::Save,
-              [this] { with_.exports.csv.saveAsCSV(); });
+              [this] { core_.exportCSV.saveAsCSV(); });
     addAction(menu, localized("Save as &TSV…"), "saveAsTSV", {},
-              [this] { with_.exports.tsv.saveAsTSV(); });
+              [this] { core_.exportTSV.saveAsTSV(); });
     addAction(menu, localized("Save Text &Report…"), "saveAsTxt", {},
-              [this] { with_.exports.text.saveAsTxt(); });
+              [this] { core_.exportTXT.saveAsTxt(); });
     addAction(menu, localized("Save Event &Notes…"), "saveNotesAsTxt", {},
-              [this] { with_.exports.notes.saveAsTxt(); });
+              [this] { core_.exportNotes.saveAsTxt(); });
     menu.addSeparator();
-    menu.addAction(&with_.exportItems.mail.action());
+    menu.addAction(&parts_.exportItems.mail.action());
     menu.addSeparator();
     addAction(menu, localized("R&estart Quillet"), "relaunch", {},
-              [this] { with_.appDelegate.relaunch(); });
+              [this] { core_.appDelegate.relaunch(); });
     addAction(menu, localized("&Close Window"), "performClose", QKeySequence::Close,
               [this] { close(); });
     addAction(menu, localized("&Quit"), "terminate", QKeySequence::Quit, [this] { close(); });
@@ -134,10 +134,10 @@ void MainWindow::makeFileMenu() {
 void MainWindow::makeEditMenu() {
     QMenu& menu = *menuBar()->addMenu(localized("&Edit"));
     addAction(menu, localized("&Copy"), "copy", QKeySequence::Copy,
-              [this] { copyWhatHasTheFocus(with_.eventTable); });
+              [this] { copyWhatHasTheFocus(parts_.eventTable); });
     addAction(menu, localized("Select &All Events"), "selectAll", QKeySequence::SelectAll,
-              [this] { with_.eventTable.selectAll(); });
-    menu.addAction(&with_.eventTable.openInCalendarAction());
+              [this] { parts_.eventTable.selectAll(); });
+    menu.addAction(&parts_.eventTable.openInCalendarAction());
     menu.addSeparator();
     addAction(menu, localized("&Find…"), "startSearch", QKeySequence::Find,
               [this] { searchBox_->startSearch(); });
@@ -163,7 +163,7 @@ void MainWindow::makeViewMenu() {
     addExportPaneAction(menu, localized("Event &Notes"), settings::isNotesViewOn,
                         QKeySequence(Qt::CTRL | Qt::Key_E));
     menu.addSeparator();
-    bindAction(*menu.addAction(localized("&Money")), with_.settings, settings::isDollarsOn);
+    bindAction(*menu.addAction(localized("&Money")), core_.settings, settings::isDollarsOn);
     menu.addSeparator();
     auto* group = new QActionGroup(this);
     constexpr std::array texts{localizable("Time as &Hours"), localizable("Time as M&inutes"),
@@ -173,12 +173,12 @@ void MainWindow::makeViewMenu() {
         action->setCheckable(true);
         action->setActionGroup(group);
         const auto refresh = [this, action, number] {
-            action->setChecked(settings::timeTypeSelection.read(with_.settings) == number);
+            action->setChecked(settings::timeTypeSelection.read(core_.settings) == number);
         };
         refresh();
-        observeWhileAlive(*action, with_.settings, settings::timeTypeSelection, refresh);
+        observeWhileAlive(*action, core_.settings, settings::timeTypeSelection, refresh);
         connect(action, &QAction::triggered, this,
-                [this, number] { settings::timeTypeSelection.write(with_.settings, number); });
+                [this, number] { settings::timeTypeSelection.write(core_.settings, number); });
     }
     menu.addSeparator();
     makeColumnsMenu(menu);
@@ -195,10 +195,10 @@ void MainWindow::makeColumnsMenu(QMenu& menu) {
     QMenu& columns = *menu.addMenu(localized("&Columns"));
     const auto fill = [this, &columns] {
         columns.clear();
-        fillColumnsMenu(columns, with_.settings, with_.timeColumnActions);
+        fillColumnsMenu(columns, core_.settings, parts_.timeColumnActions);
         columns.addSeparator();
         addAction(columns, localized("&Reset All Titles"), "resetAllColumnTitles", {},
-                  [this] { with_.eventItemViewController.resetAllColumnTitles(); });
+                  [this] { core_.eventItemView.resetAllColumnTitles(); });
     };
     // The users' own titles may change while the window is open.
     connect(&columns, &QMenu::aboutToShow, this, fill);
@@ -206,7 +206,7 @@ void MainWindow::makeColumnsMenu(QMenu& menu) {
 }
 
 void MainWindow::makeColumnLayoutsMenu(QMenu& menu) {
-    auto* layouts = new ColumnLayoutsMenu(with_.arrangements.columnLayouts, this);
+    auto* layouts = new ColumnLayoutsMenu(core_.columnLayouts, this);
     menu.addMenu(layouts);
     QAction* first = layouts->actions().front();
     layouts->insertAction(
@@ -229,9 +229,8 @@ void MainWindow::makePeriodMenu() {
     for (int kind = 0; kind < static_cast<int>(texts.size()); ++kind) {
         QAction* action = addAction(
             menu, localized(texts[static_cast<std::size_t>(kind)]), "setQuickDatePeriod",
-            QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + kind)), [this, kind] {
-                with_.dateInspectorController.choosePeriodKind(static_cast<PeriodKind>(kind));
-            });
+            QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + kind)),
+            [this, kind] { core_.dateInspector.choosePeriodKind(static_cast<PeriodKind>(kind)); });
         enableWithPeriod(*action);
     }
 }
@@ -241,12 +240,12 @@ void MainWindow::makeCalendarsMenu() {
     addAction(menu, localized("&Add Calendar Folder or File…"), "addCalendar", QKeySequence::Open,
               [this] { chooseCalendarToAdd(); });
     addAction(menu, localized("Allow Calendar A&ccess…"), "requestEventCalendarsAccess", {},
-              with_.calendarActions.allowAccess);
+              parts_.calendarActions.allowAccess);
     addAction(menu, localized("Edit Calendar &Groups…"), "openCalendarGroupsSheet",
               QKeySequence(Qt::CTRL | Qt::Key_G), [this] { groupChooser_->openSheet(); });
     addAction(menu, localized("&Tick or Clear All"), "calendarTableViewClicked",
               QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_A), [this] {
-                  auto& calendars = with_.calendarsArrayController;
+                  auto& calendars = core_.calendars;
                   if (calendars.arrangedCount() > 0 && calendars.selectedRows().empty()) {
                       calendars.setSelectedRows({0});
                   }
@@ -257,11 +256,11 @@ void MainWindow::makeCalendarsMenu() {
 void MainWindow::makeHelpMenu() {
     QMenu& menu = *menuBar()->addMenu(localized("&Help"));
     addAction(menu, localized("&Release Notes"), "openReleaseNotes", {},
-              [this] { with_.appDelegate.openReleaseNotes(); });
+              [this] { core_.appDelegate.openReleaseNotes(); });
     addAction(menu, localized("&Web Site"), "openWebsite", {},
-              [this] { with_.appDelegate.openWebsite(); });
+              [this] { core_.appDelegate.openWebsite(); });
     addAction(menu, localized("Check for &Updates…"), "checkForUpdates", {},
-              [this] { with_.appDelegate.checkForUpdates(); });
+              [this] { core_.appDelegate.checkForUpdates(); });
     menu.addSeparator();
     addAction(menu, localized("&About Quillet"), "showAbout", {}, [this] { showAbout(); });
 }
@@ -291,7 +290,7 @@ void MainWindow::chooseCalendarToAdd() {
 }
 
 void MainWindow::addCalendar(const QString& path) {
-    if (const auto result = with_.calendarActions.addCalendar(path); !result) {
+    if (const auto result = parts_.calendarActions.addCalendar(path); !result) {
         QMessageBox box(QMessageBox::Warning, {}, localized("The calendar could not be added"),
                         QMessageBox::Ok, this);
         box.setInformativeText(result.error());

@@ -1,0 +1,78 @@
+#include "app/Core.h"
+
+namespace quillet {
+
+Core::Core(const CoreSeams& seams)
+    : settings(seams.settings)
+    , formats(seams.formats)
+    , gregorian(seams.gregorian)
+    , eventKitManager(seams.store, settings, seams.alerts, seams.mainQueue)
+    , billing(settings, gregorian)
+    , fields(billing, formats, gregorian, seams.currentCalendar)
+    , events(eventIdentityHash, isSameEvent)
+    , calendars(settings, eventKitManager, formats, seams.timer)
+    , calendarGroups(settings, seams.alerts)
+    , calendarGroupsChecklist(settings, calendarGroups)
+    , calendarGroupsFilter({settings, calendars, calendarGroups, seams.timer})
+    , eventsController({eventKitManager, settings, billing, gregorian, events, calendars,
+                        seams.fetchQueue, seams.mainQueue})
+    , missedChanges({settings, eventKitManager, calendars, seams.mainQueue})
+    , dateInspector({settings, seams.clock, gregorian, seams.currentCalendar, formats})
+    , eventOrder(fields, seams.currentCalendar, seams.collator)
+    , eventTable(seams.makeTable({settings, events, fields, eventOrder}))
+    , eventItemTableView({events, eventTable, fields, seams.pasteboard})
+    , openCalendarEvent({settings, events, seams.scriptRunner})
+    , eventItemView({settings, eventTable, seams.menuItems, seams.txtMenuItems, calendars,
+                     gregorian, formats})
+    , eventResults({settings, seams.resultsPanel, eventsController, events, billing, formats})
+    , columnLayouts({settings, eventTable, seams.alerts})
+    , eventNotes({settings, events, formats, gregorian})
+    , txtSettings(settings, seams.alerts)
+    , exportTxtView({settings, eventTable, events, calendars, fields})
+    , exportCSV({settings, eventTable, events, fields, seams.savePanel, seams.progress})
+    , exportTSV({settings, eventTable, events, fields, seams.savePanel, seams.progress})
+    , exportTXT(
+          {settings, formats, seams.savePanel, seams.alerts, seams.scriptRunner,
+           seams.installedPrograms, seams.textColor, seams.progress,
+           [this](const ExportProgress& progress) { return exportTxtView.shownText(progress); }})
+    , exportNotes(
+          {settings, formats, seams.savePanel, seams.alerts, seams.scriptRunner,
+           seams.installedPrograms, seams.textColor, seams.progress,
+           [this](const ExportProgress& progress) { return eventNotes.shownText(progress); }})
+    , appDelegate({settings, seams.workspace, seams.taskLauncher, seams.updater,
+                   seams.exportToolbarItems, seams.releaseNotesPath}) {}
+
+Core::~Core() = default;
+
+void Core::wake() {
+    billing.migrateHourlyRate();
+    calendars.awakeFromNib();
+    calendarGroups.awakeFromNib();
+    calendarGroupsChecklist.awakeFromNib();
+    calendarGroupsFilter.awakeFromNib();
+    dateInspector.awakeFromNib();
+    openCalendarEvent.awakeFromNib();
+    eventResults.awakeFromNib();
+    columnLayouts.awakeFromNib();
+    eventNotes.awakeFromNib();
+    txtSettings.awakeFromNib();
+    exportTxtView.awakeFromNib();
+    eventItemView.awakeFromNib();
+    missedChanges.awakeFromNib();
+    eventsController.awakeFromNib();
+}
+
+void Core::finishLaunching() {
+    appDelegate.awakeFromNib();
+    appDelegate.applicationDidFinishLaunching();
+}
+
+void Core::becomeActiveFirst() {
+    eventKitManager.becomeActive();
+    // Access that was granted in an earlier run, whose settings are gone, is announced by nobody.
+    if (eventKitManager.eventCalendarsAccessGranted()) {
+        calendars.syncCalendars();
+    }
+}
+
+} // namespace quillet

@@ -1,0 +1,123 @@
+#pragma once
+
+#include "app/AppDelegate.h"
+#include "calendars/CalendarGroupsArrayController.h"
+#include "calendars/CalendarGroupsArraySelectedCalendarsArrayController.h"
+#include "calendars/CalendarGroupsController.h"
+#include "calendars/CalendarsArrayController.h"
+#include "eventdata/EventFields.h"
+#include "eventdata/EventKitManager.h"
+#include "eventdata/EventsController.h"
+#include "eventdata/MissedChanges.h"
+#include "eventtable/ColumnLayoutsArrayController.h"
+#include "eventtable/EventItemTableView.h"
+#include "eventtable/EventItemViewController.h"
+#include "eventtable/EventOrder.h"
+#include "export/ExportCSV.h"
+#include "export/ExportNotes.h"
+#include "export/ExportTSV.h"
+#include "export/ExportTXT.h"
+#include "export/ExportTxtViewController.h"
+#include "export/TXTSettingsArrayController.h"
+#include "period/DateInspectorController.h"
+#include "results/EventNotesViewController.h"
+#include "results/EventResultsViewController.h"
+#include "results/OpenCalendarEvent.h"
+
+namespace quillet {
+
+/// What a table of events shows, and how it sorts that.
+struct EventTableSource {
+    SettingsStore& settings;
+    ListController<Event>& events;
+    const EventFields& fields;
+    EventOrder& order;
+};
+
+/// All that the controllers want of the outside. It must outlive the core.
+struct CoreSeams {
+    SettingsStore& settings;
+    EventStore& store;
+    const Clock& clock;
+    const LocaleFormats& formats;
+    /// Gregorian, in the system's time zone.
+    const CalendarArithmetic& gregorian;
+    /// The calendar of the user's locale, in the same zone.
+    const CalendarArithmetic& currentCalendar;
+    const Collator& collator;
+    /// Serial, with a thread of its own; see EventsController::backgroundEventFetchQueueLabel().
+    SerialQueue& fetchQueue;
+    SerialQueue& mainQueue;
+    OneShotTimer& timer;
+    AlertPresenter& alerts;
+    SavePanel& savePanel;
+    ProgressPresenter& progress;
+    const TextColorSource& textColor;
+    Pasteboard& pasteboard;
+    ScriptRunner& scriptRunner;
+    const InstalledPrograms& installedPrograms;
+    Workspace& workspace;
+    TaskLauncher& taskLauncher;
+    SoftwareUpdater& updater;
+    /// The release notes, rich text.
+    QString releaseNotesPath;
+    /// Makes the table of the events, its columns as they stand when the program starts. Called
+    /// once, while the core is built.
+    std::function<ColumnTable&(const EventTableSource& source)> makeTable;
+    ResultsPanel& resultsPanel;
+    EventItemViewController::TimeMenuItems menuItems;
+    /// The set that belongs to the text report.
+    EventItemViewController::TimeMenuItems txtMenuItems;
+    std::vector<ToolbarItem*> exportToolbarItems;
+};
+
+/// Every controller of the logic, built and woken in the one order: the members stand in the order
+/// in which they need each other, and wake() in that in which they hear of settings. A window shows
+/// a core, and a program without one holds it just the same.
+class Core {
+public:
+    explicit Core(const CoreSeams& seams);
+    ~Core();
+    Q_DISABLE_COPY_MOVE(Core)
+
+    /// Lets each controller write its first-run settings and begin to observe; the first fetch is
+    /// the last step. Once, before a window is built on this.
+    void wake();
+    /// All stands, the window too: writes the first-run settings that are still absent.
+    void finishLaunching();
+    /// The program came to the front for the first time: looks at the access to the calendars.
+    void becomeActiveFirst();
+
+    SettingsStore& settings;
+    const LocaleFormats& formats;
+    const CalendarArithmetic& gregorian;
+
+    EventKitManager eventKitManager;
+    BillingSettingsSource billing;
+    EventFields fields;
+    ListController<Event> events;
+    CalendarsArrayController calendars;
+    CalendarGroupsArrayController calendarGroups;
+    CalendarGroupsArraySelectedCalendarsArrayController calendarGroupsChecklist;
+    CalendarGroupsController calendarGroupsFilter;
+    EventsController eventsController;
+    MissedChanges missedChanges;
+    DateInspectorController dateInspector;
+    EventOrder eventOrder;
+    ColumnTable& eventTable;
+    EventItemTableView eventItemTableView;
+    OpenCalendarEvent openCalendarEvent;
+    EventItemViewController eventItemView;
+    EventResultsViewController eventResults;
+    ColumnLayoutsArrayController columnLayouts;
+    EventNotesViewController eventNotes;
+    TXTSettingsArrayController txtSettings;
+    ExportTxtViewController exportTxtView;
+    ExportCSV exportCSV;
+    ExportTSV exportTSV;
+    ExportTXT exportTXT;
+    ExportNotes exportNotes;
+    AppDelegate appDelegate;
+};
+
+} // namespace quillet
