@@ -1,5 +1,9 @@
 #include "app/Core.h"
 
+#include "platform/Settings.h"
+
+#include <QPointer>
+
 namespace quillet {
 
 Core::Core(const CoreSeams& seams)
@@ -16,7 +20,6 @@ Core::Core(const CoreSeams& seams)
     , calendarGroupsFilter({settings, calendars, calendarGroups, seams.timer})
     , eventsController({eventKitManager, settings, billing, gregorian, events, calendars,
                         seams.fetchQueue, seams.mainQueue})
-    , missedChanges({settings, eventKitManager, calendars, seams.mainQueue})
     , dateInspector({settings, seams.clock, gregorian, seams.currentCalendar, formats})
     , eventOrder(fields, seams.currentCalendar, seams.collator)
     , eventTable(seams.makeTable({settings, events, fields, eventOrder}))
@@ -40,9 +43,23 @@ Core::Core(const CoreSeams& seams)
            seams.installedPrograms, seams.textColor, seams.progress,
            [this](const ExportProgress& progress) { return eventNotes.shownText(progress); }})
     , appDelegate({settings, seams.workspace, seams.taskLauncher, seams.updater,
-                   seams.exportToolbarItems, seams.releaseNotesPath}) {}
+                   seams.exportToolbarItems, seams.releaseNotesPath}) {
+    fetchAgainWhenOutdated(seams.mainQueue);
+}
 
 Core::~Core() = default;
+
+void Core::fetchAgainWhenOutdated(SerialQueue& mainQueue) {
+    QObject::connect(&eventsController, &EventsController::fetchOutdated, &eventsController,
+                     [this, &mainQueue] {
+                         // Later, so that all who wait for the end of this fetch have heard of it.
+                         mainQueue.async([controller = QPointer(&eventsController), this] {
+                             if (controller) {
+                                 settings::datesChangedTrigger.flip(settings);
+                             }
+                         });
+                     });
+}
 
 void Core::wake() {
     billing.migrateHourlyRate();
@@ -58,7 +75,6 @@ void Core::wake() {
     txtSettings.awakeFromNib();
     exportTxtView.awakeFromNib();
     eventItemView.awakeFromNib();
-    missedChanges.awakeFromNib();
     eventsController.awakeFromNib();
 }
 

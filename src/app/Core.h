@@ -8,7 +8,6 @@
 #include "eventdata/EventFields.h"
 #include "eventdata/EventKitManager.h"
 #include "eventdata/EventsController.h"
-#include "eventdata/MissedChanges.h"
 #include "eventtable/ColumnLayoutsArrayController.h"
 #include "eventtable/EventItemTableView.h"
 #include "eventtable/EventItemViewController.h"
@@ -101,7 +100,6 @@ public:
     CalendarGroupsArraySelectedCalendarsArrayController calendarGroupsChecklist;
     CalendarGroupsController calendarGroupsFilter;
     EventsController eventsController;
-    MissedChanges missedChanges;
     DateInspectorController dateInspector;
     EventOrder eventOrder;
     ColumnTable& eventTable;
@@ -118,6 +116,9 @@ public:
     ExportTXT exportTXT;
     ExportNotes exportNotes;
     AppDelegate appDelegate;
+
+private:
+    void fetchAgainWhenOutdated(SerialQueue& mainQueue);
 };
 
 } // namespace quillet

@@ -8,10 +8,19 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <array>
+#include <tuple>
 
 namespace quillet {
 
 namespace {
+
+/// In the order in which they are announced.
+constexpr std::array durations{
+    EventsController::Aggregate::TotalDuration, EventsController::Aggregate::TotalSelectedDuration,
+    EventsController::Aggregate::MinDuration,   EventsController::Aggregate::MinSelectedDuration,
+    EventsController::Aggregate::MaxDuration,   EventsController::Aggregate::MaxSelectedDuration,
+    EventsController::Aggregate::AvgDuration,   EventsController::Aggregate::AvgSelectedDuration};
 
 /// The condition that the wanted calendars meet; one that no calendar meets when none is ticked.
 QString conditionForTicked(const ListController<CalendarRecord>& records) {
@@ -31,7 +40,10 @@ QString conditionForTicked(const ListController<CalendarRecord>& records) {
 
 EventsController::EventsController(const Collaborators& collaborators)
     : with_(collaborators)
-    , aggregates_(static_cast<std::size_t>(Aggregate::TotalSelectedDays) + 1) {}
+    , minutes_([this] { return minutesOfAll(); })
+    , selectedMinutes_([this] { return minutesOfSelected(); })
+    , days_([this] { return daysOfPeriod(); })
+    , selectedDays_([this] { return daysOfSelected(); }) {}
 
 EventsController::~EventsController() = default;
 
@@ -94,6 +106,8 @@ bool EventsController::isFollowing() const {
 
 void EventsController::settingChanged(Refetch refetch) {
     if (!isFollowing()) {
+        // What changes from now on is not to show in figures that nobody has read so far.
+        workOutAnnounced();
         return;
     }
     if (refetch == Refetch::Yes) {
@@ -108,36 +122,61 @@ void EventsController::storeChanged(int announcements) {
     // Each listener hears each announcement. Once one of those calls has started a fetch, the
     // others would be dropped one by one; a thousand squared of them need not be made for that.
     const std::int64_t calls = std::int64_t{announcements} * storeListeners_;
+    hasStoreChanged_ = hasStoreChanged_ || isFetching();
     for (std::int64_t call = 0;
-         call < calls && !settings::isProgressIndicatorOn.read(with_.settings) &&
-         settings::viewMode.read(with_.settings) == 0;
-         ++call) {
+         call < calls && !isFetching() && settings::viewMode.read(with_.settings) == 0; ++call) {
         updateEvents();
     }
 }
 
+bool EventsController::isFetching() const {
+    return settings::isProgressIndicatorOn.read(with_.settings);
+}
+
 void EventsController::updateEvents() {
-    if (settings::isProgressIndicatorOn.read(with_.settings)) {
+    if (isFetching()) {
+        hasDroppedRequest_ = true;
         return;
     }
     settings::isProgressIndicatorOn.write(with_.settings, true);
     Q_EMIT eventsWillChange();
-    const auto start = settings::filterStartDate.read(with_.settings);
-    const auto end = settings::filterEndDate.read(with_.settings);
+    const CalendarList calendars = calendarsToFetch();
+    fetched_ = choiceOf(calendars);
+    hasDroppedRequest_ = false;
+    hasStoreChanged_ = false;
     with_.backgroundEventFetchQueue.async([self = QPointer(this), &manager = with_.eventKitManager,
                                            &settings = with_.settings, &mainQueue = with_.mainQueue,
-                                           calendars = calendarsToFetch(), start, end] {
-        EventList events = manager.eventsInCalendars(calendars, start, end);
-        if (settings::allDayEventsNotIncluded.read(settings)) {
-            std::erase_if(events, [](const Event& event) { return event.details->isAllDay; });
+                                           calendars, start = fetched_.start, end = fetched_.end] {
+        auto fetched = std::make_shared<Fetched>();
+        fetched->events = manager.eventsInCalendars(calendars, start, end);
+        fetched->isWithoutAllDayEvents = settings::allDayEventsNotIncluded.read(settings);
+        if (fetched->isWithoutAllDayEvents) {
+            std::erase_if(fetched->events,
+                          [](const Event& event) { return event.details->isAllDay; });
         }
-        auto fetched = std::make_shared<EventList>(std::move(events));
         mainQueue.async([self, fetched] {
             if (self) {
                 self->publish(std::move(*fetched));
             }
         });
     });
+}
+
+EventsController::Choice EventsController::choiceOf(const CalendarList& calendars) const {
+    Choice choice{.calendars = {},
+                  .start = settings::filterStartDate.read(with_.settings),
+                  .end = settings::filterEndDate.read(with_.settings)};
+    for (const auto& calendar : calendars) {
+        choice.calendars.append(calendar->calendarIdentifier);
+    }
+    return choice;
+}
+
+bool EventsController::isOutdated(bool isWithoutAllDayEvents) const {
+    return hasStoreChanged_ ||
+           (hasDroppedRequest_ &&
+            (isWithoutAllDayEvents != settings::allDayEventsNotIncluded.read(with_.settings) ||
+             fetched_ != choiceOf(calendarsToFetch())));
 }
 
 CalendarList EventsController::calendarsToFetch() const {
@@ -152,50 +191,72 @@ CalendarList EventsController::calendarsToFetch() const {
     return calendars;
 }
 
-void EventsController::publish(EventList events) {
+void EventsController::publish(Fetched fetched) {
+    // Before the rearrangement, whose own request is dropped as well.
+    const bool hasMissed = isOutdated(fetched.isWithoutAllDayEvents);
     auto old = with_.eventsArrayController.content();
     // The progress flag is still on while the list rearranges, so that the notice of the
     // rearrangement does not start another fetch.
-    with_.eventsArrayController.setContent(std::move(events));
+    with_.eventsArrayController.setContent(std::move(fetched.events));
     Q_EMIT eventsChanged();
     settings::isProgressIndicatorOn.write(with_.settings, false);
     // Freeing a hundred thousand events takes longer than the main thread may be kept busy.
     with_.backgroundEventFetchQueue.async([old = std::move(old)]() mutable { old.reset(); });
+    if (hasMissed) {
+        Q_EMIT fetchOutdated();
+    }
 }
 
 void EventsController::updateDurationValues() {
-    const BillingSettings& billing = with_.billing.current();
-    const ListController<Event>& list = with_.eventsArrayController;
-    MinutesSummary all;
-    for (std::size_t row = 0; row < list.arrangedCount(); ++row) {
-        all.add(billableMinutes(list.arranged(row), billing));
+    // Taking a snapshot of the billing mends settings, which is not to wait for a reader.
+    std::ignore = with_.billing.current();
+    minutes_.expire();
+    selectedMinutes_.expire();
+    for (const Aggregate name : durations) {
+        Q_EMIT aggregateChanged(name);
     }
-    MinutesSummary selected;
-    for (const std::size_t row : list.selectedRows()) {
-        selected.add(billableMinutes(list.arranged(row), billing));
-    }
-    setAggregate(Aggregate::TotalDuration, makeDurationFromMinutes(all.sum()));
-    setAggregate(Aggregate::TotalSelectedDuration, makeDurationFromMinutes(selected.sum()));
-    setAggregate(Aggregate::MinDuration, makeDurationFromMinutes(all.smallest()));
-    setAggregate(Aggregate::MinSelectedDuration, makeDurationFromMinutes(selected.smallest()));
-    setAggregate(Aggregate::MaxDuration, makeDurationFromMinutes(all.largest()));
-    setAggregate(Aggregate::MaxSelectedDuration, makeDurationFromMinutes(selected.largest()));
-    setAggregate(Aggregate::AvgDuration, makeDurationFromMinutes(all.mean()));
-    setAggregate(Aggregate::AvgSelectedDuration, makeDurationFromMinutes(selected.mean()));
 }
 
 void EventsController::updateTotalDays() {
-    const auto start = settings::filterStartDate.read(with_.settings);
-    const auto end = settings::filterEndDate.read(with_.settings);
-    setAggregate(Aggregate::TotalDays,
-                 start && end ? daysCovered(*start, *end, with_.calendar) : 0);
+    days_.expire();
+    Q_EMIT aggregateChanged(Aggregate::TotalDays);
 }
 
 void EventsController::updateTotalSelectedDays() {
+    selectedDays_.expire();
+    Q_EMIT aggregateChanged(Aggregate::TotalSelectedDays);
+}
+
+MinutesSummary EventsController::minutesOfAll() const {
+    const BillingSettings& billing = with_.billing.current();
+    const ListController<Event>& list = with_.eventsArrayController;
+    MinutesSummary minutes;
+    for (std::size_t row = 0; row < list.arrangedCount(); ++row) {
+        minutes.add(billableMinutes(list.arranged(row), billing));
+    }
+    return minutes;
+}
+
+MinutesSummary EventsController::minutesOfSelected() const {
+    const BillingSettings& billing = with_.billing.current();
+    const ListController<Event>& list = with_.eventsArrayController;
+    MinutesSummary minutes;
+    for (const std::size_t row : list.selectedRows()) {
+        minutes.add(billableMinutes(list.arranged(row), billing));
+    }
+    return minutes;
+}
+
+int EventsController::daysOfPeriod() const {
+    const auto start = settings::filterStartDate.read(with_.settings);
+    const auto end = settings::filterEndDate.read(with_.settings);
+    return start && end ? daysCovered(*start, *end, with_.calendar) : 0;
+}
+
+int EventsController::daysOfSelected() const {
     const ListController<Event>& list = with_.eventsArrayController;
     if (list.selectedRows().empty()) {
-        setAggregate(Aggregate::TotalSelectedDays, 0);
-        return;
+        return 0;
     }
     Instant earliest = Instant::max();
     Instant latest = Instant::min();
@@ -203,7 +264,14 @@ void EventsController::updateTotalSelectedDays() {
         earliest = std::min(earliest, list.arranged(row).startDate);
         latest = std::max(latest, list.arranged(row).endDate);
     }
-    setAggregate(Aggregate::TotalSelectedDays, daysCovered(earliest, latest, with_.calendar));
+    return daysCovered(earliest, latest, with_.calendar);
+}
+
+void EventsController::workOutAnnounced() const {
+    std::ignore = minutes_.get();
+    std::ignore = selectedMinutes_.get();
+    std::ignore = days_.get();
+    std::ignore = selectedDays_.get();
 }
 
 const ListController<Event>::Content& EventsController::events() const {
@@ -211,12 +279,34 @@ const ListController<Event>::Content& EventsController::events() const {
 }
 
 QVariant EventsController::aggregate(Aggregate name) const {
-    return aggregates_[static_cast<std::size_t>(name)];
-}
-
-void EventsController::setAggregate(Aggregate name, const QVariant& value) {
-    aggregates_[static_cast<std::size_t>(name)] = value;
-    Q_EMIT aggregateChanged(name);
+    const auto duration = [](const LazyValue<MinutesSummary>& minutes, auto figure) {
+        const MinutesSummary* known = minutes.get();
+        return known ? QVariant(makeDurationFromMinutes((known->*figure)())) : QVariant();
+    };
+    const auto days = [](const int* known) { return known ? QVariant(*known) : QVariant(); };
+    switch (name) {
+    case Aggregate::TotalDuration:
+        return duration(minutes_, &MinutesSummary::sum);
+    case Aggregate::TotalSelectedDuration:
+        return duration(selectedMinutes_, &MinutesSummary::sum);
+    case Aggregate::MinDuration:
+        return duration(minutes_, &MinutesSummary::smallest);
+    case Aggregate::MinSelectedDuration:
+        return duration(selectedMinutes_, &MinutesSummary::smallest);
+    case Aggregate::MaxDuration:
+        return duration(minutes_, &MinutesSummary::largest);
+    case Aggregate::MaxSelectedDuration:
+        return duration(selectedMinutes_, &MinutesSummary::largest);
+    case Aggregate::AvgDuration:
+        return duration(minutes_, &MinutesSummary::mean);
+    case Aggregate::AvgSelectedDuration:
+        return duration(selectedMinutes_, &MinutesSummary::mean);
+    case Aggregate::TotalDays:
+        return days(days_.get());
+    case Aggregate::TotalSelectedDays:
+        return days(selectedDays_.get());
+    }
+    return {};
 }
 
 } // namespace quillet

@@ -1,13 +1,8 @@
 #include "app/AppViewsController.h"
 #include "app/Core.h"
 #include "app/PreferencesWindowController.h"
-#include "backends/icu/IcuCalendarArithmetic.h"
-#include "backends/icu/IcuCollator.h"
-#include "backends/icu/IcuLocaleFormats.h"
 #include "results/PreferencesColumnsViewController.h"
-#include "support/EventTableFake.h"
-#include "support/Fakes.h"
-#include "support/MemorySettings.h"
+#include "support/FakeOutside.h"
 
 #include <QDir>
 #include <QFile>
@@ -39,78 +34,24 @@ public:
     void setSelectedToolbarItem(const QString&) override {}
 };
 
-class SilentResults final : public ResultsPanel {
-public:
-    void installTabContent(ResultsTab) override {}
-    void setTokenizingCharacters(const QString&, const QString&) override {}
-};
-
 /// One start after the other over one store of settings.
 class FirstRunTest : public testing::Test {
 protected:
     /// One start of the program: all wake up, then the delegate hears of the launch.
     void launch() {
-        core = std::make_unique<Core>(seams());
+        core = std::make_unique<Core>(outside.seams());
         core->wake();
         PreferencesColumnsViewController(settings).awakeFromNib();
         AppViewsController({settings, panes, button, button, button, button}).awakeFromNib();
         PreferencesWindowController(settings, preferences).awakeFromNib();
         core->finishLaunching();
     }
-    [[nodiscard]] CoreSeams seams() {
-        return {.settings = settings,
-                .store = store,
-                .clock = clock,
-                .formats = formats,
-                .gregorian = calendar,
-                .currentCalendar = calendar,
-                .collator = collator,
-                .fetchQueue = background,
-                .mainQueue = main,
-                .timer = timer,
-                .alerts = alerts,
-                .savePanel = panel,
-                .progress = progress,
-                .textColor = textColor,
-                .pasteboard = pasteboard,
-                .scriptRunner = scripts,
-                .installedPrograms = installed,
-                .workspace = workspace,
-                .taskLauncher = launcher,
-                .updater = updater,
-                .releaseNotesPath = "/notes.rtf",
-                .makeTable = [this](const EventTableSource&) -> ColumnTable& { return table; },
-                .resultsPanel = resultsPanel,
-                .menuItems = {item, item, item},
-                .txtMenuItems = {item, item, item},
-                .exportToolbarItems = {&button}};
-    }
 
-    test::MemorySettings settings;
-    test::FakeEventStore store;
-    test::FakeAlerts alerts;
-    test::FakeQueue background;
-    test::FakeQueue main;
-    test::FakeTimer timer;
-    test::FakeTable table = test::eventTable();
-    test::FakeMenuItem item;
+    test::FakeOutside outside;
+    test::MemorySettings& settings = outside.settings;
     test::FakeToolbarItem button;
-    test::FakeSavePanel panel;
-    test::FakeProgress progress;
-    test::FakeTextColor textColor;
-    test::FakePasteboard pasteboard;
-    test::FakeScriptRunner scripts;
-    test::FakeInstalledPrograms installed;
-    test::FakeWorkspace workspace;
-    test::FakeTaskLauncher launcher;
-    test::FakeUpdater updater;
-    test::FakeClock clock{utc(2024, 3, 6, 12)};
     SilentPanes panes;
     SilentPreferences preferences;
-    SilentResults resultsPanel;
-    IcuCalendarArithmetic calendar{"en_US", "UTC", CalendarSystem::Gregorian};
-    IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "UTC"};
-    IcuCollator collator{"en_US"};
     std::unique_ptr<Core> core;
 };
 
