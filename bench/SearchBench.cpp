@@ -2,12 +2,8 @@
 // main thread until the list is narrowed, and the same with the totals that follow. The baseline
 // reads the same texts once, unit by unit.
 
-#include "backends/icu/IcuCalendarArithmetic.h"
-#include "eventdata/EventsController.h"
-#include "results/SearchFieldController.h"
 #include "support/EventSamples.h"
-#include "support/Fakes.h"
-#include "support/MemorySettings.h"
+#include "support/FakeOutside.h"
 
 #include <benchmark/benchmark.h>
 
@@ -43,30 +39,29 @@ std::vector<Event> sampleEvents(const QString& letters) {
 
 struct Searching {
     explicit Searching(const QString& letters) {
-        settings.setObject("viewMode", 0);
-        events.setContent(sampleEvents(letters));
-        controller.awakeFromNib();
+        outside.settings.setObject("viewMode", 0);
+        core.events.setContent(sampleEvents(letters));
+        core.search.awakeFromNib();
     }
-    void type(const QString& text) {
-        field.typed = text;
-        controller.updateFilter();
-    }
+    void type(const QString& text) { core.search.setSearchText(text); }
 
-    test::MemorySettings settings;
-    test::FakeSearchField field;
-    ListController<Event> events{eventIdentityHash, isSameEvent};
-    SearchFieldController controller{{settings, field, field, events}};
+    test::FakeOutside outside;
+    Core core{outside.seams()};
 };
 
-/// Types `last` over `first` again and again; only `last` is timed.
-void typeOver(benchmark::State& state, Searching& searching, const char* first, const char* last) {
+/// Types `last` over `first` again and again; only `last` is timed, and what follows from it.
+void typeOver(
+    benchmark::State& state, Searching& searching, const char* first, const char* last,
+    const std::function<void()>& follow = [] {}) {
     for (auto _ : state) {
         state.PauseTiming();
         searching.type(QString::fromUtf8(first));
+        follow();
         state.ResumeTiming();
         searching.type(QString::fromUtf8(last));
+        follow();
     }
-    state.counters["found"] = static_cast<double>(searching.events.arrangedCount());
+    state.counters["found"] = static_cast<double>(searching.core.events.arrangedCount());
 }
 
 void keyTyped(benchmark::State& state, const char* letters, const char* first, const char* last) {
@@ -76,7 +71,7 @@ void keyTyped(benchmark::State& state, const char* letters, const char* first, c
 
 void keyTypedOverATableSortedByTitle(benchmark::State& state) {
     Searching searching("Harbour Street");
-    searching.events.setOrder([](const Event& left, const Event& right) {
+    searching.core.events.setOrder([](const Event& left, const Event& right) {
         return left.details->title < right.details->title;
     });
     typeOver(state, searching, "", "r");
@@ -85,22 +80,18 @@ void keyTypedOverATableSortedByTitle(benchmark::State& state) {
 /// With the totals that follow the list. The fetch that a key starts waits on its queue.
 void keyTypedAndTotals(benchmark::State& state) {
     Searching searching("Harbour Street");
-    searching.settings.setObject("isCalendarAccessGranted", true);
-    searching.settings.setObject("filterStartDate", QVariant::fromValue(utc(2020, 1, 1)));
-    searching.settings.setObject("filterEndDate", QVariant::fromValue(utc(2023, 12, 30)));
-    test::FakeEventStore store;
-    test::FakeAlerts alerts;
-    test::FakeQueue background;
-    test::FakeQueue main;
-    const IcuCalendarArithmetic calendar{"en_US", "Europe/Berlin", CalendarSystem::Gregorian};
-    BillingSettingsSource billing{searching.settings, calendar};
-    EventKitManager manager{store, searching.settings, alerts, main};
-    ListController<CalendarRecord> records;
-    EventsController fetching{{manager, searching.settings, billing, calendar, searching.events,
-                               records, background, main}};
-    fetching.awakeFromNib();
-    background.tasks.clear();
-    typeOver(state, searching, "", "r");
+    test::MemorySettings& settings = searching.outside.settings;
+    settings.setObject("isCalendarAccessGranted", true);
+    settings.setObject("filterStartDate", QVariant::fromValue(utc(2020, 1, 1)));
+    settings.setObject("filterEndDate", QVariant::fromValue(utc(2023, 12, 30)));
+    searching.core.eventsController.awakeFromNib();
+    searching.outside.background.tasks.clear();
+    typeOver(state, searching, "", "r", [&searching] {
+        using enum EventsController::Aggregate;
+        for (const auto name : {TotalDuration, TotalSelectedDuration, TotalDays}) {
+            benchmark::DoNotOptimize(searching.core.eventsController.aggregate(name));
+        }
+    });
 }
 
 void readTexts(benchmark::State& state) {

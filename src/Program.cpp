@@ -18,10 +18,6 @@ namespace {
 
 const QString windowStateFile = QStringLiteral("/window.ini");
 
-EventItemViewController::TimeMenuItems items(TimeColumnActions& actions) {
-    return {actions.hours, actions.minutes, actions.duration};
-}
-
 std::vector<std::reference_wrapper<EventStore>> present(EventStore& folder, EventStore* service) {
     return service == nullptr ? std::vector{std::ref(folder)}
                               : std::vector{std::ref(folder), std::ref(*service)};
@@ -33,10 +29,6 @@ bool showInSoftwareCentre(TaskLauncher& launcher) {
     SessionBusPortal portal;
     const SoftwareCentre centre(applications, isInSandbox() ? &portal : nullptr);
     return centre.show(applicationIdentifier()).has_value();
-}
-
-std::vector<ToolbarItem*> toolbarItems(ExportItems& items) {
-    return {&items.text, &items.csv, &items.tsv, &items.mail, &items.notes};
 }
 
 } // namespace
@@ -74,7 +66,6 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
                 .openSoftwareCentre = [this] { return showInSoftwareCentre(taskLauncher_); },
                 .security = &QSslConfiguration::defaultConfiguration,
                 .limits = ReleaseListUpdater::usualLimits})
-    , resultsPane_(new ResultsPane(settings_))
     , core_(seams())
     , reportFormats_(locales_, timeZone_)
     , reportCalendar_(locales_.time, timeZone_, CalendarSystem::Gregorian)
@@ -105,21 +96,16 @@ CoreSeams Program::seams() {
             .releaseNotesPath = paths_.releaseNotes,
             .makeTable = [this](const EventTableSource& source) -> ColumnTable& {
                 return makeTable(source);
-            },
-            .resultsPanel = *resultsPane_,
-            .menuItems = items(menuTimeColumns_),
-            .txtMenuItems = items(headerTimeColumns_),
-            .exportToolbarItems = toolbarItems(exportItems_)};
+            }};
 }
 
 ColumnTable& Program::makeTable(const EventTableSource& source) {
     eventModel_ = std::make_unique<EventTableModel>(source.events, source.fields, source.settings);
-    eventTable_ = new EventTableView(
-        *eventModel_, source.events, source.settings,
-        [&order = source.order](const QString& column, SortDirection direction) {
-            return order.sorter(column, direction);
-        },
-        headerTimeColumns_);
+    eventTable_ =
+        new EventTableView(*eventModel_, source.events, source.settings,
+                           [&order = source.order](const QString& column, SortDirection direction) {
+                               return order.sorter(column, direction);
+                           });
     const QSettings state(paths_.stateFolder + windowStateFile, QSettings::IniFormat);
     if (!eventTable_->restoreColumnState(state.value(QStringLiteral("columns")).toByteArray())) {
         applyPlacements(defaultColumnPlacements(), *eventTable_);
@@ -143,9 +129,6 @@ void Program::start() {
     window_ = std::make_unique<MainWindow>(
         core_, MainWindow::Parts{
                    .eventTable = *eventTable_,
-                   .resultsPane = *resultsPane_,
-                   .exportItems = exportItems_,
-                   .timeColumnActions = menuTimeColumns_,
                    .reportBuilding = {*reportQueue_, *mainQueue_, reportFormats_, reportCalendar_},
                    .calendarActions = calendarActions()});
     dialogs_.setWindow(window_.get());

@@ -15,10 +15,8 @@
 #include "window/calendars/CalendarOffer.h"
 #include "window/events/EventTableModel.h"
 #include "window/events/EventTableView.h"
-#include "window/events/ResultsPane.h"
 #include "window/main/ActivationWatcher.h"
 #include "window/main/DesktopDialogs.h"
-#include "window/main/InterfaceActions.h"
 #include "window/main/MainWindow.h"
 #include "window/main/UpdateDialogs.h"
 
@@ -84,13 +82,9 @@ private:
     IcuCollator collator_;
     UpdateDialogs updateDialogs_;
     ReleaseListUpdater updater_;
-    TimeColumnActions menuTimeColumns_;
-    TimeColumnActions headerTimeColumns_;
-    ExportItems exportItems_;
     std::unique_ptr<EventTableModel> eventModel_;
-    /// Belong to the window once that is built.
+    /// Belongs to the window once that is built.
     EventTableView* eventTable_ = nullptr;
-    ResultsPane* resultsPane_;
     Core core_;
     IcuLocaleFormats reportFormats_;
     IcuCalendarArithmetic reportCalendar_;

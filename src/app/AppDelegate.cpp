@@ -28,12 +28,6 @@ void AppDelegate::applicationDidFinishLaunching() {
     writeStartupSettings(with_.settings);
 }
 
-void AppDelegate::awakeFromNib() {
-    for (ToolbarItem* item : with_.exportToolbarItems) {
-        item->setEnabled(true);
-    }
-}
-
 void AppDelegate::accessGranted() {
     settings::isCalendarAccessGranted.write(with_.settings, true);
 }

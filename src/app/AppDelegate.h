@@ -1,12 +1,9 @@
 #pragma once
 
-#include "platform/InterfaceItems.h"
 #include "platform/SettingsStore.h"
 #include "platform/SoftwareUpdater.h"
 #include "platform/TaskLauncher.h"
 #include "platform/Workspace.h"
-
-#include <vector>
 
 namespace quillet {
 
@@ -19,8 +16,6 @@ public:
         Workspace& workspace;
         TaskLauncher& taskLauncher;
         SoftwareUpdater& updater;
-        /// The toolbar's export buttons.
-        std::vector<ToolbarItem*> exportToolbarItems;
         /// The release notes, rich text.
         QString releaseNotesPath;
     };
@@ -29,7 +24,6 @@ public:
 
     /// Writes the first-run value of each setting that is absent; stored values stay as they are.
     void applicationDidFinishLaunching();
-    void awakeFromNib();
     /// Closing the main window ends the program.
     [[nodiscard]] static bool applicationShouldTerminateAfterLastWindowClosed() { return true; }
     void accessGranted();

@@ -4,48 +4,49 @@
 
 namespace quillet {
 
-AppViewsController::AppViewsController(const Collaborators& collaborators)
-    : with_(collaborators) {}
+AppViewsController::AppViewsController(SettingsStore& settings)
+    : settings_(settings) {}
+
+AppViewsController::~AppViewsController() = default;
 
 void AppViewsController::awakeFromNib() {
-    SettingsStore& settings = with_.settings;
-    settings::isProgressIndicatorOn.writeIfAbsent(settings);
-    with_.panes.setProgressAnimated(false);
+    settings::isProgressIndicatorOn.writeIfAbsent(settings_);
+    setProgressIndicatorShown(false);
     observations_.push_back(settings::isProgressIndicatorOn.observe(
-        settings, [this] { observeValueForKeyPath(settings::isProgressIndicatorOn.name()); }));
-    settings::viewMode.writeIfAbsent(settings);
-    settings::isExportTXTViewOn.reset(settings);
-    settings::isNotesViewOn.reset(settings);
+        settings_, [this] { observeValueForKeyPath(settings::isProgressIndicatorOn.name()); }));
+    settings::viewMode.writeIfAbsent(settings_);
+    settings::isExportTXTViewOn.reset(settings_);
+    settings::isNotesViewOn.reset(settings_);
     setExportItemsEnabled(true);
     observations_.push_back(settings::isDollarsOn.observe(
-        settings, [this] { observeValueForKeyPath(settings::isDollarsOn.name()); }));
-    arrangePanes(settings::viewMode.read(settings));
+        settings_, [this] { observeValueForKeyPath(settings::isDollarsOn.name()); }));
+    arrangePanes(settings::viewMode.read(settings_));
 }
 
 void AppViewsController::observeValueForKeyPath(const QString& keyPath) {
     if (keyPath == settings::isDollarsOn.name()) {
         toggleRateView();
     } else if (keyPath == settings::isProgressIndicatorOn.name()) {
-        if (settings::isProgressIndicatorOn.read(with_.settings)) {
+        if (settings::isProgressIndicatorOn.read(settings_)) {
             enableProgressIndicator();
         } else {
             disableProgressIndicator();
         }
     } else if (keyPath == settings::viewMode.name()) {
-        arrangePanes(settings::viewMode.read(with_.settings));
+        arrangePanes(settings::viewMode.read(settings_));
     }
 }
 
 qint64 AppViewsController::viewMode() {
-    if (!settings::viewMode.isStored(with_.settings)) {
+    if (!settings::viewMode.isStored(settings_)) {
         setViewMode(0);
         return 0;
     }
-    return settings::viewMode.read(with_.settings);
+    return settings::viewMode.read(settings_);
 }
 
 void AppViewsController::setViewMode(qint64 mode) {
-    settings::viewMode.write(with_.settings, mode);
+    settings::viewMode.write(settings_, mode);
 }
 
 void AppViewsController::arrangePanes(qint64 mode) {
@@ -56,16 +57,22 @@ void AppViewsController::arrangePanes(qint64 mode) {
     changeRateViewController(mode);
 }
 
+const std::vector<PaneContent>& AppViewsController::contents(Pane pane) const {
+    static const std::vector<PaneContent> none;
+    const auto shown = contents_.find(pane);
+    return shown == contents_.end() ? none : shown->second;
+}
+
 void AppViewsController::swapPane(Pane pane, PaneContent content, bool isContentTaken) {
-    if (const auto shown = contents_.find(pane); shown != contents_.end()) {
-        with_.panes.remove(shown->second);
-    }
     if (isContentTaken) {
-        contents_[pane] = content;
+        contents_[pane] = {content};
     }
-    if (const auto shown = contents_.find(pane); shown != contents_.end()) {
-        with_.panes.install(shown->second, pane);
-    }
+    Q_EMIT contentsChanged(pane);
+}
+
+void AppViewsController::setPaneHidden(Pane pane, bool isHidden) {
+    hiddenPanes_.at(pane) = isHidden;
+    Q_EMIT isPaneHiddenChanged(pane);
 }
 
 void AppViewsController::changeListViewController(qint64 mode) {
@@ -86,42 +93,39 @@ void AppViewsController::changeRateViewController(qint64 /*mode*/) {
 }
 
 void AppViewsController::changeExportViewController() {
-    if (const auto shown = contents_.find(Pane::Export); shown != contents_.end()) {
-        with_.panes.remove(shown->second);
-        contents_.erase(shown);
+    std::vector<PaneContent>& shown = contents_[Pane::Export];
+    shown.clear();
+    if (settings::isExportTXTViewOn.read(settings_)) {
+        shown.push_back(PaneContent::ExportTxtView);
     }
-    const bool isTxtOn = settings::isExportTXTViewOn.read(with_.settings);
-    const bool isNotesOn = settings::isNotesViewOn.read(with_.settings);
-    const auto show = [this](PaneContent content) {
-        with_.panes.setPaneHidden(Pane::Export, false);
-        contents_[Pane::Export] = content;
-        with_.panes.install(content, Pane::Export);
-    };
-    if (isTxtOn) {
-        show(PaneContent::ExportTxtView);
+    if (settings::isNotesViewOn.read(settings_)) {
+        shown.push_back(PaneContent::ExportNotesView);
     }
-    if (isNotesOn) {
-        show(PaneContent::ExportNotesView);
+    // A pane is filled once it is seen, and left alone before it is emptied.
+    if (!shown.empty()) {
+        setPaneHidden(Pane::Export, false);
     }
-    if (!isTxtOn && !isNotesOn) {
-        with_.panes.setPaneHidden(Pane::Export, true);
+    Q_EMIT contentsChanged(Pane::Export);
+    if (shown.empty()) {
+        setPaneHidden(Pane::Export, true);
     }
 }
 
 void AppViewsController::toggleRateView() {
-    with_.panes.setPaneHidden(Pane::Rate,
-                              integerForKey(with_.settings, settings::isDollarsOn.name()) != 1);
+    setPaneHidden(Pane::Rate, integerForKey(settings_, settings::isDollarsOn.name()) != 1);
 }
 
 void AppViewsController::enableProgressIndicator() {
-    with_.panes.removeProgressIndicator();
-    with_.panes.addProgressIndicator();
-    with_.panes.setProgressAnimated(true);
+    setProgressIndicatorShown(true);
 }
 
 void AppViewsController::disableProgressIndicator() {
-    with_.panes.setProgressAnimated(false);
-    with_.panes.removeProgressIndicator();
+    setProgressIndicatorShown(false);
+}
+
+void AppViewsController::setProgressIndicatorShown(bool isShown) {
+    isProgressShown_ = isShown;
+    Q_EMIT isProgressIndicatorShownChanged();
 }
 
 void AppViewsController::exportTxtToolbarItemClicked() {
@@ -151,27 +155,25 @@ void AppViewsController::turnNotesExportViewOff() {
 }
 
 void AppViewsController::showExport(const Setting<bool>& isOpen) {
-    isOpen.write(with_.settings, true);
+    isOpen.write(settings_, true);
     changeExportViewController();
 }
 
 void AppViewsController::closeExport(const Setting<bool>& isOpen) {
-    isOpen.write(with_.settings, false);
+    isOpen.write(settings_, false);
     changeExportViewController();
     setExportItemsEnabled(true);
 }
 
 QRectF AppViewsController::effectiveRect(const QRectF& proposed) const {
-    const bool isOpen = integerForKey(with_.settings, settings::isExportTXTViewOn.name()) == 1 ||
-                        integerForKey(with_.settings, settings::isNotesViewOn.name()) == 1;
+    const bool isOpen = integerForKey(settings_, settings::isExportTXTViewOn.name()) == 1 ||
+                        integerForKey(settings_, settings::isNotesViewOn.name()) == 1;
     return isOpen ? proposed : QRectF();
 }
 
 void AppViewsController::setExportItemsEnabled(bool isEnabled) {
-    for (ToolbarItem* item : {&with_.exportTxtToolbarItem, &with_.exportCsvToolbarItem,
-                              &with_.exportTsvToolbarItem, &with_.exportNotesToolbarItem}) {
-        item->setEnabled(isEnabled);
-    }
+    areExportItemsEnabled_ = isEnabled;
+    Q_EMIT areExportToolbarItemsEnabledChanged();
 }
 
 } // namespace quillet

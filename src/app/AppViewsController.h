@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/InterfaceItems.h"
 #include "platform/Observation.h"
 #include "platform/Setting.h"
 
+#include <QObject>
 #include <QRectF>
 #include <QString>
 
@@ -25,35 +25,15 @@ enum class PaneContent {
     ExportNotesView,
 };
 
-/// The main window, as far as its panes go.
-class MainWindowPanes {
-public:
-    virtual ~MainWindowPanes() = default;
-    virtual void remove(PaneContent content) = 0;
-    /// Adds the view to the pane; it fills the pane and grows and shrinks with it.
-    virtual void install(PaneContent content, Pane pane) = 0;
-    /// Of the two panes of the centre split view that come and go: Export and Rate.
-    virtual void setPaneHidden(Pane pane, bool isHidden) = 0;
-    virtual void removeProgressIndicator() = 0;
-    /// Above everything else, in the middle of the window.
-    virtual void addProgressIndicator() = 0;
-    virtual void setProgressAnimated(bool isAnimated) = 0;
-};
-
 /// Puts the right views into the panes, shows and hides those that come and go, and runs the busy
-/// indicator.
-class AppViewsController {
-public:
-    struct Collaborators {
-        SettingsStore& settings;
-        MainWindowPanes& panes;
-        ToolbarItem& exportTxtToolbarItem;
-        ToolbarItem& exportCsvToolbarItem;
-        ToolbarItem& exportTsvToolbarItem;
-        ToolbarItem& exportNotesToolbarItem;
-    };
+/// indicator. The window shows what is told here, from the moment when it is built.
+class AppViewsController : public QObject {
+    Q_OBJECT
 
-    explicit AppViewsController(const Collaborators& collaborators);
+public:
+    explicit AppViewsController(SettingsStore& settings);
+    ~AppViewsController() override;
+    Q_DISABLE_COPY_MOVE(AppViewsController)
 
     void awakeFromNib();
     /// Reacts to a changed key. `viewMode` is among them, but is not observed: panes are arranged
@@ -86,16 +66,35 @@ public:
     /// Where the centre divider can be dragged: nowhere, unless an export pane is open.
     [[nodiscard]] QRectF effectiveRect(const QRectF& proposed) const;
 
+    /// The views in a pane, each of which fills it, the topmost last.
+    [[nodiscard]] const std::vector<PaneContent>& contents(Pane pane) const;
+    /// Of the two panes of the centre split view that come and go: Export and Rate.
+    [[nodiscard]] bool isPaneHidden(Pane pane) const { return hiddenPanes_.at(pane); }
+    /// Above everything else, in the middle of the window.
+    [[nodiscard]] bool isProgressIndicatorShown() const { return isProgressShown_; }
+    /// The toolbar's buttons for the text report, CSV, TSV and notes.
+    [[nodiscard]] bool areExportToolbarItemsEnabled() const { return areExportItemsEnabled_; }
+
+Q_SIGNALS:
+    void contentsChanged(quillet::Pane pane);
+    void isPaneHiddenChanged(quillet::Pane pane);
+    void isProgressIndicatorShownChanged();
+    void areExportToolbarItemsEnabledChanged();
+
 private:
     void arrangePanes(qint64 mode);
     void swapPane(Pane pane, PaneContent content, bool isContentTaken);
+    void setPaneHidden(Pane pane, bool isHidden);
+    void setProgressIndicatorShown(bool isShown);
     void showExport(const Setting<bool>& isOpen);
     void closeExport(const Setting<bool>& isOpen);
     void setExportItemsEnabled(bool isEnabled);
 
-    Collaborators with_;
-    /// What each pane shows now.
-    std::map<Pane, PaneContent> contents_;
+    SettingsStore& settings_;
+    std::map<Pane, std::vector<PaneContent>> contents_;
+    std::map<Pane, bool> hiddenPanes_{{Pane::Export, false}, {Pane::Rate, false}};
+    bool isProgressShown_ = false;
+    bool areExportItemsEnabled_ = true;
     std::vector<Observation> observations_;
 };
 

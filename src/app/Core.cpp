@@ -25,9 +25,8 @@ Core::Core(const CoreSeams& seams)
     , eventTable(seams.makeTable({settings, events, fields, eventOrder}))
     , eventItemTableView({events, eventTable, fields, seams.pasteboard})
     , openCalendarEvent({settings, events, seams.scriptRunner})
-    , eventItemView({settings, eventTable, seams.menuItems, seams.txtMenuItems, calendars,
-                     gregorian, formats})
-    , eventResults({settings, seams.resultsPanel, eventsController, events, billing, formats})
+    , eventItemView({settings, eventTable, calendars, gregorian, formats})
+    , eventResults({settings, eventsController, events, billing, formats})
     , columnLayouts({settings, eventTable, seams.alerts})
     , eventNotes({settings, events, formats, gregorian})
     , txtSettings(settings, seams.alerts)
@@ -42,8 +41,11 @@ Core::Core(const CoreSeams& seams)
           {settings, formats, seams.savePanel, seams.alerts, seams.scriptRunner,
            seams.installedPrograms, seams.textColor, seams.progress,
            [this](const ExportProgress& progress) { return eventNotes.shownText(progress); }})
-    , appDelegate({settings, seams.workspace, seams.taskLauncher, seams.updater,
-                   seams.exportToolbarItems, seams.releaseNotesPath}) {
+    , search(settings, events)
+    , preferences(settings)
+    , views(settings)
+    , appDelegate(
+          {settings, seams.workspace, seams.taskLauncher, seams.updater, seams.releaseNotesPath}) {
     fetchAgainWhenOutdated(seams.mainQueue);
 }
 
@@ -75,11 +77,13 @@ void Core::wake() {
     txtSettings.awakeFromNib();
     exportTxtView.awakeFromNib();
     eventItemView.awakeFromNib();
+    preferences.awakeFromNib();
+    search.awakeFromNib();
+    views.awakeFromNib();
     eventsController.awakeFromNib();
 }
 
 void Core::finishLaunching() {
-    appDelegate.awakeFromNib();
     appDelegate.applicationDidFinishLaunching();
 }
 

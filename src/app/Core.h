@@ -1,6 +1,8 @@
 #pragma once
 
 #include "app/AppDelegate.h"
+#include "app/AppViewsController.h"
+#include "app/PreferencesWindowController.h"
 #include "calendars/CalendarGroupsArrayController.h"
 #include "calendars/CalendarGroupsArraySelectedCalendarsArrayController.h"
 #include "calendars/CalendarGroupsController.h"
@@ -22,6 +24,7 @@
 #include "results/EventNotesViewController.h"
 #include "results/EventResultsViewController.h"
 #include "results/OpenCalendarEvent.h"
+#include "results/SearchFieldController.h"
 
 namespace quillet {
 
@@ -63,11 +66,6 @@ struct CoreSeams {
     /// Makes the table of the events, its columns as they stand when the program starts. Called
     /// once, while the core is built.
     std::function<ColumnTable&(const EventTableSource& source)> makeTable;
-    ResultsPanel& resultsPanel;
-    EventItemViewController::TimeMenuItems menuItems;
-    /// The set that belongs to the text report.
-    EventItemViewController::TimeMenuItems txtMenuItems;
-    std::vector<ToolbarItem*> exportToolbarItems;
 };
 
 /// Every controller of the logic, built and woken in the one order: the members stand in the order
@@ -115,6 +113,9 @@ public:
     ExportTSV exportTSV;
     ExportTXT exportTXT;
     ExportNotes exportNotes;
+    SearchFieldController search;
+    PreferencesWindowController preferences;
+    AppViewsController views;
     AppDelegate appDelegate;
 
 private:

@@ -29,10 +29,10 @@ const PaneName& nameOf(PreferencesPane pane) {
 
 } // namespace
 
-PreferencesWindowController::PreferencesWindowController(SettingsStore& settings,
-                                                         PreferencesWindow& window)
-    : settings_(settings)
-    , window_(window) {}
+PreferencesWindowController::PreferencesWindowController(SettingsStore& settings)
+    : settings_(settings) {}
+
+PreferencesWindowController::~PreferencesWindowController() = default;
 
 QString PreferencesWindowController::toolbarItemIdentifier(PreferencesPane pane) {
     return QString::fromLatin1(nameOf(pane).identifier);
@@ -43,8 +43,8 @@ void PreferencesWindowController::awakeFromNib() {
     const qint64 stored = settings::selectedPreferencesToolbarItem.read(settings_);
     changePreferencesViewSubview(static_cast<quint64>(stored));
     const bool isPane = stored >= 0 && stored < std::ssize(paneNames);
-    window_.setSelectedToolbarItem(toolbarItemIdentifier(
-        isPane ? static_cast<PreferencesPane>(stored) : PreferencesPane::General));
+    Q_EMIT toolbarItemSelected(toolbarItemIdentifier(isPane ? static_cast<PreferencesPane>(stored)
+                                                            : PreferencesPane::General));
 }
 
 void PreferencesWindowController::toolbarItemClicked(PreferencesPane pane) {
@@ -54,15 +54,16 @@ void PreferencesWindowController::toolbarItemClicked(PreferencesPane pane) {
 
 void PreferencesWindowController::changePreferencesViewSubview(quint64 index) {
     if (isPaneShown_) {
-        window_.removePane(shownPane_);
+        Q_EMIT paneRemoved(shownPane_);
     }
     if (index < paneNames.size()) {
         shownPane_ = static_cast<PreferencesPane>(index);
         isPaneShown_ = true;
-        window_.setTitle(localized(nameOf(shownPane_).title));
+        title_ = localized(nameOf(shownPane_).title);
+        Q_EMIT titleChanged(title_);
     }
     if (isPaneShown_) {
-        window_.installPane(shownPane_);
+        Q_EMIT paneInstalled(shownPane_);
     }
 }
 
@@ -76,9 +77,9 @@ void PreferencesWindowController::showWindowWithColumnsPreferencesView() {
 
 void PreferencesWindowController::showWindowWith(PreferencesPane pane) {
     settings::selectedPreferencesToolbarItem.write(settings_, static_cast<qint64>(pane));
-    window_.showWindow();
+    Q_EMIT windowShown();
     changePreferencesViewSubview(static_cast<quint64>(pane));
-    window_.setSelectedToolbarItem(toolbarItemIdentifier(pane));
+    Q_EMIT toolbarItemSelected(toolbarItemIdentifier(pane));
 }
 
 } // namespace quillet

@@ -2,6 +2,7 @@
 
 #include "platform/SettingsStore.h"
 
+#include <QObject>
 #include <QString>
 
 namespace quillet {
@@ -9,23 +10,14 @@ namespace quillet {
 /// The panes of the preferences window, in toolbar order.
 enum class PreferencesPane { General, Columns, Text, Csv, Reminders };
 
-/// The preferences window on screen.
-class PreferencesWindow {
-public:
-    virtual ~PreferencesWindow() = default;
-    /// Brings the window up.
-    virtual void showWindow() = 0;
-    virtual void setTitle(const QString& title) = 0;
-    virtual void removePane(PreferencesPane pane) = 0;
-    /// Adds the pane; it fills the window's container and grows and shrinks with it.
-    virtual void installPane(PreferencesPane pane) = 0;
-    virtual void setSelectedToolbarItem(const QString& identifier) = 0;
-};
-
 /// Switches the panes of the preferences window and remembers the one chosen last.
-class PreferencesWindowController {
+class PreferencesWindowController : public QObject {
+    Q_OBJECT
+
 public:
-    PreferencesWindowController(SettingsStore& settings, PreferencesWindow& window);
+    explicit PreferencesWindowController(SettingsStore& settings);
+    ~PreferencesWindowController() override;
+    Q_DISABLE_COPY_MOVE(PreferencesWindowController)
 
     /// The window always starts on the General pane.
     void awakeFromNib();
@@ -38,12 +30,23 @@ public:
 
     /// "general", "columns", "text", "csv" or "reminders".
     [[nodiscard]] static QString toolbarItemIdentifier(PreferencesPane pane);
+    /// The pane that fills the window's container, and what titles the window.
+    [[nodiscard]] PreferencesPane shownPane() const { return shownPane_; }
+    [[nodiscard]] QString title() const { return title_; }
+
+Q_SIGNALS:
+    /// The window is to come up.
+    void windowShown();
+    void titleChanged(const QString& title);
+    void paneRemoved(quillet::PreferencesPane pane);
+    void paneInstalled(quillet::PreferencesPane pane);
+    void toolbarItemSelected(const QString& identifier);
 
 private:
     void showWindowWith(PreferencesPane pane);
 
     SettingsStore& settings_;
-    PreferencesWindow& window_;
+    QString title_;
     bool isPaneShown_ = false;
     PreferencesPane shownPane_ = PreferencesPane::General;
 };

@@ -109,17 +109,10 @@ void EventItemViewController::setHiddenTimeColumns() {
     const auto timeType = static_cast<TimeType>(selection);
     const auto [chosen, firstRival, secondRival] = timeColumns(timeType);
     column(chosen).setHidden(!boolForKey(with_.settings, key(hours.visibilityKey)));
-    showOnly(timeType);
+    shownTimeMenuItem_ = timeType;
+    Q_EMIT shownTimeMenuItemChanged();
     replaceRival(chosen, firstRival);
     replaceRival(chosen, secondRival);
-}
-
-void EventItemViewController::showOnly(TimeType timeType) {
-    for (const TimeMenuItems& items : {with_.menuItems, with_.txtMenuItems}) {
-        items.hours.setHidden(timeType != TimeType::Hours);
-        items.minutes.setHidden(timeType != TimeType::Minutes);
-        items.duration.setHidden(timeType != TimeType::Duration);
-    }
 }
 
 void EventItemViewController::replaceRival(const char* chosen, const char* rival) {

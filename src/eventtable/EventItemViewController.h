@@ -3,7 +3,6 @@
 #include "eventdata/CalendarRecord.h"
 #include "eventtable/EventColumns.h"
 #include "platform/CalendarArithmetic.h"
-#include "platform/InterfaceItems.h"
 #include "platform/ListController.h"
 #include "platform/LocaleFormats.h"
 #include "platform/SettingsStore.h"
@@ -11,7 +10,7 @@
 
 #include <QObject>
 
-#include <array>
+#include <optional>
 #include <vector>
 
 namespace quillet {
@@ -22,18 +21,9 @@ class EventItemViewController : public QObject {
     Q_OBJECT
 
 public:
-    /// The menu entries of one set, of which only the one of the time type is shown.
-    struct TimeMenuItems {
-        MenuItem& hours;
-        MenuItem& minutes;
-        MenuItem& duration;
-    };
     struct Collaborators {
         SettingsStore& settings;
         ColumnTable& eventsTableView;
-        TimeMenuItems menuItems;
-        /// The set that belongs to the text report.
-        TimeMenuItems txtMenuItems;
         ListController<CalendarRecord>& calendarsArrayController;
         const CalendarArithmetic& calendar;
         const LocaleFormats& formats;
@@ -59,11 +49,15 @@ public:
     [[nodiscard]] QString periodLabelString() const { return periodLabel_; }
     [[nodiscard]] QString dateRangeLabelString() const { return dateRangeLabel_; }
     [[nodiscard]] QString currencySymbol() const { return currencySymbol_; }
+    /// The one menu entry that is shown of each set of entries for the time columns; nothing while
+    /// none of them is hidden.
+    [[nodiscard]] std::optional<TimeType> shownTimeMenuItem() const { return shownTimeMenuItem_; }
 
 Q_SIGNALS:
     void hourlyRateLabelStringChanged();
     void periodLabelStringChanged();
     void dateRangeLabelStringChanged();
+    void shownTimeMenuItemChanged();
 
 private:
     void observe(const char* settingsKey, std::function<void()> reaction);
@@ -71,7 +65,6 @@ private:
     [[nodiscard]] TableColumn& column(const char* identifier);
     void setHiddenByKey(const EventColumn& shown);
     void setHiddenTimeColumns();
-    void showOnly(TimeType timeType);
     void replaceRival(const char* chosen, const char* rival);
     void setHiddenMoneyColumns();
 
@@ -80,6 +73,7 @@ private:
     QString hourlyRateLabel_;
     QString periodLabel_;
     QString dateRangeLabel_;
+    std::optional<TimeType> shownTimeMenuItem_;
     bool isPassRunning_ = false;
     std::vector<Observation> observations_;
 };

@@ -22,8 +22,8 @@ void EventResultsViewController::awakeFromNib() {
     observations_.push_back(settings::timeTypeSelection.observe(
         with_.settings, [this] { observeValueForKeyPath(settings::timeTypeSelection.name()); }));
     followValues();
-    with_.panel.installTabContent(ResultsTab::AllEvents);
-    with_.panel.installTabContent(ResultsTab::SelectedEvents);
+    Q_EMIT tabContentInstalled(ResultsTab::AllEvents);
+    Q_EMIT tabContentInstalled(ResultsTab::SelectedEvents);
     setHiddenControls();
     configureTokenFields();
 }
@@ -53,7 +53,7 @@ void EventResultsViewController::setHiddenControls() {
 void EventResultsViewController::configureTokenFields() {
     for (const ResultsTab tab : {ResultsTab::AllEvents, ResultsTab::SelectedEvents}) {
         for (const ResultField field : resultFields()) {
-            with_.panel.setTokenizingCharacters(resultFieldName(tab, field), newlineCharacters);
+            Q_EMIT tokenizingCharactersChanged(resultFieldName(tab, field), newlineCharacters);
         }
     }
 }

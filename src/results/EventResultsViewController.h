@@ -16,16 +16,6 @@
 
 namespace quillet {
 
-/// The panel on screen.
-class ResultsPanel {
-public:
-    virtual ~ResultsPanel() = default;
-    /// Puts the view of one tab's fields into the tab view.
-    virtual void installTabContent(ResultsTab tab) = 0;
-    /// Only these characters part a field's text into tokens.
-    virtual void setTokenizingCharacters(const QString& fieldName, const QString& characters) = 0;
-};
-
 /// Runs the results panel: which of its groups are shown, and what its fields say.
 class EventResultsViewController : public QObject {
     Q_OBJECT
@@ -33,7 +23,6 @@ class EventResultsViewController : public QObject {
 public:
     struct Collaborators {
         SettingsStore& settings;
-        ResultsPanel& panel;
         EventsController& eventsController;
         ListController<Event>& eventsArrayController;
         BillingSettingsSource& billing;
@@ -69,6 +58,10 @@ Q_SIGNALS:
     void isDurationHiddenChanged();
     /// Texts of any field may have changed.
     void textsChanged();
+    /// The view of one tab's fields is to stand in the tab view.
+    void tabContentInstalled(quillet::ResultsTab tab);
+    /// Only these characters part a field's text into tokens, where there is a field that does.
+    void tokenizingCharactersChanged(const QString& fieldName, const QString& characters);
 
 private:
     void followValues();

@@ -79,12 +79,15 @@ ListController<Event>::Filter filterBy(const QString& condition) {
 
 } // namespace
 
-SearchFieldController::SearchFieldController(const Collaborators& collaborators)
-    : with_(collaborators) {}
+SearchFieldController::SearchFieldController(SettingsStore& settings,
+                                             ListController<Event>& eventsArrayController)
+    : settings_(settings)
+    , eventsArrayController_(eventsArrayController) {}
+
+SearchFieldController::~SearchFieldController() = default;
 
 void SearchFieldController::awakeFromNib() {
-    viewModeObservation_ =
-        settings::viewMode.observe(with_.settings, [this] { setSearchFieldMode(); });
+    viewModeObservation_ = settings::viewMode.observe(settings_, [this] { setSearchFieldMode(); });
     setSearchFieldMode();
 }
 
@@ -93,12 +96,10 @@ void SearchFieldController::setSearchFieldMode() {
     const qint64 mode = viewMode();
     if (mode == eventsView || mode == remindersView) {
         menu_.items = menuItems(mode);
-        const QString label =
-            mode == eventsView ? localized("Search Events") : localized("Search Reminders");
-        with_.searchFieldToolbarItem.setLabel(label);
-        with_.searchFieldToolbarItem.setPaletteLabel(label);
+        label_ = mode == eventsView ? localized("Search Events") : localized("Search Reminders");
+        Q_EMIT toolbarItemLabelChanged();
     }
-    with_.searchField.setMenuTemplate(menu_);
+    Q_EMIT searchMenuTemplateChanged();
     setSearchCategoryFrom(0);
 }
 
@@ -111,28 +112,33 @@ void SearchFieldController::setSearchCategoryFrom(std::size_t position) {
     }
     SearchMenuItem& chosen = menu_.items[position];
     searchCategory_ = chosen.tag;
-    with_.searchField.setPlaceholder(chosen.title);
+    placeholder_ = chosen.title;
+    Q_EMIT placeholderStringChanged();
     chosen.isTicked = true;
-    with_.searchField.setMenuTemplate(menu_);
+    Q_EMIT searchMenuTemplateChanged();
+    updateFilter();
+}
+
+void SearchFieldController::setSearchText(const QString& text) {
+    text_ = text;
     updateFilter();
 }
 
 void SearchFieldController::updateFilter() {
-    const QString text = with_.searchField.text();
-    if (text.isEmpty()) {
-        with_.eventsArrayController.setFilter({}, {});
+    if (text_.isEmpty()) {
+        eventsArrayController_.setFilter({}, {});
         return;
     }
     if (viewMode() != eventsView) {
         return;
     }
     const QString condition =
-        conditionFormat(searchCategory_).replace(QStringLiteral("%@"), quotable(text));
-    with_.eventsArrayController.setFilter(condition, filterBy(condition));
+        conditionFormat(searchCategory_).replace(QStringLiteral("%@"), quotable(text_));
+    eventsArrayController_.setFilter(condition, filterBy(condition));
 }
 
 qint64 SearchFieldController::viewMode() const {
-    return settings::viewMode.read(with_.settings);
+    return settings::viewMode.read(settings_);
 }
 
 } // namespace quillet

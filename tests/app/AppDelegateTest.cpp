@@ -29,8 +29,7 @@ protected:
     test::FakeWorkspace workspace;
     test::FakeTaskLauncher launcher;
     test::FakeUpdater updater;
-    test::FakeToolbarItem csvItem;
-    AppDelegate delegate{{settings, workspace, launcher, updater, {&csvItem}, "/notes.rtf"}};
+    AppDelegate delegate{{settings, workspace, launcher, updater, "/notes.rtf"}};
 };
 
 } // namespace
@@ -63,11 +62,6 @@ TEST_F(AppDelegateTest, StoredValuesSurviveEveryLaunch) {
 
 TEST_F(AppDelegateTest, ClosingTheWindowEndsTheProgram) {
     EXPECT_TRUE(AppDelegate::applicationShouldTerminateAfterLastWindowClosed());
-}
-
-TEST_F(AppDelegateTest, WakingEnablesTheExports) {
-    delegate.awakeFromNib();
-    EXPECT_TRUE(csvItem.isEnabled);
 }
 
 TEST_F(AppDelegateTest, RelaunchingStartsTheProgramWithItsOldProcessIdentifier) {

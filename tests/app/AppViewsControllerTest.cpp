@@ -1,60 +1,49 @@
 #include "app/AppViewsController.h"
 
-#include "support/Fakes.h"
 #include "support/MemorySettings.h"
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 
 namespace quillet {
 
 namespace {
 
-class FakePanes final : public MainWindowPanes {
-public:
-    void remove(PaneContent content) override {
-        for (auto& [pane, contents] : contentsOf) {
-            contents.erase(content);
-        }
+/// What a window shows that follows the controller.
+struct FakePanes {
+    explicit FakePanes(const AppViewsController& views) {
+        QObject::connect(&views, &AppViewsController::contentsChanged, [this, &views](Pane pane) {
+            const auto& shown = views.contents(pane);
+            contentsOf[pane] = {shown.begin(), shown.end()};
+            if (!shown.empty()) {
+                topmost[pane] = shown.back();
+            }
+        });
+        QObject::connect(&views, &AppViewsController::isPaneHiddenChanged,
+                         [this, &views](Pane pane) { hidden[pane] = views.isPaneHidden(pane); });
+        QObject::connect(&views, &AppViewsController::isProgressIndicatorShownChanged,
+                         [this, &views] { isBusy = views.isProgressIndicatorShown(); });
+        QObject::connect(
+            &views, &AppViewsController::areExportToolbarItemsEnabledChanged,
+            [this, &views] { areItemsEnabled = views.areExportToolbarItemsEnabled(); });
     }
-    void install(PaneContent content, Pane pane) override {
-        contentsOf[pane].insert(content);
-        topmost[pane] = content;
-    }
-    void setPaneHidden(Pane pane, bool isHidden) override { hidden[pane] = isHidden; }
-    void removeProgressIndicator() override { indicators = 0; }
-    void addProgressIndicator() override { ++indicators; }
-    void setProgressAnimated(bool animated) override { isAnimated = animated; }
 
     std::map<Pane, std::multiset<PaneContent>> contentsOf;
     std::map<Pane, PaneContent> topmost;
     std::map<Pane, bool> hidden;
-    int indicators = 0;
-    bool isAnimated = true;
+    bool isBusy = true;
+    bool areItemsEnabled = false;
 };
 
 using Contents = std::multiset<PaneContent>;
 
 class AppViewsControllerTest : public testing::Test {
 protected:
-    [[nodiscard]] std::string enabledItems() const {
-        return std::string(txt.isEnabled ? "txt " : "") + (csv.isEnabled ? "csv " : "") +
-               (tsv.isEnabled ? "tsv " : "") + (notes.isEnabled ? "notes" : "");
-    }
-
     test::MemorySettings settings;
-    FakePanes panes;
-    test::FakeToolbarItem txt;
-    test::FakeToolbarItem csv;
-    test::FakeToolbarItem tsv;
-    test::FakeToolbarItem notes;
-    AppViewsController controller{{.settings = settings,
-                                   .panes = panes,
-                                   .exportTxtToolbarItem = txt,
-                                   .exportCsvToolbarItem = csv,
-                                   .exportTsvToolbarItem = tsv,
-                                   .exportNotesToolbarItem = notes}};
+    AppViewsController controller{settings};
+    FakePanes panes{controller};
     const QRectF divider{0, 100, 400, 5};
 };
 
@@ -70,8 +59,8 @@ TEST_F(AppViewsControllerTest, TheFirstLaunchShowsTheEventsView) {
     EXPECT_EQ(panes.contentsOf[Pane::Item], Contents{PaneContent::EventItemView});
     EXPECT_EQ(panes.contentsOf[Pane::Inspector], Contents{PaneContent::DateInspectorView});
     EXPECT_TRUE(panes.hidden[Pane::Export]);
-    EXPECT_EQ(enabledItems(), "txt csv tsv notes");
-    EXPECT_FALSE(panes.isAnimated);
+    EXPECT_TRUE(panes.areItemsEnabled);
+    EXPECT_FALSE(panes.isBusy);
 }
 
 TEST_F(AppViewsControllerTest, ExportPanesAlwaysStartClosed) {
@@ -95,12 +84,12 @@ TEST_F(AppViewsControllerTest, TheRatePaneFollowsTheMoneySwitchAtOnce) {
 TEST_F(AppViewsControllerTest, OpeningAnExportPaneDisablesTheExportsUntilItIsClosed) {
     controller.awakeFromNib();
     controller.exportTxtToolbarItemClicked();
-    EXPECT_EQ(enabledItems(), "");
+    EXPECT_FALSE(panes.areItemsEnabled);
     EXPECT_EQ(settings.object("isExportTXTViewOn"), QVariant(true));
     EXPECT_FALSE(panes.hidden[Pane::Export]);
     EXPECT_EQ(panes.contentsOf[Pane::Export], Contents{PaneContent::ExportTxtView});
     controller.turnTxtExportViewOff();
-    EXPECT_EQ(enabledItems(), "txt csv tsv notes");
+    EXPECT_TRUE(panes.areItemsEnabled);
     EXPECT_TRUE(panes.hidden[Pane::Export]);
     EXPECT_EQ(panes.contentsOf[Pane::Export], Contents{});
     controller.exportNotesToolbarItemClicked();
@@ -114,7 +103,7 @@ TEST_F(AppViewsControllerTest, ShowingAnExportPaneLeavesTheExportsEnabled) {
     controller.displayTxtExportView();
     EXPECT_EQ(panes.contentsOf[Pane::Export], Contents{PaneContent::ExportTxtView});
     EXPECT_EQ(settings.object("isExportTXTViewOn"), QVariant(true));
-    EXPECT_EQ(enabledItems(), "txt csv tsv notes") << "only the toolbar's way in disables them";
+    EXPECT_TRUE(panes.areItemsEnabled) << "only the toolbar's way in disables them";
     controller.turnTxtExportViewOff();
     controller.displayNotesExportView();
     EXPECT_EQ(panes.contentsOf[Pane::Export], Contents{PaneContent::ExportNotesView});
@@ -146,15 +135,13 @@ TEST_F(AppViewsControllerTest, TheDividerCanBeDraggedOnlyWithAnExportPaneOpen) {
     EXPECT_EQ(controller.effectiveRect(divider), divider);
 }
 
-TEST_F(AppViewsControllerTest, ABusyFlagSetTwiceLeavesOneIndicator) {
+TEST_F(AppViewsControllerTest, ABusyFlagSetTwiceIsTakenBackAtOnce) {
     controller.awakeFromNib();
     settings.setObject("isProgressIndicatorOn", true);
     settings.setObject("isProgressIndicatorOn", true);
-    EXPECT_EQ(panes.indicators, 1);
-    EXPECT_TRUE(panes.isAnimated);
+    EXPECT_TRUE(panes.isBusy);
     settings.setObject("isProgressIndicatorOn", false);
-    EXPECT_EQ(panes.indicators, 0);
-    EXPECT_FALSE(panes.isAnimated);
+    EXPECT_FALSE(panes.isBusy);
 }
 
 TEST_F(AppViewsControllerTest, PanesAreArrangedOnceWhateverTheModeBecomes) {
@@ -171,6 +158,18 @@ TEST_F(AppViewsControllerTest, InAnotherModeThePanesKeepTheirContent) {
     controller.observeValueForKeyPath("viewMode");
     EXPECT_EQ(panes.contentsOf[Pane::List], Contents{PaneContent::CalendarListView});
     EXPECT_EQ(panes.contentsOf[Pane::Rate], Contents{PaneContent::EventRateView});
+}
+
+TEST_F(AppViewsControllerTest, AWindowThatIsBuiltLaterFindsWhatItShows) {
+    controller.awakeFromNib();
+    settings.setObject("isProgressIndicatorOn", true);
+    controller.exportTxtToolbarItemClicked();
+    EXPECT_EQ(controller.contents(Pane::Item), std::vector{PaneContent::EventItemView});
+    EXPECT_EQ(controller.contents(Pane::Export), std::vector{PaneContent::ExportTxtView});
+    EXPECT_FALSE(controller.isPaneHidden(Pane::Export));
+    EXPECT_TRUE(controller.isPaneHidden(Pane::Rate));
+    EXPECT_TRUE(controller.isProgressIndicatorShown());
+    EXPECT_FALSE(controller.areExportToolbarItemsEnabled());
 }
 
 TEST_F(AppViewsControllerTest, AnAbsentViewModeIsStoredWhenRead) {

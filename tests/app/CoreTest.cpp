@@ -59,6 +59,16 @@ TEST_F(CoreTest, ShowsTheTickedCalendarInThePeriodAfterItsStart) {
     EXPECT_EQ(core.events.arrangedCount(), 1U);
 }
 
+TEST_F(CoreTest, TheFetchOfAStartShowsThatItRuns) {
+    test::FakeOutside second;
+    second.settings.setObject("isCalendarAccessGranted", true);
+    Core started(second.seams());
+    started.wake();
+    EXPECT_TRUE(started.views.isProgressIndicatorShown());
+    second.finish();
+    EXPECT_FALSE(started.views.isProgressIndicatorShown());
+}
+
 TEST_F(CoreTest, ATickFetchesOnce) {
     EXPECT_EQ(fetchesFor([&] { core.calendars.setSelected(1, true); }), 1);
     EXPECT_EQ(fetchesFor([&] { core.calendars.setSelected(0, false); }), 1);

@@ -10,27 +10,31 @@ namespace quillet {
 
 namespace {
 
-class FakePreferencesWindow final : public PreferencesWindow {
-public:
-    void showWindow() override {
-        steps << "show";
-        isShown = true;
-    }
-    void setTitle(const QString& text) override {
-        steps << "title " + text;
-        title = text;
-    }
-    void removePane(PreferencesPane pane) override {
-        steps << "remove " + PreferencesWindowController::toolbarItemIdentifier(pane);
-        std::erase(panes, pane);
-    }
-    void installPane(PreferencesPane pane) override {
-        steps << "install " + PreferencesWindowController::toolbarItemIdentifier(pane);
-        panes.push_back(pane);
-    }
-    void setSelectedToolbarItem(const QString& identifier) override {
-        steps << "select " + identifier;
-        selectedItem = identifier;
+/// A window that follows the controller.
+struct FakePreferencesWindow {
+    explicit FakePreferencesWindow(const PreferencesWindowController& controller) {
+        using Controller = PreferencesWindowController;
+        QObject::connect(&controller, &Controller::windowShown, [this] {
+            steps << "show";
+            isShown = true;
+        });
+        QObject::connect(&controller, &Controller::titleChanged, [this](const QString& text) {
+            steps << "title " + text;
+            title = text;
+        });
+        QObject::connect(&controller, &Controller::paneRemoved, [this](PreferencesPane pane) {
+            steps << "remove " + Controller::toolbarItemIdentifier(pane);
+            std::erase(panes, pane);
+        });
+        QObject::connect(&controller, &Controller::paneInstalled, [this](PreferencesPane pane) {
+            steps << "install " + Controller::toolbarItemIdentifier(pane);
+            panes.push_back(pane);
+        });
+        QObject::connect(&controller, &Controller::toolbarItemSelected,
+                         [this](const QString& identifier) {
+                             steps << "select " + identifier;
+                             selectedItem = identifier;
+                         });
     }
 
     QStringList steps;
@@ -50,8 +54,8 @@ protected:
     }
 
     test::MemorySettings settings;
-    FakePreferencesWindow window;
-    PreferencesWindowController controller{settings, window};
+    PreferencesWindowController controller{settings};
+    FakePreferencesWindow window{controller};
 };
 
 } // namespace

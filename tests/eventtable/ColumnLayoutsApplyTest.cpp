@@ -17,12 +17,9 @@ class LayoutsOfAFollowingTable : public test::ColumnLayoutsFixture {
 protected:
     const IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "UTC"};
     const IcuCalendarArithmetic calendar{"en_US", "UTC", CalendarSystem::Gregorian};
-    test::FakeMenuItem item;
     ListController<CalendarRecord> calendars;
     EventItemViewController columns{{.settings = settings,
                                      .eventsTableView = table,
-                                     .menuItems = {item, item, item},
-                                     .txtMenuItems = {item, item, item},
                                      .calendarsArrayController = calendars,
                                      .calendar = calendar,
                                      .formats = formats}};

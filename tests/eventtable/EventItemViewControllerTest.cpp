@@ -28,17 +28,10 @@ protected:
 
     test::MemorySettings settings;
     test::FakeTable table = test::eventTable();
-    std::array<test::FakeMenuItem, 6> items;
     ListController<CalendarRecord> calendars;
     IcuCalendarArithmetic berlin{"de_DE", "Europe/Berlin", CalendarSystem::Gregorian};
     IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "Europe/Berlin"};
-    EventItemViewController controller{{settings,
-                                        table,
-                                        {items[0], items[1], items[2]},
-                                        {items[3], items[4], items[5]},
-                                        calendars,
-                                        berlin,
-                                        formats}};
+    EventItemViewController controller{{settings, table, calendars, berlin, formats}};
 };
 
 } // namespace
@@ -91,9 +84,7 @@ TEST_F(EventItemViewControllerTest, TheChosenTimeColumnTakesThePlaceAndWidthOfTh
     EXPECT_EQ(table.positionOf("minutes"), 3);
     EXPECT_EQ(table.column("minutes").width, 70);
     EXPECT_EQ(passes(), before + 1);
-    const std::array<bool, 6> hidden{items[0].isHidden, items[1].isHidden, items[2].isHidden,
-                                     items[3].isHidden, items[4].isHidden, items[5].isHidden};
-    EXPECT_EQ(hidden, (std::array{true, false, true, true, false, true}));
+    EXPECT_EQ(controller.shownTimeMenuItem(), TimeType::Minutes);
 }
 
 TEST_F(EventItemViewControllerTest, OfTwoRivalsTheSecondGivesThePlaceAndTheWidth) {
@@ -170,12 +161,10 @@ TEST_F(EventItemViewControllerTest, AnUnknownTimeTypeLeavesTheTimeColumnsAlone) 
     settings.setObject("timeTypeSelection", 0);
     table.column("hours").hidden = true;
     table.column("minutes").hidden = false;
-    items[1].isHidden = true;
     controller.awakeFromNib();
     EXPECT_TRUE(isHidden("hours"));
     EXPECT_FALSE(isHidden("minutes"));
-    EXPECT_TRUE(items[1].isHidden);
-    EXPECT_FALSE(items[0].isHidden);
+    EXPECT_EQ(controller.shownTimeMenuItem(), std::nullopt);
     EXPECT_EQ(passes(), 1);
 }
 

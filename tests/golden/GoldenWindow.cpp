@@ -23,25 +23,24 @@ GoldenWindow::GoldenWindow(const GoldenCase& described)
     : case_(described)
     , access_(folder_.path(), [](const CalendarAccess::Answer& answer) { answer(true); })
     , store_(dataPath() + QStringLiteral("/calendars"), access_, QTimeZone(described.zone.toUtf8()))
-    , calendar_(described.locale, described.zone, CalendarSystem::Gregorian)
-    , formats_({described.locale, described.locale, described.locale}, described.zone) {
+    , outside_(described.locale, described.zone) {
     access_.request([](bool, const std::optional<QString>&) {});
     fillSettings();
     fillTable();
     fillCalendars();
-    billing_.migrateHourlyRate();
-    report_.awakeFromNib();
-    notes_.awakeFromNib();
+    core_.billing.migrateHourlyRate();
+    core_.exportTxtView.awakeFromNib();
+    core_.eventNotes.awakeFromNib();
     fillEvents();
 }
 
 Instant GoldenWindow::instant(QDate day, int hour, int minute, int second) const {
-    return calendar_.instant({.year = day.year(),
-                              .month = day.month(),
-                              .day = day.day(),
-                              .hour = hour,
-                              .minute = minute,
-                              .second = second});
+    return core_.gregorian.instant({.year = day.year(),
+                                    .month = day.month(),
+                                    .day = day.day(),
+                                    .hour = hour,
+                                    .minute = minute,
+                                    .second = second});
 }
 
 void GoldenWindow::fillSettings() {
@@ -55,6 +54,8 @@ void GoldenWindow::fillSettings() {
 }
 
 void GoldenWindow::fillTable() {
+    auto& columns = outside_.table.columns;
+    columns.clear();
     for (const CaseColumn& column : case_.columns) {
         const auto known =
             std::ranges::find(eventColumns(), column.identifier, [](const auto& each) {
@@ -63,9 +64,9 @@ void GoldenWindow::fillTable() {
         const QString title = known == eventColumns().end()
                                   ? QString()
                                   : stringForKey(settings_, QString::fromLatin1(known->titleKey));
-        table_.columns.push_back(
+        columns.push_back(
             std::make_unique<test::FakeColumn>(column.identifier, title, column.widthPoints));
-        table_.columns.back()->hidden = column.isHidden;
+        columns.back()->hidden = column.isHidden;
     }
 }
 
@@ -90,7 +91,7 @@ void GoldenWindow::fillCalendars() {
         records.push_back(std::move(record));
     }
     settings_.setObject(QStringLiteral("calendars"), stored);
-    calendars_.setContent(std::move(records));
+    core_.calendars.setContent(std::move(records));
 }
 
 void GoldenWindow::fillEvents() {
@@ -111,48 +112,48 @@ void GoldenWindow::fillEvents() {
     });
     mergeDelivered(events, std::move(further));
 
-    events_.setContent(std::move(events));
-    events_.setFilter(case_.search, [this](const Event& event) {
+    core_.events.setContent(std::move(events));
+    core_.events.setFilter(case_.search, [this](const Event& event) {
         return event.details->title.contains(case_.search);
     });
     if (case_.isLatestFirst) {
-        events_.setOrder(
+        core_.events.setOrder(
             [](const Event& left, const Event& right) { return left.startDate > right.startDate; });
     }
     std::vector<std::size_t> selected;
-    for (std::size_t row = 0; row < events_.arrangedCount(); ++row) {
-        const Event& event = events_.arranged(row);
+    for (std::size_t row = 0; row < core_.events.arrangedCount(); ++row) {
+        const Event& event = core_.events.arranged(row);
         if (case_.selected.contains(event.details->eventIdentifier)) {
             selected.push_back(row);
         }
         // As the table on screen does, which brings settings of money up to date.
-        (void)fields_.valueForKey(event, QStringLiteral("cost"));
+        (void)core_.fields.valueForKey(event, QStringLiteral("cost"));
     }
-    events_.setSelectedRows(std::move(selected));
+    core_.events.setSelectedRows(std::move(selected));
 }
 
 QByteArray GoldenWindow::report() const {
-    return report_.eventsAttributedString().text().toUtf8();
+    return core_.exportTxtView.eventsAttributedString().text().toUtf8();
 }
 
 QByteArray GoldenWindow::notes() const {
-    return notes_.notes().text().toUtf8();
+    return core_.eventNotes.notes().text().toUtf8();
 }
 
 QByteArray GoldenWindow::csv() {
-    csv_.saveAsCSV();
+    core_.exportCSV.saveAsCSV();
     return savedFile();
 }
 
 QByteArray GoldenWindow::tsv() {
-    tsv_.saveAsTSV();
+    core_.exportTSV.saveAsTSV();
     return savedFile();
 }
 
 QByteArray GoldenWindow::savedFile() {
     const QString path = folder_.filePath(QStringLiteral("saved"));
     QFile::remove(path);
-    std::exchange(savePanel_.pending, {})(path);
+    std::exchange(outside_.panel.pending, {})(path);
     const auto saved = fileContent(path);
     if (!saved) {
         throw std::runtime_error("no file was saved");
@@ -161,17 +162,17 @@ QByteArray GoldenWindow::savedFile() {
 }
 
 std::optional<QByteArray> GoldenWindow::copiedRows() {
-    rows_.copy();
-    if (pasteboard_.calls.isEmpty()) {
+    core_.eventItemTableView.copy();
+    if (outside_.pasteboard.calls.isEmpty()) {
         return std::nullopt;
     }
-    return pasteboard_.content.toUtf8();
+    return outside_.pasteboard.content.toUtf8();
 }
 
 QStringList GoldenWindow::tableLines() const {
-    QString text = report_.tableViewString();
+    QString text = core_.exportTxtView.tableViewString();
     text.chop(1);
-    return text.split(u'\n') + report_.summaryRow().split(u'\n');
+    return text.split(u'\n') + core_.exportTxtView.summaryRow().split(u'\n');
 }
 
 } // namespace quillet::golden

@@ -1,6 +1,4 @@
-#include "app/AppViewsController.h"
 #include "app/Core.h"
-#include "app/PreferencesWindowController.h"
 #include "results/PreferencesColumnsViewController.h"
 #include "support/FakeOutside.h"
 
@@ -15,25 +13,6 @@ namespace {
 
 using test::utc;
 
-class SilentPanes final : public MainWindowPanes {
-public:
-    void remove(PaneContent) override {}
-    void install(PaneContent, Pane) override {}
-    void setPaneHidden(Pane, bool) override {}
-    void removeProgressIndicator() override {}
-    void addProgressIndicator() override {}
-    void setProgressAnimated(bool) override {}
-};
-
-class SilentPreferences final : public PreferencesWindow {
-public:
-    void showWindow() override {}
-    void setTitle(const QString&) override {}
-    void removePane(PreferencesPane) override {}
-    void installPane(PreferencesPane) override {}
-    void setSelectedToolbarItem(const QString&) override {}
-};
-
 /// One start after the other over one store of settings.
 class FirstRunTest : public testing::Test {
 protected:
@@ -42,16 +21,11 @@ protected:
         core = std::make_unique<Core>(outside.seams());
         core->wake();
         PreferencesColumnsViewController(settings).awakeFromNib();
-        AppViewsController({settings, panes, button, button, button, button}).awakeFromNib();
-        PreferencesWindowController(settings, preferences).awakeFromNib();
         core->finishLaunching();
     }
 
     test::FakeOutside outside;
     test::MemorySettings& settings = outside.settings;
-    test::FakeToolbarItem button;
-    SilentPanes panes;
-    SilentPreferences preferences;
     std::unique_ptr<Core> core;
 };
 

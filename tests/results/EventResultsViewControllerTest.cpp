@@ -16,12 +16,16 @@ using test::calendarNamed;
 using test::timedEvent;
 using test::utc;
 
-class FakeResultsPanel final : public ResultsPanel {
-public:
-    void installTabContent(ResultsTab tab) override { tabs.push_back(tab); }
-    void setTokenizingCharacters(const QString& fieldName, const QString& separators) override {
-        fields.append(fieldName);
-        characters = separators;
+/// A panel with fields of tokens.
+struct FakeResultsPanel {
+    explicit FakeResultsPanel(EventResultsViewController& results) {
+        QObject::connect(&results, &EventResultsViewController::tabContentInstalled,
+                         [this](ResultsTab tab) { tabs.push_back(tab); });
+        QObject::connect(&results, &EventResultsViewController::tokenizingCharactersChanged,
+                         [this](const QString& fieldName, const QString& separators) {
+                             fields.append(fieldName);
+                             characters = separators;
+                         });
     }
 
     std::vector<ResultsTab> tabs;
@@ -80,13 +84,12 @@ protected:
     ListController<CalendarRecord> records;
     EventsController events{
         {manager, settings, billing, calendar, list, records, background, main}};
-    FakeResultsPanel panel;
     EventResultsViewController results{{.settings = settings,
-                                        .panel = panel,
                                         .eventsController = events,
                                         .eventsArrayController = list,
                                         .billing = billing,
                                         .formats = formats}};
+    FakeResultsPanel panel{results};
 };
 
 } // namespace

@@ -33,10 +33,7 @@ protected:
         return {utc(2024, 3, 4, 9), utc(2024, 3, 4, 10), Instant(),
                 std::make_shared<const EventDetails>(std::move(details))};
     }
-    void type(const QString& text) {
-        field.typed = text;
-        controller.updateFilter();
-    }
+    void type(const QString& text) { controller.setSearchText(text); }
     QStringList shown() const {
         QStringList titles;
         for (std::size_t row = 0; row < events.arrangedCount(); ++row) {
@@ -46,7 +43,7 @@ protected:
     }
     QStringList menuTitles() const {
         QStringList titles;
-        for (const SearchMenuItem& item : field.menu.items) {
+        for (const SearchMenuItem& item : controller.searchMenuTemplate().items) {
             titles << item.title + ' ' + QString::number(item.tag) + (item.isTicked ? "✓" : "");
         }
         return titles;
@@ -54,9 +51,8 @@ protected:
 
     const QStringList all{"Team meeting", "Lunch", "Call", "Invoices"};
     test::MemorySettings settings;
-    test::FakeSearchField field;
     ListController<Event> events{eventIdentityHash, isSameEvent};
-    SearchFieldController controller{{settings, field, field, events}};
+    SearchFieldController controller{settings, events};
 };
 
 constexpr std::size_t titleItem = 1;
@@ -67,11 +63,10 @@ constexpr std::size_t locationItem = 3;
 
 TEST_F(SearchFieldControllerTest, OffersFourPlacesForEvents) {
     controller.awakeFromNib();
-    EXPECT_EQ(field.menu.title, QStringLiteral("Search Menu"));
+    EXPECT_EQ(controller.searchMenuTemplate().title, QStringLiteral("Search Menu"));
     EXPECT_EQ(menuTitles(), (QStringList{"All 1✓", "Title 2", "Notes 3", "Location 4"}));
-    EXPECT_EQ(field.label, QStringLiteral("Search Events"));
-    EXPECT_EQ(field.paletteLabel, QStringLiteral("Search Events"));
-    EXPECT_EQ(field.placeholder, QStringLiteral("All"));
+    EXPECT_EQ(controller.toolbarItemLabel(), QStringLiteral("Search Events"));
+    EXPECT_EQ(controller.placeholderString(), QStringLiteral("All"));
     EXPECT_EQ(controller.searchCategory(), 1);
 }
 
@@ -79,9 +74,8 @@ TEST_F(SearchFieldControllerTest, OffersThreePlacesForReminders) {
     settings.setObject("viewMode", 1);
     controller.awakeFromNib();
     EXPECT_EQ(menuTitles(), (QStringList{"All 1✓", "Title 2", "Notes 3"}));
-    EXPECT_EQ(field.label, QStringLiteral("Search Reminders"));
-    EXPECT_EQ(field.paletteLabel, QStringLiteral("Search Reminders"));
-    EXPECT_EQ(field.placeholder, QStringLiteral("All"));
+    EXPECT_EQ(controller.toolbarItemLabel(), QStringLiteral("Search Reminders"));
+    EXPECT_EQ(controller.placeholderString(), QStringLiteral("All"));
 }
 
 TEST_F(SearchFieldControllerTest, AnyOtherViewHasAnEmptyMenuAndKeepsTheRest) {
@@ -89,10 +83,10 @@ TEST_F(SearchFieldControllerTest, AnyOtherViewHasAnEmptyMenuAndKeepsTheRest) {
     controller.setSearchCategoryFrom(titleItem);
     type("meet");
     settings.setObject("viewMode", 2);
-    EXPECT_EQ(field.menu.title, QStringLiteral("Search Menu"));
-    EXPECT_TRUE(field.menu.items.empty());
-    EXPECT_EQ(field.label, QStringLiteral("Search Events"));
-    EXPECT_EQ(field.placeholder, QStringLiteral("Title"));
+    EXPECT_EQ(controller.searchMenuTemplate().title, QStringLiteral("Search Menu"));
+    EXPECT_TRUE(controller.searchMenuTemplate().items.empty());
+    EXPECT_EQ(controller.toolbarItemLabel(), QStringLiteral("Search Events"));
+    EXPECT_EQ(controller.placeholderString(), QStringLiteral("Title"));
     EXPECT_EQ(controller.searchCategory(), 2);
     EXPECT_EQ(shown(), QStringList{"Team meeting"});
     controller.setSearchCategoryFrom(0);
@@ -118,8 +112,8 @@ TEST_F(SearchFieldControllerTest, InAnyOtherViewBothLabelsStayThoseOfTheViewBefo
     controller.awakeFromNib();
     for (int view : {2, 3, -1}) {
         settings.setObject("viewMode", view);
-        EXPECT_EQ(field.label, QStringLiteral("Search Reminders")) << view;
-        EXPECT_EQ(field.paletteLabel, QStringLiteral("Search Reminders")) << view;
+        EXPECT_EQ(controller.toolbarItemLabel(), QStringLiteral("Search Reminders")) << view;
+        EXPECT_EQ(controller.toolbarItemLabel(), QStringLiteral("Search Reminders")) << view;
     }
 }
 
@@ -144,7 +138,7 @@ TEST_F(SearchFieldControllerTest, AllFindsTitlesLocationsAndNotesInAnyCase) {
 
 TEST_F(SearchFieldControllerTest, EachPlaceIsSearchedAlone) {
     controller.awakeFromNib();
-    field.typed = "meeting";
+    type("meeting");
     controller.setSearchCategoryFrom(titleItem);
     EXPECT_EQ(controller.searchCategory(), 2);
     EXPECT_EQ(shown(), QStringList{"Team meeting"});
@@ -170,7 +164,7 @@ TEST_F(SearchFieldControllerTest, AChosenPlaceIsTickedAloneAndNamedInTheField) {
     controller.awakeFromNib();
     controller.setSearchCategoryFrom(notesItem);
     EXPECT_EQ(menuTitles(), (QStringList{"All 1", "Title 2", "Notes 3✓", "Location 4"}));
-    EXPECT_EQ(field.placeholder, QStringLiteral("Notes"));
+    EXPECT_EQ(controller.placeholderString(), QStringLiteral("Notes"));
     controller.setSearchCategoryFrom(4);
     EXPECT_EQ(controller.searchCategory(), 3) << "there is no fifth entry";
 }
@@ -223,7 +217,7 @@ TEST_F(SearchFieldControllerTest, GoingToAnotherViewAndBackChoosesAllAgain) {
     EXPECT_EQ(controller.searchCategory(), 1);
     settings.setObject("viewMode", 0);
     EXPECT_EQ(controller.searchCategory(), 1);
-    EXPECT_EQ(field.placeholder, QStringLiteral("All"));
+    EXPECT_EQ(controller.placeholderString(), QStringLiteral("All"));
     EXPECT_EQ(shown(), (QStringList{"Team meeting", "Lunch", "Call"}))
         << "the field's text filters by the new choice";
 }

@@ -10,12 +10,6 @@
 
 namespace quillet::test {
 
-class SilentResults final : public ResultsPanel {
-public:
-    void installTabContent(ResultsTab) override {}
-    void setTokenizingCharacters(const QString&, const QString&) override {}
-};
-
 /// All that a core wants of the outside, as the test sets it.
 struct FakeOutside {
     explicit FakeOutside(const QString& locale = QStringLiteral("en_US"),
@@ -46,11 +40,7 @@ struct FakeOutside {
                 .taskLauncher = launcher,
                 .updater = updater,
                 .releaseNotesPath = QStringLiteral("/notes.rtf"),
-                .makeTable = [this](const EventTableSource&) -> ColumnTable& { return table; },
-                .resultsPanel = results,
-                .menuItems = {item, item, item},
-                .txtMenuItems = {item, item, item},
-                .exportToolbarItems = {&button}};
+                .makeTable = [this](const EventTableSource&) -> ColumnTable& { return table; }};
     }
     /// Lets the fetch that is under way, and what follows from it, finish.
     void finish() {
@@ -78,9 +68,6 @@ struct FakeOutside {
     FakeTaskLauncher launcher;
     FakeUpdater updater;
     FakeTable table = eventTable();
-    SilentResults results;
-    FakeMenuItem item;
-    FakeToolbarItem button;
 };
 
 } // namespace quillet::test

@@ -4,14 +4,12 @@
 #include "platform/Clock.h"
 #include "platform/EventStore.h"
 #include "platform/InstalledPrograms.h"
-#include "platform/InterfaceItems.h"
 #include "platform/ObserverList.h"
 #include "platform/OneShotTimer.h"
 #include "platform/Pasteboard.h"
 #include "platform/ProgressPresenter.h"
 #include "platform/SavePanel.h"
 #include "platform/ScriptRunner.h"
-#include "platform/SearchField.h"
 #include "platform/SerialQueue.h"
 #include "platform/Sheet.h"
 #include "platform/SoftwareUpdater.h"
@@ -221,36 +219,6 @@ public:
 
     QStringList calls;
     QString content = QStringLiteral("something of another program");
-};
-
-class FakeToolbarItem final : public ToolbarItem {
-public:
-    void setEnabled(bool enabled) override { isEnabled = enabled; }
-
-    bool isEnabled = false;
-};
-
-class FakeMenuItem final : public MenuItem {
-public:
-    void setHidden(bool hidden) override { isHidden = hidden; }
-
-    bool isHidden = false;
-};
-
-/// A toolbar item and the field in it, as the test's user fills it.
-class FakeSearchField final : public SearchField, public LabelledToolbarItem {
-public:
-    [[nodiscard]] QString text() const override { return typed; }
-    void setPlaceholder(const QString& text) override { placeholder = text; }
-    void setMenuTemplate(const SearchMenu& shown) override { menu = shown; }
-    void setLabel(const QString& text) override { label = text; }
-    void setPaletteLabel(const QString& text) override { paletteLabel = text; }
-
-    QString typed;
-    QString placeholder;
-    SearchMenu menu;
-    QString label;
-    QString paletteLabel;
 };
 
 class FakeColumn final : public TableColumn {

@@ -1,17 +1,10 @@
 #pragma once
 
-#include "app/Core.h"
-#include "backends/icu/IcuCalendarArithmetic.h"
-#include "backends/icu/IcuCollator.h"
-#include "backends/icu/IcuLocaleFormats.h"
 #include "eventtable/ColumnLayout.h"
 #include "support/EventSamples.h"
-#include "support/Fakes.h"
-#include "support/MemorySettings.h"
+#include "support/FakeOutside.h"
 #include "window/events/EventTableModel.h"
 #include "window/events/EventTableView.h"
-#include "window/events/ResultsPane.h"
-#include "window/main/InterfaceActions.h"
 #include "window/main/MainWindow.h"
 
 #include <QApplication>
@@ -21,7 +14,7 @@
 namespace quillet::test {
 
 /// The real window and controllers over a store, a clock and queues that the test holds.
-class WindowFixture : public testing::Test {
+class WindowFixture : public testing::Test, protected FakeOutside {
 protected:
     WindowFixture() {
         store.storedCalendars = {calendar("w", "Work", "#3584e4"),
@@ -38,10 +31,9 @@ protected:
                               event("w", "Workshop", 11, 9, 17)};
     }
     ~WindowFixture() override {
-        // The window owns them once it is there.
+        // The window owns it once that is there.
         if (window == nullptr) {
             delete table;
-            delete resultsPane;
         }
         window.reset();
     }
@@ -67,9 +59,6 @@ protected:
             core,
             MainWindow::Parts{
                 .eventTable = *table,
-                .resultsPane = *resultsPane,
-                .exportItems = exportItems,
-                .timeColumnActions = menuTimeColumns,
                 .reportBuilding = {reportQueue, main, formats, gregorian},
                 .calendarActions = {
                     .addCalendar = [](const QString&) { return std::expected<void, QString>(); },
@@ -82,8 +71,7 @@ protected:
     }
     /// Lets the fetch that is under way, and what follows from it, finish.
     void fetch() {
-        while (background.runOne() || main.runOne()) {
-        }
+        finish();
         QApplication::processEvents();
     }
     /// By the name that assistive programs tell, or by the object's name where they tell its text.
@@ -99,64 +87,11 @@ protected:
         return nullptr;
     }
 
-    MemorySettings settings;
-    FakeEventStore store;
-    FakeAlerts alerts;
-    FakeQueue background;
-    FakeQueue main;
-    FakeTimer timer;
-    FakeClock clock{utc(2024, 3, 6, 12)};
-    FakeSavePanel panel;
-    FakeProgress progress;
-    FakeWorkspace workspace;
-    FakeTaskLauncher launcher;
-    FakeUpdater updater;
     QStringList problems;
-    IcuCalendarArithmetic gregorian{"en_US", "UTC", CalendarSystem::Gregorian};
-    IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "UTC"};
-    IcuCollator collator{"en_US"};
-    TimeColumnActions menuTimeColumns;
-    TimeColumnActions headerTimeColumns;
-    ExportItems exportItems;
     std::unique_ptr<EventTableModel> tableModel;
     EventTableView* table = nullptr;
-    ResultsPane* resultsPane = new ResultsPane(settings);
-    FakePasteboard pasteboard;
-    FakeScriptRunner scripts;
-    FakeInstalledPrograms installed;
-    FakeTextColor textColor;
     FakeQueue reportQueue;
-    Core core{
-        {.settings = settings,
-         .store = store,
-         .clock = clock,
-         .formats = formats,
-         .gregorian = gregorian,
-         .currentCalendar = gregorian,
-         .collator = collator,
-         .fetchQueue = background,
-         .mainQueue = main,
-         .timer = timer,
-         .alerts = alerts,
-         .savePanel = panel,
-         .progress = progress,
-         .textColor = textColor,
-         .pasteboard = pasteboard,
-         .scriptRunner = scripts,
-         .installedPrograms = installed,
-         .workspace = workspace,
-         .taskLauncher = launcher,
-         .updater = updater,
-         .releaseNotesPath = {},
-         .makeTable = [this](const EventTableSource& source) -> ColumnTable& {
-             return makeTable(source);
-         },
-         .resultsPanel = *resultsPane,
-         .menuItems = {menuTimeColumns.hours, menuTimeColumns.minutes, menuTimeColumns.duration},
-         .txtMenuItems = {headerTimeColumns.hours, headerTimeColumns.minutes,
-                          headerTimeColumns.duration},
-         .exportToolbarItems = {&exportItems.text, &exportItems.csv, &exportItems.tsv,
-                                &exportItems.notes}}};
+    Core core{windowSeams()};
     EventTableModel& model = *tableModel;
     ListController<Event>& events = core.events;
     CalendarsArrayController& calendars = core.calendars;
@@ -172,6 +107,13 @@ protected:
     std::unique_ptr<MainWindow> window;
 
 private:
+    [[nodiscard]] CoreSeams windowSeams() {
+        CoreSeams result = seams();
+        result.makeTable = [this](const EventTableSource& source) -> ColumnTable& {
+            return makeTable(source);
+        };
+        return result;
+    }
     ColumnTable& makeTable(const EventTableSource& source) {
         tableModel =
             std::make_unique<EventTableModel>(source.events, source.fields, source.settings);
@@ -179,8 +121,7 @@ private:
             *tableModel, source.events, source.settings,
             [&order = source.order](const QString& column, SortDirection direction) {
                 return order.sorter(column, direction);
-            },
-            headerTimeColumns);
+            });
         applyPlacements(defaultColumnPlacements(), *table);
         return *table;
     }

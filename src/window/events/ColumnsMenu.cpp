@@ -1,6 +1,6 @@
 #include "window/events/ColumnsMenu.h"
 
-#include "eventtable/EventColumns.h"
+#include "eventtable/EventItemViewController.h"
 #include "window/main/NameListModel.h"
 #include "window/preferences/SettingsBinding.h"
 
@@ -13,11 +13,11 @@ namespace {
 QAction* addEntry(QMenu& menu, const QString& identifier, TimeColumnActions& timeColumns) {
     QAction* action = nullptr;
     if (identifier == u"hours") {
-        action = &timeColumns.hours.action();
+        action = &timeColumns.hours;
     } else if (identifier == u"minutes") {
-        action = &timeColumns.minutes.action();
+        action = &timeColumns.minutes;
     } else if (identifier == u"duration") {
-        action = &timeColumns.duration.action();
+        action = &timeColumns.duration;
     } else {
         return menu.addAction(QString());
     }
@@ -26,6 +26,21 @@ QAction* addEntry(QMenu& menu, const QString& identifier, TimeColumnActions& tim
 }
 
 } // namespace
+
+void followTimeMenuItem(TimeColumnActions& timeColumns,
+                        const EventItemViewController& eventItemView) {
+    const auto show = [&timeColumns, &eventItemView] {
+        const auto isShown = [shown = eventItemView.shownTimeMenuItem()](TimeType timeType) {
+            return shown.value_or(timeType) == timeType;
+        };
+        timeColumns.hours.setVisible(isShown(TimeType::Hours));
+        timeColumns.minutes.setVisible(isShown(TimeType::Minutes));
+        timeColumns.duration.setVisible(isShown(TimeType::Duration));
+    };
+    QObject::connect(&eventItemView, &EventItemViewController::shownTimeMenuItemChanged,
+                     &timeColumns.hours, show);
+    show();
+}
 
 void fillColumnsMenu(QMenu& menu, SettingsStore& settings, TimeColumnActions& timeColumns) {
     for (const EventColumn& column : eventColumns()) {

@@ -77,13 +77,12 @@ private:
 };
 
 EventTableView::EventTableView(QAbstractItemModel& model, ListController<Event>& events,
-                               SettingsStore& settings, MakeSorter makeSorter,
-                               TimeColumnActions& timeColumnActions, QWidget* parent)
+                               SettingsStore& settings, MakeSorter makeSorter, QWidget* parent)
     : QTableView(parent)
     , events_(events)
     , settings_(settings)
     , makeSorter_(std::move(makeSorter))
-    , timeColumnActions_(timeColumnActions)
+    , timeColumnActions_(std::make_unique<TimeColumnActions>())
     , openInCalendarAction_(new QAction(localized("&Open in Calendar"), this)) {
     openInCalendarAction_->setEnabled(false);
     setModel(&model);
@@ -172,6 +171,10 @@ void EventTableView::follow(OpenCalendarEvent& openCalendarEvent) {
     addAction(&action);
 }
 
+void EventTableView::follow(const EventItemViewController& eventItemView) {
+    followTimeMenuItem(*timeColumnActions_, eventItemView);
+}
+
 void EventTableView::openInCalendar() {
     if (openCalendarEvent_ != nullptr && events_.selectedRows().size() == 1) {
         openCalendarEvent_->openEventInCalendar();
@@ -258,7 +261,7 @@ bool EventTableView::restoreColumnState(const QByteArray& state) {
 
 void EventTableView::showHeaderMenu(const QPoint& position) {
     QMenu menu(this);
-    fillColumnsMenu(menu, settings_, timeColumnActions_);
+    fillColumnsMenu(menu, settings_, *timeColumnActions_);
     menu.exec(horizontalHeader()->mapToGlobal(position));
 }
 

@@ -14,6 +14,7 @@
 namespace quillet {
 
 class EventItemTableView;
+class EventItemViewController;
 class OpenCalendarEvent;
 enum class SortDirection;
 struct TimeColumnActions;
@@ -29,8 +30,7 @@ public:
                                                                    SortDirection direction)>;
 
     EventTableView(QAbstractItemModel& model, ListController<Event>& events,
-                   SettingsStore& settings, MakeSorter makeSorter,
-                   TimeColumnActions& timeColumnActions, QWidget* parent = nullptr);
+                   SettingsStore& settings, MakeSorter makeSorter, QWidget* parent = nullptr);
     ~EventTableView() override;
     Q_DISABLE_COPY_MOVE(EventTableView)
 
@@ -38,6 +38,8 @@ public:
     void follow(EventItemTableView& eventItemTableView);
     /// Opens its events through this from now on; the context menu and the Enter key offer that.
     void follow(OpenCalendarEvent& openCalendarEvent);
+    /// The header's menu shows the time column that this says from now on.
+    void follow(const EventItemViewController& eventItemView);
     /// Shows the selected event in the calendar program; enabled while just one is selected.
     [[nodiscard]] QAction& openInCalendarAction() { return *openInCalendarAction_; }
 
@@ -74,7 +76,7 @@ private:
     ListController<Event>& events_;
     SettingsStore& settings_;
     MakeSorter makeSorter_;
-    TimeColumnActions& timeColumnActions_;
+    std::unique_ptr<TimeColumnActions> timeColumnActions_;
     EventItemTableView* eventItemTableView_ = nullptr;
     OpenCalendarEvent* openCalendarEvent_ = nullptr;
     QAction* openInCalendarAction_;

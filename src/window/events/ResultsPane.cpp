@@ -88,13 +88,6 @@ void ResultsPane::makeFigures() {
     values_.at(Cost)->setAlignment(Qt::AlignRight);
 }
 
-void ResultsPane::installTabContent(ResultsTab tab) {
-    tabs_->setTabVisible(static_cast<int>(tab), true);
-}
-
-void ResultsPane::setTokenizingCharacters(const QString& /*fieldName*/,
-                                          const QString& /*characters*/) {}
-
 void ResultsPane::follow(EventResultsViewController& controller) {
     controller_ = &controller;
     connect(controller_, &EventResultsViewController::textsChanged, this,

@@ -14,17 +14,13 @@ namespace quillet {
 
 /// The figures of all listed or of the selected events, which the exports follow: one row of
 /// values, whose tab says of which events and whose time fields are those of the time type.
-class ResultsPane : public QWidget, public ResultsPanel {
+class ResultsPane : public QWidget {
     Q_OBJECT
 
 public:
     explicit ResultsPane(SettingsStore& settings, QWidget* parent = nullptr);
     ~ResultsPane() override;
     Q_DISABLE_COPY_MOVE(ResultsPane)
-
-    void installTabContent(ResultsTab tab) override;
-    /// Values are plain labels here, which never part into tokens.
-    void setTokenizingCharacters(const QString& fieldName, const QString& characters) override;
 
     /// Shows the values of the controller from now on.
     void follow(EventResultsViewController& controller);

@@ -1,5 +1,6 @@
 #include "window/events/SearchBox.h"
 
+#include "results/SearchFieldController.h"
 #include "texts/Localized.h"
 #include "window/widgets/SymbolIcon.h"
 
@@ -37,13 +38,32 @@ SearchBox::SearchBox(QWidget* parent)
 
 SearchBox::~SearchBox() = default;
 
-void SearchBox::setMenuTemplate(const SearchMenu& menu) {
+void SearchBox::follow(SearchFieldController& search) {
+    const auto showPlaceholder = [this, &search] {
+        setPlaceholderText(search.placeholderString());
+    };
+    const auto showLabel = [this, &search] {
+        // What assistive programs call the field.
+        setAccessibleName(search.toolbarItemLabel());
+        setToolTip(search.toolbarItemLabel());
+    };
+    const auto show = [this, &search] { showMenu(search); };
+    connect(&search, &SearchFieldController::placeholderStringChanged, this, showPlaceholder);
+    connect(&search, &SearchFieldController::toolbarItemLabelChanged, this, showLabel);
+    connect(&search, &SearchFieldController::searchMenuTemplateChanged, this, show);
+    connect(this, &QLineEdit::textChanged, &search, &SearchFieldController::setSearchText);
+    showPlaceholder();
+    showLabel();
+    show();
+}
+
+void SearchBox::showMenu(SearchFieldController& search) {
+    const SearchMenu& menu = search.searchMenuTemplate();
     menu_->setTitle(menu.title);
-    const QList<QAction*> actions = categories_->actions();
-    const bool isSame =
-        std::ranges::equal(actions, menu.items, {}, &QAction::text, &SearchMenuItem::title);
+    const bool isSame = std::ranges::equal(categories_->actions(), menu.items, {}, &QAction::text,
+                                           &SearchMenuItem::title);
     if (!isSame) {
-        makeActions(menu);
+        makeActions(search);
     }
     for (std::size_t position = 0; position < menu.items.size(); ++position) {
         categories_->actions()[static_cast<qsizetype>(position)]->setChecked(
@@ -51,29 +71,22 @@ void SearchBox::setMenuTemplate(const SearchMenu& menu) {
     }
 }
 
-void SearchBox::makeActions(const SearchMenu& menu) {
+void SearchBox::makeActions(SearchFieldController& search) {
     // Later: one of them may be what was just chosen.
     for (QAction* action : categories_->actions()) {
         categories_->removeAction(action);
         menu_->removeAction(action);
         action->deleteLater();
     }
-    for (std::size_t position = 0; position < menu.items.size(); ++position) {
-        QAction* action = menu_->addAction(menu.items[position].title);
+    const std::vector<SearchMenuItem>& items = search.searchMenuTemplate().items;
+    for (std::size_t position = 0; position < items.size(); ++position) {
+        QAction* action = menu_->addAction(items[position].title);
         action->setObjectName(QStringLiteral("setSearchCategoryFrom"));
         action->setCheckable(true);
         categories_->addAction(action);
-        connect(action, &QAction::triggered, this,
-                [this, position] { Q_EMIT categoryChosen(position); });
+        connect(action, &QAction::triggered, &search,
+                [&search, position] { search.setSearchCategoryFrom(position); });
     }
-}
-
-void SearchBox::setLabel(const QString& label) {
-    setAccessibleName(label);
-}
-
-void SearchBox::setPaletteLabel(const QString& label) {
-    setToolTip(label);
 }
 
 void SearchBox::startSearch() {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/SearchField.h"
-
 #include <QLineEdit>
 
 class QActionGroup;
@@ -9,9 +7,11 @@ class QMenu;
 
 namespace quillet {
 
+class SearchFieldController;
+
 /// The toolbar's search field. A click on its symbol, or Alt and the down arrow, opens the menu of
 /// places to search; Escape clears it, and leaves it once it is empty.
-class SearchBox : public QLineEdit, public SearchField, public LabelledToolbarItem {
+class SearchBox : public QLineEdit {
     Q_OBJECT
 
 public:
@@ -19,12 +19,8 @@ public:
     ~SearchBox() override;
     Q_DISABLE_COPY_MOVE(SearchBox)
 
-    [[nodiscard]] QString text() const override { return QLineEdit::text(); }
-    void setPlaceholder(const QString& text) override { setPlaceholderText(text); }
-    void setMenuTemplate(const SearchMenu& menu) override;
-    /// What assistive programs call the field.
-    void setLabel(const QString& label) override;
-    void setPaletteLabel(const QString& label) override;
+    /// Shows what the controller says, and tells it what is typed and chosen, from now on.
+    void follow(SearchFieldController& search);
 
     /// The places to search.
     [[nodiscard]] QMenu& menu() const { return *menu_; }
@@ -32,8 +28,6 @@ public:
     void startSearch();
 
 Q_SIGNALS:
-    /// The user chose the menu's entry at that position, from 0.
-    void categoryChosen(std::size_t position);
     /// Escape was pressed in the empty field, or Return: the user is done here.
     void left();
 
@@ -42,7 +36,8 @@ protected:
 
 private:
     void openMenu();
-    void makeActions(const SearchMenu& menu);
+    void showMenu(SearchFieldController& search);
+    void makeActions(SearchFieldController& search);
 
     QMenu* menu_;
     QActionGroup* categories_;

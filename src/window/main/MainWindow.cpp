@@ -47,9 +47,11 @@ MainWindow::MainWindow(Core& core, Parts parts, QWidget* parent)
     : QMainWindow(parent)
     , core_(core)
     , parts_(std::move(parts))
+    , resultsPane_(new ResultsPane(core_.settings, this))
     , columnLayoutsPopover_(core_.settings, core_.columnLayouts)
     , txtSettingsSheet_(core_.txtSettings, *this)
-    , preferences_({core_.settings, core_.formats,
+    , preferences_(core_.preferences,
+                   {core_.settings, core_.formats,
                     [this] { core_.eventItemView.resetAllColumnTitles(); },
                     [this] { txtSettingsSheet_.controller().openTXTSettingsSheet(); }},
                    *this) {
@@ -57,19 +59,18 @@ MainWindow::MainWindow(Core& core, Parts parts, QWidget* parent)
     setAcceptDrops(true);
     parts_.eventTable.follow(core_.eventItemTableView);
     parts_.eventTable.follow(core_.openCalendarEvent);
-    parts_.resultsPane.follow(core_.eventResults);
+    parts_.eventTable.follow(core_.eventItemView);
+    followTimeMenuItem(timeColumnActions_, core_.eventItemView);
+    resultsPane_->follow(core_.eventResults);
     makeStepActions();
     makeExportActions();
     makePanes();
     makeToolBar();
     makeMenus();
     followState();
-    preferences_.controller().awakeFromNib();
-    ExportItems& items = parts_.exportItems;
-    views_ = std::make_unique<AppViewsController>(AppViewsController::Collaborators{
-        core_.settings, *panes_, items.text, items.csv, items.tsv, items.notes});
-    views_->awakeFromNib();
+    panes_->follow(core_.views);
     followExportPanes();
+    followExportActions();
 }
 
 MainWindow::~MainWindow() = default;
@@ -153,7 +154,7 @@ QWidget* MainWindow::makeCentre() {
     layout->setSpacing(0);
     layout->addWidget(&panes_->centreSplitter(), 1);
     layout->addWidget(line());
-    layout->addWidget(&parts_.resultsPane);
+    layout->addWidget(resultsPane_);
     return centre;
 }
 
@@ -163,8 +164,7 @@ bool MainWindow::focusNextPrevChild(bool next) {
     for (ExportPane* pane : findChildren<ExportPane*>()) {
         areas.append(pane);
     }
-    areas << panes_->container(Pane::Rate) << &parts_.resultsPane
-          << panes_->container(Pane::Inspector);
+    areas << panes_->container(Pane::Rate) << resultsPane_ << panes_->container(Pane::Inspector);
     QWidget* const neighbour =
         neighbourInFocusOrder(areas, focusWidget(), next ? FocusStep::Next : FocusStep::Previous);
     if (neighbour == nullptr) {

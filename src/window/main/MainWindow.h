@@ -1,15 +1,13 @@
 #pragma once
 
-#include "app/AppViewsController.h"
 #include "app/Core.h"
 #include "platform/Setting.h"
-#include "results/SearchFieldController.h"
 #include "window/calendars/CalendarListModel.h"
 #include "window/calendars/GroupChooser.h"
 #include "window/events/ColumnLayoutsPopoverController.h"
+#include "window/events/ColumnsMenu.h"
 #include "window/exports/ReportPane.h"
 #include "window/exports/TXTSettingsSheet.h"
-#include "window/main/InterfaceActions.h"
 #include "window/main/WindowPanes.h"
 #include "window/preferences/PreferencesPanes.h"
 
@@ -44,6 +42,15 @@ struct CalendarActions {
     CalendarListModel::ColorOf colorOf;
 };
 
+/// The toolbar's export buttons.
+struct ExportActions {
+    QAction text;
+    QAction csv;
+    QAction tsv;
+    QAction mail;
+    QAction notes;
+};
+
 /// The main window: the calendars to the left, the events in the middle, the period to the right.
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -51,11 +58,8 @@ class MainWindow : public QMainWindow {
 public:
     /// What the window has besides the core.
     struct Parts {
-        /// Become the window's.
+        /// Becomes the window's.
         EventTableView& eventTable;
-        ResultsPane& resultsPane;
-        ExportItems& exportItems;
-        TimeColumnActions& timeColumnActions;
         ReportPane::Building reportBuilding;
         CalendarActions calendarActions;
     };
@@ -72,6 +76,7 @@ public:
     void showMessage(const QString& message);
     /// Shows anew what could not be read.
     void refreshProblems();
+    [[nodiscard]] ExportActions& exportActions() { return exportActions_; }
 
 protected:
     /// Tab follows the eye.
@@ -109,6 +114,7 @@ private:
     /// Tab goes as the eye does: the toolbar, then the panes from the start to the end.
     void followState();
     void followExportPanes();
+    void followExportActions();
     void showPeriodTitle();
     void showTableOrReason();
     void tickAllCalendars();
@@ -119,15 +125,16 @@ private:
 
     Core& core_;
     Parts parts_;
+    ExportActions exportActions_;
+    TimeColumnActions timeColumnActions_;
     CalendarPane* calendarPane_ = nullptr;
     GroupChooser* groupChooser_ = nullptr;
     ElidedLabel* periodTitle_ = nullptr;
     QStackedWidget* centreStack_ = nullptr;
     EmptyState* emptyState_ = nullptr;
+    ResultsPane* resultsPane_;
     SearchBox* searchBox_ = nullptr;
-    std::unique_ptr<SearchFieldController> search_;
     std::unique_ptr<WindowPanes> panes_;
-    std::unique_ptr<AppViewsController> views_;
     QSplitter* splitter_ = nullptr;
     QAction* previousAction_ = nullptr;
     QAction* currentAction_ = nullptr;

@@ -13,7 +13,6 @@
 namespace quillet {
 
 void MainWindow::makeExportActions() {
-    ExportItems& items = parts_.exportItems;
     struct Item {
         QAction& action;
         const char* name;
@@ -23,19 +22,19 @@ void MainWindow::makeExportActions() {
         std::function<void()> trigger;
     };
     for (const Item& item : {
-             Item{items.text.action(), "exportTxtToolbarItemClicked", localizable("Text"),
+             Item{exportActions_.text, "exportTxtToolbarItemClicked", localizable("Text"),
                   localizable("Show the listed events as a text report"), Symbol::Text,
-                  [this] { views_->exportTxtToolbarItemClicked(); }},
-             Item{items.notes.action(), "exportNotesToolbarItemClicked", localizable("Notes"),
+                  [this] { core_.views.exportTxtToolbarItemClicked(); }},
+             Item{exportActions_.notes, "exportNotesToolbarItemClicked", localizable("Notes"),
                   localizable("Show the notes of the listed events"), Symbol::Notes,
-                  [this] { views_->exportNotesToolbarItemClicked(); }},
-             Item{items.csv.action(), "saveAsCSV", localizable("CSV"),
+                  [this] { core_.views.exportNotesToolbarItemClicked(); }},
+             Item{exportActions_.csv, "saveAsCSV", localizable("CSV"),
                   localizable("Save the listed events as a CSV file"), Symbol::Save,
                   [this] { core_.exportCSV.saveAsCSV(); }},
-             Item{items.tsv.action(), "saveAsTSV", localizable("TSV"),
+             Item{exportActions_.tsv, "saveAsTSV", localizable("TSV"),
                   localizable("Save the listed events as a TSV file"), Symbol::Save,
                   [this] { core_.exportTSV.saveAsTSV(); }},
-             Item{items.mail.action(), "sendToMail", localizable("Mail"),
+             Item{exportActions_.mail, "sendToMail", localizable("Mail"),
                   localizable("Put the report into a new message"), Symbol::Mail,
                   [this] { mail(); }},
          }) {
@@ -45,7 +44,7 @@ void MainWindow::makeExportActions() {
         item.action.setIcon(symbolIcon(item.symbol));
         connect(&item.action, &QAction::triggered, this, item.trigger);
     }
-    items.mail.action().setShortcut(QKeySequence(Qt::CTRL | Qt::Key_M));
+    exportActions_.mail.setShortcut(QKeySequence(Qt::CTRL | Qt::Key_M));
 }
 
 void MainWindow::addExportPaneAction(QMenu& menu, const QString& text, const Setting<bool>& pane,
@@ -58,10 +57,10 @@ void MainWindow::addExportPaneAction(QMenu& menu, const QString& text, const Set
                       const bool isOpen = pane.read(core_.settings);
                       if (isReport) {
                           isOpen ? closeExportPane(&AppViewsController::turnTxtExportViewOff)
-                                 : views_->exportTxtToolbarItemClicked();
+                                 : core_.views.exportTxtToolbarItemClicked();
                       } else {
                           isOpen ? closeExportPane(&AppViewsController::turnNotesExportViewOff)
-                                 : views_->exportNotesToolbarItemClicked();
+                                 : core_.views.exportNotesToolbarItemClicked();
                       }
                   });
     action->setCheckable(true);
@@ -78,7 +77,7 @@ void MainWindow::addExportPaneAction(QMenu& menu, const QString& text, const Set
 WindowPanes::Contents MainWindow::exportPanes() {
     auto* report = new ReportPane(
         core_.exportTxtView, parts_.reportBuilding,
-        [this] { preferences_.controller().showWindowWithTextPreferencesView(); },
+        [this] { core_.preferences.showWindowWithTextPreferencesView(); },
         {.save = [this] { core_.exportTXT.saveAsTxt(); },
          .mail = [this] { core_.exportTXT.sendToMail(); },
          .close = [this] { closeExportPane(&AppViewsController::turnTxtExportViewOff); }},
@@ -107,7 +106,7 @@ WindowPanes::Contents MainWindow::exportPanes() {
 }
 
 void MainWindow::closeExportPane(void (AppViewsController::*turnOff)()) {
-    (views_.get()->*turnOff)();
+    (core_.views.*turnOff)();
     parts_.eventTable.setFocus();
 }
 
@@ -119,9 +118,20 @@ void MainWindow::mail() {
     }
 }
 
+void MainWindow::followExportActions() {
+    const auto enable = [this] {
+        for (QAction* action : {&exportActions_.text, &exportActions_.csv, &exportActions_.tsv,
+                                &exportActions_.notes}) {
+            action->setEnabled(core_.views.areExportToolbarItemsEnabled());
+        }
+    };
+    connect(&core_.views, &AppViewsController::areExportToolbarItemsEnabledChanged, this, enable);
+    enable();
+}
+
 void MainWindow::followExportPanes() {
     const auto follow = [this] {
-        panes_->setCentreDividerDraggable(!views_->effectiveRect(QRectF(rect())).isEmpty());
+        panes_->setCentreDividerDraggable(!core_.views.effectiveRect(QRectF(rect())).isEmpty());
     };
     for (const SettingKey* key :
          settingGroup(settings::isExportTXTViewOn, settings::isNotesViewOn)) {

@@ -74,10 +74,9 @@ void MainWindow::makeToolBar() {
     addToolBar(bar);
     bar->setObjectName(QStringLiteral("toolbar"));
     bar->setMovable(false);
-    ExportItems& items = parts_.exportItems;
-    bar->addActions({&items.text.action(), &items.notes.action()});
+    bar->addActions({&exportActions_.text, &exportActions_.notes});
     bar->addSeparator();
-    bar->addActions({&items.csv.action(), &items.tsv.action(), &items.mail.action()});
+    bar->addActions({&exportActions_.csv, &exportActions_.tsv, &exportActions_.mail});
     bar->addSeparator();
     bar->addActions({previousAction_, currentAction_, nextAction_});
     makeSearch(*bar);
@@ -93,13 +92,8 @@ void MainWindow::makeSearch(QToolBar& bar) {
     bar.addWidget(space);
     searchBox_ = new SearchBox(this);
     bar.addWidget(searchBox_);
-    search_ = std::make_unique<SearchFieldController>(SearchFieldController::Collaborators{
-        core_.settings, *searchBox_, *searchBox_, core_.events});
-    connect(searchBox_, &QLineEdit::textChanged, this, [this] { search_->updateFilter(); });
-    connect(searchBox_, &SearchBox::categoryChosen, this,
-            [this](std::size_t position) { search_->setSearchCategoryFrom(position); });
+    searchBox_->follow(core_.search);
     connect(searchBox_, &SearchBox::left, this, [this] { parts_.eventTable.setFocus(); });
-    search_->awakeFromNib();
 }
 
 void MainWindow::makeMenus() {
@@ -122,7 +116,7 @@ void MainWindow::makeFileMenu() {
     addAction(menu, localized("Save Event &Notes…"), "saveNotesAsTxt", {},
               [this] { core_.exportNotes.saveAsTxt(); });
     menu.addSeparator();
-    menu.addAction(&parts_.exportItems.mail.action());
+    menu.addAction(&exportActions_.mail);
     menu.addSeparator();
     addAction(menu, localized("R&estart Quillet"), "relaunch", {},
               [this] { core_.appDelegate.relaunch(); });
@@ -184,9 +178,9 @@ void MainWindow::makeViewMenu() {
     makeColumnsMenu(menu);
     makeColumnLayoutsMenu(menu);
     addAction(menu, localized("Column &Preferences…"), "showWindowWithColumnsPreferencesView", {},
-              [this] { preferences_.controller().showWindowWithColumnsPreferencesView(); });
+              [this] { core_.preferences.showWindowWithColumnsPreferencesView(); });
     addAction(menu, localized("Te&xt Report Preferences…"), "showWindowWithTextPreferencesView", {},
-              [this] { preferences_.controller().showWindowWithTextPreferencesView(); });
+              [this] { core_.preferences.showWindowWithTextPreferencesView(); });
     addAction(menu, localized("Text Report P&resets…"), "openTXTSettingsSheet", {},
               [this] { txtSettingsSheet_.controller().openTXTSettingsSheet(); });
 }
@@ -195,7 +189,7 @@ void MainWindow::makeColumnsMenu(QMenu& menu) {
     QMenu& columns = *menu.addMenu(localized("&Columns"));
     const auto fill = [this, &columns] {
         columns.clear();
-        fillColumnsMenu(columns, core_.settings, parts_.timeColumnActions);
+        fillColumnsMenu(columns, core_.settings, timeColumnActions_);
         columns.addSeparator();
         addAction(columns, localized("&Reset All Titles"), "resetAllColumnTitles", {},
                   [this] { core_.eventItemView.resetAllColumnTitles(); });

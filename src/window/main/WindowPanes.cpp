@@ -30,6 +30,25 @@ WindowPanes::WindowPanes(Contents contents, QMainWindow& window)
     makeCentreSplitter();
 }
 
+WindowPanes::~WindowPanes() = default;
+
+void WindowPanes::follow(const AppViewsController& views) {
+    const auto showContents = [this, &views](Pane pane) {
+        setContents(pane, views.contents(pane));
+    };
+    const auto hide = [this, &views](Pane pane) { setPaneHidden(pane, views.isPaneHidden(pane)); };
+    const auto showBusy = [this, &views] { setBusy(views.isProgressIndicatorShown()); };
+    connect(&views, &AppViewsController::contentsChanged, this, showContents);
+    connect(&views, &AppViewsController::isPaneHiddenChanged, this, hide);
+    connect(&views, &AppViewsController::isProgressIndicatorShownChanged, this, showBusy);
+    for (const auto& [pane, stack] : stacks_) {
+        showContents(pane);
+    }
+    hide(Pane::Export);
+    hide(Pane::Rate);
+    showBusy();
+}
+
 void WindowPanes::makeCentreSplitter() {
     centreSplitter_->setObjectName(QStringLiteral("centre"));
     centreSplitter_->setChildrenCollapsible(false);
@@ -53,17 +72,22 @@ void WindowPanes::setCentreDividerDraggable(bool isDraggable) {
     centreSplitter_->handle(exportPosition)->setEnabled(isDraggable);
 }
 
-void WindowPanes::remove(PaneContent content) {
-    for (const auto& [pane, stack] : stacks_) {
-        stack->removeWidget(contents_.at(content));
+void WindowPanes::setContents(Pane pane, const std::vector<PaneContent>& shown) {
+    QStackedWidget& widgets = *stack(pane);
+    for (const auto& [content, view] : contents_) {
+        const bool isShown = std::ranges::find(shown, content) != shown.end();
+        if (!isShown && widgets.indexOf(view) >= 0) {
+            widgets.removeWidget(view);
+            view->hide();
+        }
     }
-    contents_.at(content)->hide();
-}
-
-void WindowPanes::install(PaneContent content, Pane pane) {
-    QWidget* view = contents_.at(content);
-    stack(pane)->addWidget(view);
-    stack(pane)->setCurrentWidget(view);
+    for (const PaneContent content : shown) {
+        QWidget* view = contents_.at(content);
+        if (widgets.indexOf(view) < 0) {
+            widgets.addWidget(view);
+        }
+        widgets.setCurrentWidget(view);
+    }
 }
 
 void WindowPanes::setPaneHidden(Pane pane, bool isHidden) {
@@ -92,16 +116,10 @@ void WindowPanes::shareRoomWithExportPane() {
     centreSplitter_->setSizes(sizes);
 }
 
-void WindowPanes::removeProgressIndicator() {
-    busyIndicator_->stop();
-}
-
-void WindowPanes::addProgressIndicator() {
-    busyIndicator_->start();
-}
-
-void WindowPanes::setProgressAnimated(bool isAnimated) {
-    if (!isAnimated) {
+void WindowPanes::setBusy(bool isBusy) {
+    if (isBusy) {
+        busyIndicator_->start();
+    } else {
         busyIndicator_->stop();
     }
 }

@@ -4,8 +4,8 @@
 
 #include <QSplitter>
 
-#include <array>
 #include <map>
+#include <vector>
 
 class QMainWindow;
 class QStackedWidget;
@@ -15,12 +15,19 @@ namespace quillet {
 class BusyIndicator;
 
 /// The containers of the main window and the views that can stand in them.
-class WindowPanes final : public MainWindowPanes {
+class WindowPanes : public QObject {
+    Q_OBJECT
+
 public:
     using Contents = std::map<PaneContent, QWidget*>;
 
     /// The containers and the indicator become the window's; the views that of the containers.
     WindowPanes(Contents contents, QMainWindow& window);
+    ~WindowPanes() override;
+    Q_DISABLE_COPY_MOVE(WindowPanes)
+
+    /// Shows what the controller says, now and from now on.
+    void follow(const AppViewsController& views);
 
     [[nodiscard]] QWidget* container(Pane pane) const;
     /// The event table's pane above the export pane above the rate pane.
@@ -33,16 +40,12 @@ public:
     /// The divider above the export pane can be dragged, or cannot.
     void setCentreDividerDraggable(bool isDraggable);
 
-    void remove(PaneContent content) override;
-    void install(PaneContent content, Pane pane) override;
-    void setPaneHidden(Pane pane, bool isHidden) override;
-    void removeProgressIndicator() override;
-    void addProgressIndicator() override;
-    void setProgressAnimated(bool isAnimated) override;
-
 private:
     [[nodiscard]] QStackedWidget* stack(Pane pane) const;
     void makeCentreSplitter();
+    void setContents(Pane pane, const std::vector<PaneContent>& shown);
+    void setPaneHidden(Pane pane, bool isHidden);
+    void setBusy(bool isBusy);
     void shareRoomWithExportPane();
 
     Contents contents_;

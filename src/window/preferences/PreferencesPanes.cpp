@@ -6,18 +6,35 @@
 
 namespace quillet {
 
-PreferencesPanes::PreferencesPanes(PreferencesCollaborators collaborators, QWidget& parent)
-    : with_(std::move(collaborators))
-    , parent_(parent)
-    , controller_(with_.settings, *this) {}
+PreferencesPanes::PreferencesPanes(PreferencesWindowController& controller,
+                                   PreferencesCollaborators collaborators, QWidget& parent)
+    : controller_(controller)
+    , with_(std::move(collaborators))
+    , parent_(parent) {
+    connect(&controller_, &PreferencesWindowController::windowShown, this,
+            &PreferencesPanes::showWindow);
+    connect(&controller_, &PreferencesWindowController::titleChanged, this,
+            [this](const QString& title) {
+                if (dialog_ != nullptr) {
+                    dialog_->setWindowTitle(title);
+                }
+            });
+    // Showing a pane takes the one before away and selects its tab, which is its toolbar item.
+    connect(&controller_, &PreferencesWindowController::paneInstalled, this,
+            [this](PreferencesPane pane) {
+                if (dialog_ != nullptr) {
+                    dialog_->showPane(pane);
+                }
+            });
+}
 
 PreferencesPanes::~PreferencesPanes() = default;
 
 void PreferencesPanes::showWindow() {
     if (dialog_ == nullptr) {
         dialog_ = std::make_unique<PreferencesDialog>(with_, &parent_);
-        dialog_->setWindowTitle(title_);
-        dialog_->showPane(pane_);
+        dialog_->setWindowTitle(controller_.title());
+        dialog_->showPane(controller_.shownPane());
         // All that a pane holds, where the screen has room: dialogs take two thirds by themselves.
         constexpr double mostOfTheScreen = 0.9;
         const QSize available = parent_.screen()->availableSize() * mostOfTheScreen;
@@ -28,23 +45,5 @@ void PreferencesPanes::showWindow() {
     dialog_->show();
     dialog_->activateWindow();
 }
-
-void PreferencesPanes::setTitle(const QString& title) {
-    title_ = title;
-    if (dialog_ != nullptr) {
-        dialog_->setWindowTitle(title);
-    }
-}
-
-void PreferencesPanes::removePane(PreferencesPane /*pane*/) {}
-
-void PreferencesPanes::installPane(PreferencesPane pane) {
-    pane_ = pane;
-    if (dialog_ != nullptr) {
-        dialog_->showPane(pane);
-    }
-}
-
-void PreferencesPanes::setSelectedToolbarItem(const QString& /*identifier*/) {}
 
 } // namespace quillet

@@ -10,30 +10,22 @@
 namespace quillet {
 
 /// The preferences window, which is built when it is first shown.
-class PreferencesPanes final : public PreferencesWindow {
+class PreferencesPanes : public QObject {
+    Q_OBJECT
+
 public:
-    PreferencesPanes(PreferencesCollaborators collaborators, QWidget& parent);
+    PreferencesPanes(PreferencesWindowController& controller,
+                     PreferencesCollaborators collaborators, QWidget& parent);
     ~PreferencesPanes() override;
-    PreferencesPanes(const PreferencesPanes&) = delete;
-    PreferencesPanes& operator=(const PreferencesPanes&) = delete;
+    Q_DISABLE_COPY_MOVE(PreferencesPanes)
 
-    [[nodiscard]] PreferencesWindowController& controller() { return controller_; }
-
-    void showWindow() override;
-    void setTitle(const QString& title) override;
-    /// A page of tabs gives way to the next by itself.
-    void removePane(PreferencesPane pane) override;
-    void installPane(PreferencesPane pane) override;
-    /// The tab of a pane is its toolbar item: showing the pane selects it.
-    void setSelectedToolbarItem(const QString& identifier) override;
+    void showWindow();
 
 private:
+    PreferencesWindowController& controller_;
     PreferencesCollaborators with_;
     QWidget& parent_;
     std::unique_ptr<PreferencesDialog> dialog_;
-    QString title_;
-    PreferencesPane pane_ = PreferencesPane::General;
-    PreferencesWindowController controller_;
 };
 
 } // namespace quillet

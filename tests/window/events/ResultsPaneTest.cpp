@@ -1,3 +1,5 @@
+#include "window/events/ResultsPane.h"
+
 #include "window/WindowFixture.h"
 
 #include <QAction>
@@ -25,7 +27,7 @@ protected:
         fetch();
     }
     [[nodiscard]] QLabel* figure(const char* name) const {
-        return resultsPane->findChild<QLabel*>(name);
+        return window->findChild<ResultsPane*>()->findChild<QLabel*>(name);
     }
     [[nodiscard]] std::string figures() const {
         QStringList shown;

@@ -29,19 +29,18 @@ protected:
         EXPECT_EQ(notesView()->toPlainText(), text);
     }
     void openReport() {
-        exportItems.text.action().trigger();
+        window->exportActions().text.trigger();
         fetch();
     }
-    std::vector<ActionToolbarItem*> items() {
-        return {&exportItems.text, &exportItems.csv, &exportItems.tsv, &exportItems.notes};
+    std::vector<QAction*> items() {
+        return {&window->exportActions().text, &window->exportActions().csv,
+                &window->exportActions().tsv, &window->exportActions().notes};
     }
     bool areItemsEnabled() {
-        return std::ranges::all_of(
-            items(), [](ActionToolbarItem* item) { return item->action().isEnabled(); });
+        return std::ranges::all_of(items(), [](QAction* item) { return item->isEnabled(); });
     }
     bool areItemsDisabled() {
-        return std::ranges::none_of(
-            items(), [](ActionToolbarItem* item) { return item->action().isEnabled(); });
+        return std::ranges::none_of(items(), [](QAction* item) { return item->isEnabled(); });
     }
     static QString contentOf(const QString& path) {
         QFile file(path);
@@ -113,7 +112,7 @@ TEST_F(ExportPanesTest, TheNeighboursOfAPaneKeepTheirWidthsOnASmallScreen) {
     openReport();
     EXPECT_EQ(panes->sizes(), widths) << "report";
     button("Close")->click();
-    exportItems.notes.action().trigger();
+    window->exportActions().notes.trigger();
     fetch();
     EXPECT_EQ(panes->sizes(), widths) << "notes";
 }
@@ -124,7 +123,7 @@ TEST_F(ExportPanesTest, ClosingAPaneGivesTheTableTheFocus) {
     ASSERT_EQ(window->focusWidget(), reportView());
     button("Close")->click();
     EXPECT_EQ(window->focusWidget(), table);
-    exportItems.notes.action().trigger();
+    window->exportActions().notes.trigger();
     ASSERT_EQ(window->focusWidget(), notesView());
     button("Close")->click();
     EXPECT_EQ(window->focusWidget(), table);
@@ -284,7 +283,7 @@ TEST_F(ExportPanesTest, SavedAreTheNotesInTheOrderThatThePaneShows) {
         event.details = std::make_shared<const EventDetails>(details);
     }
     open();
-    exportItems.notes.action().trigger();
+    window->exportActions().notes.trigger();
     fetch();
     const QString shown = notes.notes().text();
     expectNotes(shown);
@@ -306,7 +305,7 @@ TEST_F(ExportPanesTest, SavedAreTheNotesInTheOrderThatThePaneShows) {
 
 TEST_F(ExportPanesTest, MailWithNoPaneOpenTakesTheReport) {
     open();
-    exportItems.mail.action().trigger();
+    window->exportActions().mail.trigger();
     ASSERT_EQ(scripts.sources.size(), 1);
     EXPECT_TRUE(scripts.sources.front().contains("Planning"));
     EXPECT_FALSE(reportView()->isVisible());
@@ -314,13 +313,13 @@ TEST_F(ExportPanesTest, MailWithNoPaneOpenTakesTheReport) {
 
 TEST_F(ExportPanesTest, MailWithTheNotesOpenTakesTheNotes) {
     open();
-    exportItems.notes.action().trigger();
+    window->exportActions().notes.trigger();
     fetch();
-    exportItems.mail.action().trigger();
+    window->exportActions().mail.trigger();
     ASSERT_EQ(scripts.sources.size(), 1);
     EXPECT_TRUE(scripts.sources.front().contains("set subject to \"Event Notes - "));
     button("Close")->click();
-    exportItems.mail.action().trigger();
+    window->exportActions().mail.trigger();
     ASSERT_EQ(scripts.sources.size(), 2);
     EXPECT_FALSE(scripts.sources.back().contains("Event Notes"));
 }
@@ -329,8 +328,8 @@ TEST_F(ExportPanesTest, MailIsOfferedWhateverProgramsThereAre) {
     scripts.answer = std::unexpected(QStringLiteral("no mail program"));
     open();
     openReport();
-    EXPECT_TRUE(exportItems.mail.action().isEnabled());
-    EXPECT_EQ(exportItems.mail.action().text(), QStringLiteral("Mail"));
+    EXPECT_TRUE(window->exportActions().mail.isEnabled());
+    EXPECT_EQ(window->exportActions().mail.text(), QStringLiteral("Mail"));
     EXPECT_TRUE(button("Mail")->isEnabled());
 }
 
@@ -339,7 +338,7 @@ TEST_F(ExportPanesTest, TheNotesShowTheirHeadingsAndSwitches) {
     details.notes = QStringLiteral("Bring the drawings\n<b>not bold</b>");
     store.storedEvents.front().details = std::make_shared<const EventDetails>(details);
     open();
-    exportItems.notes.action().trigger();
+    window->exportActions().notes.trigger();
     fetch();
     ASSERT_TRUE(notesView()->isVisible());
     EXPECT_EQ(notesView()->accessibleName(), QStringLiteral("Event Notes"));

@@ -288,7 +288,7 @@ TEST_F(MainWindowTest, ALongFetchShowsOneIndicatorInTheMiddle) {
 
 TEST_F(MainWindowTest, TheExportActionAsksForAPlace) {
     open();
-    exportItems.csv.action().trigger();
+    window->exportActions().csv.trigger();
     ASSERT_EQ(panel.requests.size(), 1U);
     EXPECT_EQ(exportCSV.text().section(u'\n', 0, 0),
               QString("\"Start Date\",\"Calendar\",\"Title\",\"Hours\",\"Cost\""));

@@ -41,9 +41,10 @@ protected:
         : SpokenLanguage(GetParam()) {}
 
     void inEachExportPane(const std::function<void(const char* view)>& check) {
-        for (auto [item, view] :
-             {std::pair{&exportItems.text, "report"}, std::pair{&exportItems.notes, "notes"}}) {
-            item->action().trigger();
+        ExportActions& actions = window->exportActions();
+        for (auto [action, view] :
+             {std::pair{&actions.text, "report"}, std::pair{&actions.notes, "notes"}}) {
+            action->trigger();
             fetch();
             check(view);
             settings.setObject("isExportTXTViewOn", false);

@@ -14,11 +14,11 @@ namespace {
 class WindowPanesTest : public test::WindowFixture {
 protected:
     void openReport() {
-        exportItems.text.action().trigger();
+        window->exportActions().text.trigger();
         fetch();
     }
     void openNotes() {
-        exportItems.notes.action().trigger();
+        window->exportActions().notes.trigger();
         fetch();
     }
     void close() {

@@ -38,14 +38,15 @@ protected:
     test::MemorySettings settings;
     QWidget parent;
     const IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "UTC"};
-    PreferencesPanes panes{{settings, formats, [] {}, [] {}}, parent};
+    PreferencesWindowController controller{settings};
+    PreferencesPanes panes{controller, {settings, formats, [] {}, [] {}}, parent};
 };
 
 } // namespace
 
 TEST_F(PreferencesPanesTest, TheWindowIsBuiltWhenFirstShownOnTheGeneralPane) {
     settings.setObject(paneKey, 3);
-    panes.controller().awakeFromNib();
+    controller.awakeFromNib();
     EXPECT_EQ(dialog(), nullptr);
     EXPECT_EQ(settings.object(paneKey), QVariant(0));
     panes.showWindow();
@@ -56,7 +57,7 @@ TEST_F(PreferencesPanesTest, TheWindowIsBuiltWhenFirstShownOnTheGeneralPane) {
 }
 
 TEST_F(PreferencesPanesTest, ChoosingATabTitlesTheWindowAndStoresThePane) {
-    panes.controller().awakeFromNib();
+    controller.awakeFromNib();
     panes.showWindow();
     tabs().setCurrentIndex(3);
     EXPECT_EQ(dialog()->windowTitle(), "CSV/TSV");
@@ -67,23 +68,23 @@ TEST_F(PreferencesPanesTest, ChoosingATabTitlesTheWindowAndStoresThePane) {
 }
 
 TEST_F(PreferencesPanesTest, TheWindowCanBeOpenedOnTheColumns) {
-    panes.controller().awakeFromNib();
-    panes.controller().showWindowWithColumnsPreferencesView();
+    controller.awakeFromNib();
+    controller.showWindowWithColumnsPreferencesView();
     EXPECT_EQ(shownTab(), "Columns");
     EXPECT_EQ(dialog()->windowTitle(), "Columns");
     EXPECT_EQ(settings.object(paneKey), QVariant(1));
 }
 
 TEST_F(PreferencesPanesTest, TheWindowCanBeOpenedOnTheTextReport) {
-    panes.controller().awakeFromNib();
-    panes.controller().showWindowWithTextPreferencesView();
+    controller.awakeFromNib();
+    controller.showWindowWithTextPreferencesView();
     EXPECT_EQ(shownTab(), "Text");
     EXPECT_EQ(dialog()->windowTitle(), "Text");
     EXPECT_EQ(settings.object(paneKey), QVariant(2));
 }
 
 TEST_F(PreferencesPanesTest, ThereAreFivePanesOfWhichOneIsShown) {
-    panes.controller().awakeFromNib();
+    controller.awakeFromNib();
     panes.showWindow();
     QStringList titles;
     QStringList identifiers;
@@ -102,10 +103,10 @@ TEST_F(PreferencesPanesTest, ThereAreFivePanesOfWhichOneIsShown) {
 }
 
 TEST_F(PreferencesPanesTest, AnIndexOfNoPaneLeavesPaneAndTitle) {
-    panes.controller().awakeFromNib();
-    panes.controller().showWindowWithTextPreferencesView();
+    controller.awakeFromNib();
+    controller.showWindowWithTextPreferencesView();
     for (const quint64 index : {quint64(5), quint64(7), ~quint64(0)}) {
-        panes.controller().changePreferencesViewSubview(index);
+        controller.changePreferencesViewSubview(index);
         EXPECT_EQ(shownTab(), "Text");
         EXPECT_TRUE(tabs().currentWidget()->isVisible());
         EXPECT_EQ(dialog()->windowTitle(), "Text");
@@ -123,7 +124,7 @@ TEST_F(PreferencesPanesTest, TheShownPaneIsResizedWithTheWindow) {
 }
 
 TEST_F(PreferencesPanesTest, ReturnEndsTheTypingAndEscapeClosesTheWindow) {
-    panes.controller().showWindowWithColumnsPreferencesView();
+    controller.showWindowWithColumnsPreferencesView();
     auto* field = parent.findChild<QLineEdit*>("titleColumnTitle");
     QTest::keyClicks(field, "Task");
     QTest::keyClick(field, Qt::Key_Return);

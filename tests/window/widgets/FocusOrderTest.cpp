@@ -32,9 +32,9 @@ protected:
         } while (window->focusWidget() != first && names.size() < moreThanThereAre);
         return names;
     }
-    void openWithPane(ActionToolbarItem& pane) {
+    void openWithPane(QAction ExportActions::* pane) {
         open();
-        pane.action().trigger();
+        (window->exportActions().*pane).trigger();
         fetch();
         for (QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
             if (nameOf(*button) == QStringLiteral("Previous")) {
@@ -57,7 +57,7 @@ protected:
 } // namespace
 
 TEST_F(FocusOrderTest, TabFollowsTheEyeAndComesRound) {
-    openWithPane(exportItems.text);
+    openWithPane(&ExportActions::text);
     expectWalk({"Previous", "Current", "Next", "Search Events", "Calendar Group", "Calendars",
                 "Layouts", "Events", "Options…", "Save…", "Close", "Text Report", "Hourly Rate",
                 "One rate for all calendars", "Results", "Month", "Start Date", "Locked",
@@ -65,19 +65,19 @@ TEST_F(FocusOrderTest, TabFollowsTheEyeAndComesRound) {
 }
 
 TEST_F(FocusOrderTest, SwitchesBelowTheButtonsComeAfterThem) {
-    openWithPane(exportItems.notes);
+    openWithPane(&ExportActions::notes);
     expectWalk({"Events", "Save…", "Close", "Calendar", "Location", "Event Notes", "Hourly Rate"});
 }
 
 TEST_F(FocusOrderTest, BacktabGoesTheSameWayBack) {
-    openWithPane(exportItems.text);
+    openWithPane(&ExportActions::text);
     QStringList names = walk(Qt::Key_Tab);
     std::reverse(names.begin() + 1, names.end());
     EXPECT_EQ(walk(Qt::Key_Backtab), names);
 }
 
 TEST_F(FocusOrderTest, RowsAreReadFromTheRightWhereTheLanguageIs) {
-    openWithPane(exportItems.text);
+    openWithPane(&ExportActions::text);
     window->setLayoutDirection(Qt::RightToLeft);
     QApplication::processEvents();
     const QStringList names = walk(Qt::Key_Tab);
