@@ -63,17 +63,18 @@ void TextExport::sendToMail() {
     if (!text) {
         return;
     }
-    const QString subject = titledPeriod(formatEmailNameDate);
-    const QString body = removeQuotesFromString(text->isEmpty() ? QStringLiteral(" ") : *text);
     const bool isBroken = isScriptingOfStylesBroken();
     if (isBroken) {
         showBrowserNotice();
     }
     const bool isPlain = isBroken || kind_.mailStyle == MailStyle::Plain;
-    // A mail program that is missing or refuses is not reported: no window opens, that is all.
-    std::ignore = with_.scriptRunner.run(
-        isPlain ? plainMailScript(body, subject)
-                : styledMailScript(body, with_.textColor.textColor(), subject));
+    const auto style =
+        isPlain ? std::nullopt : std::optional(reportMailStyle(with_.textColor.textColor()));
+    // Who runs it tells the user what goes wrong; there is nothing more to do here.
+    std::ignore =
+        with_.scriptRunner.run(mailScript({.subject = titledPeriod(formatEmailNameDate),
+                                           .content = text->isEmpty() ? QStringLiteral(" ") : *text,
+                                           .style = style}));
 }
 
 } // namespace quillet

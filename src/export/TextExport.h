@@ -56,8 +56,7 @@ public:
     /// Takes the text, asks for a place and writes it there. A failed write is only logged. Here
     /// and below a text that takes long shows its progress; when it is cancelled, that was all.
     void saveAsTxt();
-    /// Takes the text, a blank where it is empty, and runs the script that makes the message; what
-    /// becomes of that is not told.
+    /// Takes the text, a blank where it is empty, and runs the script that makes the message.
     void sendToMail();
 
 private:

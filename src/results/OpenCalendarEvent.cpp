@@ -7,20 +7,19 @@
 
 namespace quillet {
 
-QString showEventScript(const QString& calendarIdentifier,
-                        const QString& calendarItemExternalIdentifier) {
+Script showEventScript(EventRequest request) {
     const QStringList lines{
         "tell application \"Calendar\"",
-        "set vCalendar to (first calendar whose uid is \"" + calendarIdentifier + "\")",
+        "set vCalendar to (first calendar whose uid is \"" + request.calendarIdentifier + "\")",
         "tell vCalendar",
-        "set vEventInfo to (first event whose uid is \"" + calendarItemExternalIdentifier + "\")",
+        "set vEventInfo to (first event whose uid is \"" + request.eventIdentifier + "\")",
         "activate",
         "switch view to day view",
         "show vEventInfo",
         "end tell",
         "end tell"};
     const QString indent(19, u' ');
-    return indent + lines.join(u'\n' + indent);
+    return {.source = indent + lines.join(u'\n' + indent), .request = std::move(request)};
 }
 
 OpenCalendarEvent::OpenCalendarEvent(const Collaborators& collaborators)
@@ -41,8 +40,9 @@ void OpenCalendarEvent::openEventInCalendar() {
         return;
     }
     const Event event = with_.eventsArrayController.selectedObjects().front();
-    const auto result = with_.scriptRunner.run(showEventScript(
-        event.details->calendar->calendarIdentifier, event.details->eventIdentifier));
+    const auto result = with_.scriptRunner.run(
+        showEventScript({.calendarIdentifier = event.details->calendar->calendarIdentifier,
+                         .eventIdentifier = event.details->eventIdentifier}));
     if (!result) {
         qCWarning(quilletLog).noquote() << "it was an error";
     }

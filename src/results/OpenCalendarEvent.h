@@ -39,8 +39,7 @@ private:
     Collaborators with_;
 };
 
-/// The script that shows an event; both identifiers stand in it as they are.
-[[nodiscard]] QString showEventScript(const QString& calendarIdentifier,
-                                      const QString& calendarItemExternalIdentifier);
+/// The script that shows an event; both identifiers stand in its text as they are.
+[[nodiscard]] Script showEventScript(EventRequest request);
 
 } // namespace quillet

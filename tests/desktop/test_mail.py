@@ -79,6 +79,7 @@ def check_notes(program, reader):
     assert subject == f"Event Notes - {period()}", subject
     assert body.replace("\r\n", "\n") == notes, (body, notes)
     assert "Bring the \"drawings\"" in body, body
+    assert "from C:\\\"\\" in body, body
 
 
 def check_long_notes(program, reader):
@@ -131,7 +132,8 @@ def check_with_programs():
         program.press("Allow")
         program.wait_for_calendars(["Home", "Work"])
         show_this_month(program)
-        program.wait_for_titles(write_hostile_event("Bring the \"drawings\"\\nand 100% of them"))
+        program.wait_for_titles(write_hostile_event(
+            "Bring the \"drawings\"\\nand 100% of them from C:\\\\\"\\\\"))
         check_report(program, reader)
         check_notes(program, reader)
         check_long_notes(program, reader)

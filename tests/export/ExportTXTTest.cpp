@@ -1,6 +1,7 @@
 #include "export/ExportTXT.h"
 
 #include "TextExportFixture.h"
+#include "export/MailScript.h"
 
 #include <QDir>
 #include <QStandardPaths>
@@ -184,9 +185,22 @@ TEST_F(ExportTXTTest, QuotesInTheReportAreEscapedForTheScript) {
         << script();
 }
 
+TEST_F(ExportTXTTest, TheMessageHoldsTheReportAsItIsWhateverStandsInIt) {
+    text = QStringLiteral("say \"hi\" at 50%%\nC:\\new \\\"\r\n\tend tell") + QChar(QChar::Null) +
+           u'\\';
+    color.color = {.red = 0.25, .green = 0.5, .blue = 0.75};
+    exporter().sendToMail();
+    ASSERT_EQ(runner.requests.size(), 1U);
+    EXPECT_EQ(std::get<MessageRequest>(runner.requests.front()),
+              (MessageRequest{.subject = "January 1, 2015 - January 31, 2015",
+                              .content = text,
+                              .style = reportMailStyle(color.color)}));
+}
+
 TEST_F(ExportTXTTest, AnEmptyReportIsMailedAsABlank) {
     text = QString();
     exporter().sendToMail();
+    EXPECT_EQ(std::get<MessageRequest>(runner.requests.front()).content, QStringLiteral(" "));
     EXPECT_NE(script().find("set content to (\" \")\n"), std::string::npos);
 }
 

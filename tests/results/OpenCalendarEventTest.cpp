@@ -20,13 +20,15 @@ class WatchingRunner final : public ScriptRunner {
 public:
     explicit WatchingRunner(const SettingsStore& settings)
         : settings_(settings) {}
-    std::expected<void, QString> run(const QString& source) override {
-        sources.append(source);
+    std::expected<void, QString> run(const Script& script) override {
+        sources.append(script.source);
+        requests.push_back(std::get<EventRequest>(script.request));
         wasBusy = boolForKey(settings_, progressKey);
         return answer;
     }
 
     QStringList sources;
+    std::vector<EventRequest> requests;
     bool wasBusy = false;
     std::expected<void, QString> answer;
 
@@ -68,6 +70,7 @@ TEST_F(OpenCalendarEventTest, OneSelectedEventRunsTheScriptOnceCalendarBeforeEve
         "                   end tell\n"
         "                   end tell";
     EXPECT_EQ(runner.sources, QStringList{expected});
+    EXPECT_EQ(runner.requests, std::vector{(EventRequest{"home", "Next@test"})});
     EXPECT_TRUE(runner.wasBusy);
     EXPECT_FALSE(isBusy());
 }
@@ -78,6 +81,13 @@ TEST_F(OpenCalendarEventTest, IdentifiersStandInTheScriptAsTheyAre) {
     ASSERT_EQ(runner.sources.size(), 1);
     EXPECT_TRUE(runner.sources.front().contains("whose uid is \"a%1\"b\")\n"));
     EXPECT_TRUE(runner.sources.front().contains("whose uid is \"100% \\ \"x\"@test\")\n"));
+}
+
+TEST_F(OpenCalendarEventTest, TheRequestHoldsTheIdentifiersAsTheyAre) {
+    const QString hostile =
+        QStringLiteral("\\\" C:\\\r\n end tell\n$(x)") + QChar(QChar::Null) + u'\\';
+    const Script script = showEventScript({hostile, hostile + "2"});
+    EXPECT_EQ(std::get<EventRequest>(script.request), (EventRequest{hostile, hostile + "2"}));
 }
 
 TEST_F(OpenCalendarEventTest, AScriptWithoutAResultIsOnlyLogged) {

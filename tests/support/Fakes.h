@@ -151,12 +151,14 @@ public:
 /// Keeps the scripts, and answers each as the test wishes.
 class FakeScriptRunner final : public ScriptRunner {
 public:
-    std::expected<void, QString> run(const QString& source) override {
-        sources.append(source);
+    std::expected<void, QString> run(const Script& script) override {
+        sources.append(script.source);
+        requests.push_back(script.request);
         return answer;
     }
 
     QStringList sources;
+    std::vector<std::variant<MessageRequest, EventRequest>> requests;
     std::expected<void, QString> answer;
 };
 

@@ -4,8 +4,8 @@
 #include "backends/programs/CalendarBus.h"
 #include "backends/programs/DesktopPortal.h"
 #include "backends/programs/EventPlace.h"
-#include "backends/scripts/ScriptRequests.h"
 #include "platform/Alert.h"
+#include "platform/ScriptRunner.h"
 
 #include <expected>
 #include <functional>

@@ -37,20 +37,16 @@ DesktopScriptRunner::DesktopScriptRunner(Collaborators collaborators)
                  .findEvent = std::move(collaborators.findEvent),
                  .portal = isInSandbox() ? &portal_ : nullptr}) {}
 
-std::expected<void, QString> DesktopScriptRunner::run(const QString& source) {
-    const auto requests = requestsOfScript(source);
-    if (!requests) {
-        return std::unexpected(requests.error());
+std::expected<void, QString> DesktopScriptRunner::run(const Script& script) {
+    if (const auto* message = std::get_if<MessageRequest>(&script.request)) {
+        return mail_.compose(*message);
     }
-    for (const ScriptRequest& request : *requests) {
-        const auto* message = std::get_if<MessageRequest>(&request);
-        const auto result = message != nullptr ? mail_.compose(*message)
-                                               : calendar_.show(std::get<EventRequest>(request));
-        if (!result) {
-            return result;
-        }
+    const auto& event = std::get<EventRequest>(script.request);
+    // It would end the script's string too early, and a script that is broken shows nothing.
+    if (event.calendarIdentifier.contains(u'"') || event.eventIdentifier.contains(u'"')) {
+        return std::unexpected(QStringLiteral("the script is malformed"));
     }
-    return {};
+    return calendar_.show(event);
 }
 
 QString PackagedPrograms::shortVersion(const QString& /*path*/) const {

@@ -22,9 +22,9 @@ public:
 
     explicit DesktopScriptRunner(Collaborators collaborators);
 
-    /// A script that is malformed asks for nothing. The error is that of the first request that
-    /// failed, after which no other is tried.
-    std::expected<void, QString> run(const QString& source) override;
+    /// A message that cannot be shown is told to the user, see MailPrograms::compose(). An event
+    /// whose script its identifiers break is not shown.
+    std::expected<void, QString> run(const Script& script) override;
 
 private:
     SessionBusPortal portal_;

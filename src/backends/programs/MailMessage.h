@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/scripts/ScriptRequests.h"
+#include "platform/ScriptRunner.h"
 
 #include <QByteArray>
 #include <QString>
@@ -12,12 +12,9 @@ namespace quillet {
 /// breaks as mail has them. An empty body is left out.
 [[nodiscard]] QString mailtoAddress(const QString& subject, const QString& body);
 
-/// Whether the request says how its content is to be set.
-[[nodiscard]] bool isStyled(const MessageRequest& request);
-
-/// The content as a page that shows it to the letter, in the font, size and colour of the request;
-/// the content itself is text, whatever it holds. UTF-8.
-[[nodiscard]] QByteArray messagePage(const MessageRequest& request);
+/// The content as a page that shows it to the letter in that style; the content itself is text,
+/// whatever it holds. Null characters, which no page can hold, are left out. UTF-8.
+[[nodiscard]] QByteArray messagePage(const QString& content, const MessageStyle& style);
 
 /// What Thunderbird is told to compose: the request's subject, and as its body the file, which
 /// holds a messagePage() when the request is styled and plain text when not.

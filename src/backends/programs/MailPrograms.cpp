@@ -35,11 +35,8 @@ QStringList thunderbirdArguments(const MessageRequest& request, const QString& f
     return {QStringLiteral("-compose"), composeArgument(request, file)};
 }
 
-MessageRequest withoutStyle(MessageRequest request) {
-    request.fontName.reset();
-    request.fontSizePoints.reset();
-    request.color.reset();
-    return request;
+MessageRequest withoutStyle(const MessageRequest& request) {
+    return {.subject = request.subject, .content = request.content, .style = {}};
 }
 
 void removeOldFiles(const QString& folder) {
@@ -105,7 +102,9 @@ MailPrograms::composeThroughPortal(const MessageRequest& request) const {
 std::expected<void, QString> MailPrograms::composeWithAddress(
     const MessageRequest& request,
     const std::function<std::expected<void, QString>(const QString& body)>& send) const {
+    // A very long text need not be encoded to see that.
     const bool isTooLong =
+        request.content.size() > Applications::longestArgumentBytes ||
         mailtoAddress(request.subject, request.content).size() > Applications::longestArgumentBytes;
     if (!isTooLong) {
         return send(request.content);
@@ -134,9 +133,10 @@ std::expected<QString, QString> MailPrograms::writtenFile(const MessageRequest& 
     QDir().mkpath(with_.messageFolder);
     // Readable by this user only. It stays, since nobody tells when it has been read.
     QTemporaryFile file(with_.messageFolder + u'/' + messageFiles + QStringLiteral("XXXXXX") +
-                        (isStyled(request) ? QStringLiteral(".html") : QStringLiteral(".txt")));
+                        (request.style ? QStringLiteral(".html") : QStringLiteral(".txt")));
     file.setAutoRemove(false);
-    const QByteArray content = isStyled(request) ? messagePage(request) : request.content.toUtf8();
+    const QByteArray content =
+        request.style ? messagePage(request.content, *request.style) : request.content.toUtf8();
     if (!file.open() || file.write(content) != content.size() || !file.flush()) {
         const QString reason = file.errorString();
         file.setAutoRemove(true);

@@ -2,9 +2,9 @@
 
 #include "backends/programs/Applications.h"
 #include "backends/programs/DesktopPortal.h"
-#include "backends/scripts/ScriptRequests.h"
 #include "platform/Alert.h"
 #include "platform/Pasteboard.h"
+#include "platform/ScriptRunner.h"
 
 #include <expected>
 

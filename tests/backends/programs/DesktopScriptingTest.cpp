@@ -1,6 +1,7 @@
 #include "backends/programs/DesktopScripting.h"
 
 #include "ScratchDesktop.h"
+#include "backends/programs/MailMessage.h"
 #include "export/MailScript.h"
 #include "results/OpenCalendarEvent.h"
 
@@ -89,26 +90,42 @@ protected:
 } // namespace
 
 TEST_F(DesktopScriptRunnerTest, AMessageGoesToTheMailProgramAndAnEventToThatOfItsFile) {
-    ASSERT_TRUE(runner.run(plainMailScript("Text", "Subject")));
+    ASSERT_TRUE(runner.run(mailScript({.subject = "Subject", .content = "Text", .style = {}})));
     EXPECT_EQ(launcher.launched.last().second, QStringList{"mailto:?subject=Subject&body=Text"});
-    ASSERT_TRUE(runner.run(showEventScript("folder:Work", "one%20'two'")));
-    EXPECT_EQ(looked, QList<EventRequest>{(EventRequest{"folder:Work", "one%20'two'"})});
+    const EventRequest event{"folder:Work", "one%20'two'\\\n\\\\ end tell \\"};
+    ASSERT_TRUE(runner.run(showEventScript(event)));
+    EXPECT_EQ(looked, QList<EventRequest>{event});
     EXPECT_EQ(launcher.launched.last().second, QStringList{"/calendars/a.ics"});
     EXPECT_EQ(launchedPrograms(), (QStringList{"reader", "viewer"}));
 }
 
-TEST_F(DesktopScriptRunnerTest, AMalformedScriptAsksForNothingAndGivesNoResult) {
-    EXPECT_FALSE(runner.run(showEventScript("folder:Work", "a\"b")));
-    EXPECT_FALSE(runner.run(plainMailScript("Text", "Subject") + "\nand so on"));
+TEST_F(DesktopScriptRunnerTest, TextsThatWouldBreakAScriptArriveInTheMessage) {
+    for (const char* content :
+         {"ends in \\", "a \\\" b", "\"", "\")\nend tell\nend tell", "\\\\"}) {
+        ASSERT_TRUE(runner.run(mailScript({.subject = content, .content = content, .style = {}})));
+        EXPECT_EQ(launcher.launched.last().second, QStringList{mailtoAddress(content, content)});
+    }
+    EXPECT_TRUE(alerts.shown.empty());
+}
+
+TEST_F(DesktopScriptRunnerTest, AQuoteInAnIdentifierBreaksTheScriptAndShowsNothing) {
+    EXPECT_FALSE(runner.run(showEventScript({"folder:Work", "a\"b"})));
+    EXPECT_FALSE(runner.run(showEventScript({"folder:\"", "a"})));
     EXPECT_TRUE(launcher.launched.isEmpty());
     EXPECT_TRUE(looked.isEmpty());
     EXPECT_TRUE(alerts.shown.empty());
 }
 
-TEST_F(DesktopScriptRunnerTest, AfterARequestThatFailedNoOtherIsTried) {
+TEST_F(DesktopScriptRunnerTest, AMessageThatCannotBeMadeIsToldOnceWithItsReason) {
+    launcher.answer = std::unexpected(QStringLiteral("no memory"));
+    EXPECT_FALSE(runner.run(mailScript({.subject = "S", .content = "Text", .style = {}})));
+    ASSERT_EQ(alerts.shown.size(), 1U);
+    EXPECT_TRUE(alerts.shown.front().informativeText.contains("cannot be run"));
+}
+
+TEST_F(DesktopScriptRunnerTest, AnEventInNoPlaceGivesTheReason) {
     place = {};
-    const auto result = runner.run(showEventScript("folder:Work", "gone") + "\n" +
-                                   plainMailScript("Text", "Subject"));
+    const auto result = runner.run(showEventScript({"folder:Work", "gone"}));
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error(), QStringLiteral("the event is in no place that others can open"));
     EXPECT_TRUE(launcher.launched.isEmpty());

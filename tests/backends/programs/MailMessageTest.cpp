@@ -1,5 +1,7 @@
 #include "backends/programs/MailMessage.h"
 
+#include "support/CpuTimer.h"
+
 #include <QUrl>
 #include <QUrlQuery>
 
@@ -10,16 +12,14 @@ namespace quillet {
 namespace {
 
 MessageRequest plain(const QString& subject, const QString& content) {
-    return {
-        .subject = subject, .content = content, .fontName = {}, .fontSizePoints = {}, .color = {}};
+    return {.subject = subject, .content = content, .style = {}};
 }
 
+const MessageStyle style{
+    .fontName = "Monaco", .fontSizePoints = 10, .color = {.red = 1, .green = 0.5, .blue = 0}};
+
 MessageRequest styled(const QString& content) {
-    return {.subject = "S",
-            .content = content,
-            .fontName = "Monaco",
-            .fontSizePoints = 10,
-            .color = ColorFractions{.red = 1, .green = 0.5, .blue = 0}};
+    return {.subject = "S", .content = content, .style = style};
 }
 
 } // namespace
@@ -61,7 +61,7 @@ TEST(MailMessageTest, NothingInTheTextsReachesTheAddressRaw) {
 }
 
 TEST(MailMessageTest, ThePageShowsTheTextToTheLetterInItsStyle) {
-    EXPECT_EQ(messagePage(styled("a  b\n<b>&amp; \"x\"</b>\n\n c")),
+    EXPECT_EQ(messagePage("a  b\n<b>&amp; \"x\"</b>\n\n c", style),
               QByteArray("<html><head><meta charset=\"utf-8\"></head><body>"
                          "<pre style=\"margin:0;font-family:Monaco, monospace;font-size:10pt;"
                          "color:#ff8000\">a  b<br>&lt;b&gt;&amp;amp; &quot;x&quot;&lt;/b&gt;<br>"
@@ -69,23 +69,36 @@ TEST(MailMessageTest, ThePageShowsTheTextToTheLetterInItsStyle) {
 }
 
 TEST(MailMessageTest, ThePageIsUtf8AndHoldsNoLineFeed) {
-    const QByteArray page = messagePage(styled(QString::fromUtf8("für\r\n„Anna“ 🎉")));
+    const QByteArray page = messagePage(QString::fromUtf8("für\r\n„Anna“ 🎉"), style);
     EXPECT_FALSE(page.contains('\n'));
     EXPECT_TRUE(page.contains("für<br>„Anna“ 🎉</pre>"));
 }
 
+TEST(MailMessageTest, APageHoldsALineBreakForEachOfTheTextAndEveryCharacterButNull) {
+    EXPECT_TRUE(
+        messagePage("\ra\r\n\r\n\nb\n\r", style).contains("\"><br>a<br><br><br>b<br><br></pre>"));
+    EXPECT_TRUE(messagePage(QStringLiteral("a") + QChar(QChar::Null) + "b\x01\\\"", style)
+                    .contains("\">ab\x01\\&quot;</pre>"));
+    EXPECT_TRUE(messagePage("", style).contains("\"></pre>"));
+}
+
+TEST(MailMessageTest, ThePageOfALongReportIsMadeInOnePass) {
+    const QString content = QString(QString(197, u'x') + "<\"\n").repeated(100'000);
+    const test::CpuTimer timer;
+    const QByteArray page = messagePage(content, style);
+    EXPECT_LT(timer.milliseconds(), 2000);
+    EXPECT_EQ(page.count("x&lt;&quot;<br>"), 100'000);
+}
+
 TEST(MailMessageTest, AStyleCannotLeaveItsPlace) {
-    MessageRequest request = styled("x");
-    request.fontName = "a\";}</style><script>b'\\";
-    request.fontSizePoints = 1e9;
-    request.color = ColorFractions{.red = -5, .green = 7, .blue = 0};
-    EXPECT_TRUE(messagePage(request).contains(
-        "<pre style=\"margin:0;font-family:astylescriptb, monospace;font-size:100pt;"
-        "color:#00ff00\">x</pre>"));
-    request.fontName = "\"";
-    request.fontSizePoints.reset();
-    request.color.reset();
-    EXPECT_TRUE(messagePage(request).contains("<pre style=\"margin:0;font-family:monospace\">x"));
+    const MessageStyle hostile{.fontName = "a\";}</style><script>b'\\",
+                               .fontSizePoints = 1e9,
+                               .color = {.red = -5, .green = 7, .blue = 0}};
+    EXPECT_TRUE(messagePage("x", hostile)
+                    .contains("<pre style=\"margin:0;font-family:astylescriptb, monospace;"
+                              "font-size:100pt;color:#00ff00\">x</pre>"));
+    EXPECT_TRUE(messagePage("x", {.fontName = "\"", .fontSizePoints = 0, .color = {}})
+                    .contains("<pre style=\"margin:0;font-family:monospace;font-size:1pt;"));
 }
 
 TEST(MailMessageTest, WhatIsComposedFromAFileNamesItAndItsForm) {
@@ -101,16 +114,6 @@ TEST(MailMessageTest, KMailGetsTheSubjectInOneArgumentWhateverItHolds) {
     EXPECT_EQ(kmailArguments(plain("--attach=/etc/passwd\n100% ü", "x"), "/a b/x.txt"),
               (QStringList{"--composer", "--subject=--attach=/etc/passwd 100% ü", "--msg",
                            "/a b/x.txt"}));
-}
-
-TEST(MailMessageTest, AnyOneStyleMakesARequestStyled) {
-    MessageRequest request = plain("s", "x");
-    EXPECT_FALSE(isStyled(request));
-    request.fontSizePoints = 10;
-    EXPECT_TRUE(isStyled(request));
-    request.fontSizePoints.reset();
-    request.color = ColorFractions();
-    EXPECT_TRUE(isStyled(request));
 }
 
 } // namespace quillet

@@ -29,11 +29,11 @@ class MailProgramsTest : public testing::Test {
 protected:
     std::expected<void, QString> compose(const QString& content,
                                          std::optional<double> fontSizePoints = {}) {
-        return mail.compose({.subject = "March \"2024\", 100%",
-                             .content = content,
-                             .fontName = {},
-                             .fontSizePoints = fontSizePoints,
-                             .color = {}});
+        MessageRequest request{.subject = "March \"2024\", 100%", .content = content, .style = {}};
+        if (fontSizePoints) {
+            request.style = {.fontName = {}, .fontSizePoints = *fontSizePoints, .color = {}};
+        }
+        return mail.compose(request);
     }
     void installReader() { desktop.install("reader.desktop", "reader --new %u", mailto); }
     void installThunderbird() { desktop.install("thunderbird.desktop", "thunderbird %u", mailto); }
@@ -83,7 +83,8 @@ TEST_F(MailProgramsTest, ThunderbirdGetsAStyledPageInAFileOfTheUsersAlone) {
     EXPECT_EQ(QFile::permissions(desktop.path("run/quillet/" + name)) &
                   (QFile::ReadGroup | QFile::ReadOther | QFile::WriteGroup | QFile::WriteOther),
               QFile::Permissions());
-    EXPECT_TRUE(contentOf(name).contains("font-size:10pt\">&lt;b&gt;<br>&quot;x&quot;</pre>"));
+    EXPECT_TRUE(contentOf(name).contains(
+        "font-size:10pt;color:#000000\">&lt;b&gt;<br>&quot;x&quot;</pre>"));
     ASSERT_EQ(launcher.launched.size(), 1);
     EXPECT_EQ(launcher.launched.front().first, desktop.path("bin/thunderbird"));
     const QString file =
@@ -249,11 +250,8 @@ TEST_F(MailProgramsTest, InASandboxThePortalComposes) {
                                   .alerts = alerts,
                                   .messageFolder = desktop.path("run/quillet"),
                                   .portal = &portal});
-    const MessageRequest request{.subject = "S",
-                                 .content = "line\n100% \"x\"",
-                                 .fontName = "Monaco",
-                                 .fontSizePoints = 10,
-                                 .color = {}};
+    const MessageRequest request{
+        .subject = "S", .content = "line\n100% \"x\"", .style = MessageStyle{"Monaco", 10, {}}};
     ASSERT_TRUE(sandboxed.compose(request));
     EXPECT_EQ(portal.messages, (QList<QPair<QString, QString>>{{"S", "line\n100% \"x\""}}));
     EXPECT_TRUE(launcher.launched.isEmpty());
