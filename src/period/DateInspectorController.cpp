@@ -3,25 +3,52 @@
 #include "platform/Settings.h"
 #include "texts/Localized.h"
 
+#include <algorithm>
+
 namespace quillet {
 
 namespace {
 
 constexpr qint64 customIndex = static_cast<qint64>(PeriodKind::Custom);
 
+bool isKind(qint64 index) {
+    return index >= static_cast<qint64>(PeriodKind::Day) && index <= customIndex;
+}
+
+/// The length of one period of a kind, and the distance of one step; nothing for Custom.
+DateOffset lengthOf(PeriodKind kind) {
+    switch (kind) {
+    case PeriodKind::Day:
+        return {.days = 1};
+    case PeriodKind::Week:
+        return {.days = 7};
+    case PeriodKind::Month:
+        return {.months = 1};
+    case PeriodKind::Year:
+        return {.years = 1};
+    case PeriodKind::Custom:
+        break;
+    }
+    return {};
+}
+
+DateOffset reversed(const DateOffset& offset) {
+    return {.years = -offset.years, .months = -offset.months, .days = -offset.days};
+}
+
 } // namespace
 
 DateInspectorController::DateInspectorController(const Collaborators& collaborators)
     : with_(collaborators)
-    , arithmetic_(collaborators.gregorian, collaborators.current) {}
+    , arithmetic_(collaborators.gregorian, collaborators.current)
+    , dates_(collaborators.settings, collaborators.clock, arithmetic_) {}
 
 DateInspectorController::~DateInspectorController() = default;
 
 void DateInspectorController::awakeFromNib() {
     isInterfaceEnabled_ = settings::isCalendarAccessGranted.read(with_.settings);
     setQuickDatePeriodIndex(settings::quickDatePeriod.readOrFirstRun(with_.settings));
-    setSelectedDate(stored(settings::selectedDate)
-                        .value_or(arithmetic_.firstSecondOfWeekFromDate(with_.clock.now())));
+    dates_.readSelectedDate();
 
     observations_.push_back(settings::isCalendarAccessGranted.observe(with_.settings, [this] {
         isInterfaceEnabled_ = settings::isCalendarAccessGranted.read(with_.settings);
@@ -37,74 +64,8 @@ void DateInspectorController::awakeFromNib() {
     }
 }
 
-std::optional<Instant> DateInspectorController::stored(const Setting<Instant>& setting) const {
-    return setting.read(with_.settings);
-}
-
 Instant DateInspectorController::today() const {
     return arithmetic_.firstSecondOfDayFromDate(with_.clock.now());
-}
-
-Instant DateInspectorController::startDate() {
-    if (!startDate_) {
-        setStartDate(stored(settings::filterStartDate)
-                         .value_or(arithmetic_.firstSecondOfWeekFromDate(with_.clock.now())));
-    }
-    return *startDate_;
-}
-
-Instant DateInspectorController::endDate() {
-    if (!endDate_) {
-        setEndDate(stored(settings::filterEndDate)
-                       .value_or(arithmetic_.lastSecondOfWeekFromDate(with_.clock.now())));
-    }
-    return *endDate_;
-}
-
-Instant DateInspectorController::selectedDate() {
-    if (!selectedDate_) {
-        setSelectedDate(stored(settings::selectedDate)
-                            .value_or(arithmetic_.firstSecondOfWeekFromDate(with_.clock.now())));
-    }
-    return *selectedDate_;
-}
-
-void DateInspectorController::adopt(const Setting<Instant>& setting,
-                                    std::optional<Instant>& property, Instant value) {
-    property = value;
-    setting.write(with_.settings, value);
-}
-
-void DateInspectorController::setStartDate(Instant date) {
-    constexpr int farthest = PeriodArithmetic::longestPeriodDays - 1;
-    const Instant start = arithmetic_.normalizedStart(date);
-    startDate_ = start;
-    if (endDate_ && *endDate_ < start) {
-        adopt(settings::filterEndDate, endDate_, arithmetic_.lastSecondOfDayFromDate(start));
-    } else if (endDate_ && arithmetic_.totalDaysFromStartDate(start, *endDate_) >
-                               PeriodArithmetic::longestPeriodDays) {
-        adopt(settings::filterEndDate, endDate_,
-              arithmetic_.lastSecondBefore(start, {.days = farthest + 1}));
-    }
-    adopt(settings::filterStartDate, startDate_, start);
-}
-
-void DateInspectorController::setEndDate(Instant date) {
-    constexpr int farthest = PeriodArithmetic::longestPeriodDays - 1;
-    const Instant end = arithmetic_.lastSecondOfDayFromDate(arithmetic_.normalizedStart(date));
-    endDate_ = end;
-    if (startDate_ && end < *startDate_) {
-        adopt(settings::filterStartDate, startDate_, arithmetic_.firstSecondOfDayFromDate(end));
-    } else if (startDate_ && arithmetic_.totalDaysFromStartDate(*startDate_, end) >
-                                 PeriodArithmetic::longestPeriodDays) {
-        adopt(settings::filterStartDate, startDate_,
-              arithmetic_.firstSecondAfter(end, {.days = -farthest}));
-    }
-    adopt(settings::filterEndDate, endDate_, end);
-}
-
-void DateInspectorController::setSelectedDate(Instant date) {
-    adopt(settings::selectedDate, selectedDate_, arithmetic_.normalizedStart(date));
 }
 
 qint64 DateInspectorController::quickDatePeriodIndex() {
@@ -119,12 +80,6 @@ void DateInspectorController::setQuickDatePeriodIndex(qint64 index) {
 void DateInspectorController::setCustomDateOn(bool isOn) {
     isCustomDateOn_ = isOn;
     Q_EMIT isCustomDateOnChanged();
-}
-
-std::int32_t DateInspectorController::totalDays() const {
-    const auto start = stored(settings::filterStartDate);
-    const auto end = stored(settings::filterEndDate);
-    return start && end ? arithmetic_.totalDaysFromStartDate(*start, *end) : 0;
 }
 
 void DateInspectorController::setLabels() {
@@ -152,13 +107,184 @@ void DateInspectorController::setLabels() {
     default:
         periodLabel_.clear();
     }
-    const Instant start = stored(settings::filterStartDate).value_or(*startDate_);
-    const Instant end = stored(settings::filterEndDate).value_or(*endDate_);
+    const Instant start = dates_.storedStartDate().value_or(startDate());
+    const Instant end = dates_.storedEndDate().value_or(endDate());
     dateRangeLabel_ = with_.formats.longDate(start);
     if (kind > 0) {
         dateRangeLabel_ += QStringLiteral(" - ") + with_.formats.longDate(end);
     }
     Q_EMIT labelsChanged();
+}
+
+void DateInspectorController::setQuickDatePeriod() {
+    const qint64 index = quickDatePeriodIndex();
+    if (settings::quickDatePeriodPreviousValue.isStored(with_.settings) &&
+        settings::quickDatePeriodPreviousValue.read(with_.settings) == index) {
+        return;
+    }
+    if (isKind(index)) {
+        applyKind(static_cast<PeriodKind>(index));
+    }
+    settings::quickDatePeriodPreviousValue.write(with_.settings, index);
+    settings::datesChangedTrigger.flip(with_.settings);
+}
+
+void DateInspectorController::applyKind(PeriodKind kind) {
+    setCustomDateOn(kind == PeriodKind::Custom);
+    if (kind != PeriodKind::Custom) {
+        setPeriod(kind, selectedDate());
+    }
+}
+
+void DateInspectorController::setQuickDates(PeriodStep segment) {
+    const qint64 index = quickDatePeriodIndex();
+    if (isKind(index)) {
+        step(static_cast<PeriodKind>(index), segment);
+    }
+    settings::datesChangedTrigger.flip(with_.settings);
+}
+
+void DateInspectorController::step(PeriodKind kind, PeriodStep segment) {
+    if (kind == PeriodKind::Custom) {
+        stepCustomPeriod(segment);
+        return;
+    }
+    Instant date = today();
+    if (segment != PeriodStep::Current) {
+        const DateOffset length = lengthOf(kind);
+        const DateOffset offset = segment == PeriodStep::Next ? length : reversed(length);
+        date = kind == PeriodKind::Day ? arithmetic_.firstSecondAfter(startDate(), offset)
+                                       : arithmetic_.firstSecondOfDate(startDate(), offset);
+    }
+    setPeriod(kind, date);
+    setSelectedDate(date);
+}
+
+void DateInspectorController::stepCustomPeriod(PeriodStep segment) {
+    const int days = arithmetic_.totalDaysFromStartDate(startDate(), endDate());
+    if (segment == PeriodStep::Current) {
+        const Instant start = today();
+        dates_.setBounds(start, arithmetic_.lastSecondBefore(start, {.days = days}));
+        setSelectedDate(start);
+        return;
+    }
+    const DateOffset shift{.days = segment == PeriodStep::Next ? days : -days};
+    const Instant start = arithmetic_.firstSecondAfter(startDate(), shift);
+    const Instant end = arithmetic_.firstSecondAfter(endDate(), shift);
+    dates_.setBounds(start, end);
+    setSelectedDate(start);
+}
+
+void DateInspectorController::setPeriod(PeriodKind kind, Instant date) {
+    switch (kind) {
+    case PeriodKind::Day:
+        weekReferenceDate_.reset();
+        dates_.setBounds(arithmetic_.firstSecondOfDayFromDate(date),
+                         arithmetic_.lastSecondOfDayFromDate(date));
+        break;
+    case PeriodKind::Week:
+        // Remembered so that a month shown before the week comes back, though the week may have
+        // begun in the month before.
+        weekReferenceDate_ = startDate();
+        dates_.setBounds(arithmetic_.firstSecondOfWeekFromDate(date),
+                         arithmetic_.lastSecondOfWeekFromDate(date));
+        break;
+    case PeriodKind::Month:
+        date = laterThanWeekReference(date);
+        dates_.setBounds(arithmetic_.firstSecondOfMonthFromDate(date),
+                         arithmetic_.lastSecondOfMonthFromDate(date));
+        break;
+    case PeriodKind::Year:
+        date = laterThanWeekReference(date);
+        dates_.setBounds(arithmetic_.firstSecondOfYearFromDate(date),
+                         arithmetic_.lastSecondOfYearFromDate(date));
+        break;
+    case PeriodKind::Custom:
+        break;
+    }
+}
+
+void DateInspectorController::setPeriodStartingWith(PeriodKind kind, Instant date) {
+    if (kind == PeriodKind::Day) {
+        setPeriod(kind, date);
+        return;
+    }
+    if (kind == PeriodKind::Week) {
+        weekReferenceDate_ = startDate();
+    }
+    dates_.setBounds(arithmetic_.firstSecondOfDayFromDate(date),
+                     arithmetic_.lastSecondBeforeDate(date, lengthOf(kind)));
+}
+
+Instant DateInspectorController::laterThanWeekReference(Instant date) {
+    const Instant later = std::max(date, weekReferenceDate_.value_or(date));
+    weekReferenceDate_.reset();
+    return later;
+}
+
+void DateInspectorController::startDateControlClicked() {
+    const Instant start = startDate();
+    setSelectedDate(start);
+    const qint64 index = quickDatePeriodIndex();
+    if (index == customIndex) {
+        if (isCustomDateOn_) {
+            lockedPeriod_ = arithmetic_.totalDaysFromStartDate(start, endDate());
+        } else {
+            setEndDate(
+                arithmetic_.lastSecondBefore(start, {.days = static_cast<int>(lockedPeriod_)}));
+        }
+    } else if (isKind(index)) {
+        setPeriodStartingWith(static_cast<PeriodKind>(index), start);
+    }
+    settings::datesChangedTrigger.flip(with_.settings);
+}
+
+void DateInspectorController::endDateControlClicked() {
+    if (quickDatePeriodIndex() != customIndex) {
+        setQuickDatePeriodIndex(customIndex);
+    }
+    setCustomDateOn(true);
+    lockedPeriod_ = arithmetic_.totalDaysFromStartDate(startDate(), endDate());
+    settings::datesChangedTrigger.flip(with_.settings);
+}
+
+void DateInspectorController::toggleEndDateLock() {
+    if (quickDatePeriodIndex() != customIndex) {
+        setQuickDatePeriodIndex(customIndex);
+    }
+    lockedPeriod_ = arithmetic_.totalDaysFromStartDate(startDate(), endDate());
+}
+
+void DateInspectorController::choosePeriodKind(PeriodKind kind) {
+    setQuickDatePeriodIndex(static_cast<qint64>(kind));
+    setQuickDatePeriod();
+}
+
+void DateInspectorController::pickStartDate(Instant day) {
+    setStartDate(day);
+    startDateControlClicked();
+}
+
+void DateInspectorController::pickEndDate(Instant day) {
+    // Before the kind, whose action asks for a fetch: while that one runs, the request of the
+    // picker's own action is dropped, so the first must already find the new end.
+    setEndDate(day);
+    becomeCustom();
+    endDateControlClicked();
+}
+
+void DateInspectorController::switchEndDateLock() {
+    const bool wasOn = isCustomDateOn_;
+    becomeCustom();
+    setCustomDateOn(!wasOn);
+    toggleEndDateLock();
+}
+
+void DateInspectorController::becomeCustom() {
+    // Applied as a choice, so that choosing the former kind again acts and brings its dates back.
+    if (quickDatePeriodIndex() != customIndex) {
+        choosePeriodKind(PeriodKind::Custom);
+    }
 }
 
 } // namespace quillet

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "period/PeriodArithmetic.h"
+#include "period/PeriodDates.h"
 #include "platform/Clock.h"
 #include "platform/LocaleFormats.h"
-#include "platform/Setting.h"
+#include "platform/SettingsStore.h"
 
 #include <QObject>
 
@@ -40,16 +41,16 @@ public:
     void awakeFromNib();
 
     /// The first second of the period's first day; the current week's while nothing is stored.
-    [[nodiscard]] Instant startDate();
+    [[nodiscard]] Instant startDate() { return dates_.startDate(); }
     /// The last second of the period's last day.
-    [[nodiscard]] Instant endDate();
+    [[nodiscard]] Instant endDate() { return dates_.endDate(); }
     /// The anchor from which a newly chosen kind is built: the first second of a day.
-    [[nodiscard]] Instant selectedDate();
+    [[nodiscard]] Instant selectedDate() { return dates_.selectedDate(); }
     /// Bounds are normalised to whole days; the other bound gives way where the order or the
     /// longest length asks for it.
-    void setStartDate(Instant date);
-    void setEndDate(Instant date);
-    void setSelectedDate(Instant date);
+    void setStartDate(Instant date) { dates_.setStartDate(date); }
+    void setEndDate(Instant date) { dates_.setEndDate(date); }
+    void setSelectedDate(Instant date) { dates_.setSelectedDate(date); }
 
     /// The number of the kind as stored, which need not be one of PeriodKind's.
     [[nodiscard]] qint64 quickDatePeriodIndex();
@@ -64,7 +65,7 @@ public:
     [[nodiscard]] QString periodLabelString() const { return periodLabel_; }
     [[nodiscard]] QString dateRangeLabelString() const { return dateRangeLabel_; }
     /// The days of the stored period.
-    [[nodiscard]] std::int32_t totalDays() const;
+    [[nodiscard]] std::int32_t totalDays() const { return dates_.totalDays(); }
 
     /// @name User actions, sent after the control has written its property
     /// @{
@@ -91,24 +92,19 @@ Q_SIGNALS:
     void isCustomDateOnChanged();
 
 private:
-    [[nodiscard]] std::optional<Instant> stored(const Setting<Instant>& setting) const;
     [[nodiscard]] Instant today() const;
-    void adopt(const Setting<Instant>& setting, std::optional<Instant>& property, Instant value);
     void applyKind(PeriodKind kind);
     void step(PeriodKind kind, PeriodStep segment);
     void stepCustomPeriod(PeriodStep segment);
     void setPeriod(PeriodKind kind, Instant date);
     void setPeriodStartingWith(PeriodKind kind, Instant date);
     [[nodiscard]] Instant laterThanWeekReference(Instant date);
-    void setBounds(Instant start, Instant end);
     void becomeCustom();
     void setLabels();
 
     Collaborators with_;
     PeriodArithmetic arithmetic_;
-    std::optional<Instant> startDate_;
-    std::optional<Instant> endDate_;
-    std::optional<Instant> selectedDate_;
+    PeriodDates dates_;
     std::optional<Instant> weekReferenceDate_;
     bool isCustomDateOn_ = false;
     qint64 lockedPeriod_ = 0;
