@@ -1,12 +1,16 @@
 #include "window/exports/ReportView.h"
 
+#include "texts/Localized.h"
+#include "window/widgets/CaretMoves.h"
+
 #include <QAccessible>
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
-#include <QTextBoundaryFinder>
 #include <QTextLayout>
 
 namespace quillet {
@@ -14,6 +18,7 @@ namespace quillet {
 namespace {
 
 constexpr int margin = 4;
+constexpr int dragScrollMilliseconds = 50;
 
 } // namespace
 
@@ -187,6 +192,97 @@ void ReportView::scrollTo(qsizetype position) {
         horizontal.setMaximum(std::max(horizontal.maximum(), value));
         horizontal.setValue(value);
     }
+}
+
+bool ReportView::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        const auto* key = static_cast<QKeyEvent*>(event);
+        if (key->matches(QKeySequence::Copy) || key->matches(QKeySequence::SelectAll)) {
+            // Meant for this text, not for what the window's menus do with the same keys.
+            event->accept();
+            return true;
+        }
+    }
+    return QAbstractScrollArea::event(event);
+}
+
+void ReportView::resizeEvent(QResizeEvent* /*event*/) {
+    updateScrollBars();
+}
+
+void ReportView::changeEvent(QEvent* event) {
+    QAbstractScrollArea::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        updateScrollBars();
+    }
+}
+
+void ReportView::focusInEvent(QFocusEvent* /*event*/) {
+    viewport()->update();
+}
+
+void ReportView::focusOutEvent(QFocusEvent* /*event*/) {
+    viewport()->update();
+}
+
+void ReportView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) {
+        const qsizetype position = positionAt(event->pos());
+        select(event->modifiers().testFlag(Qt::ShiftModifier) ? anchor_ : position, position);
+    }
+}
+
+void ReportView::mouseMoveEvent(QMouseEvent* event) {
+    if (!event->buttons().testFlag(Qt::LeftButton)) {
+        return;
+    }
+    dragPoint_ = event->pos();
+    if (viewport()->rect().contains(dragPoint_)) {
+        dragScrolling_.stop();
+    } else if (!dragScrolling_.isActive()) {
+        dragScrolling_.start(dragScrollMilliseconds, this);
+    }
+    select(anchor_, positionAt(dragPoint_));
+}
+
+void ReportView::mouseReleaseEvent(QMouseEvent* /*event*/) {
+    dragScrolling_.stop();
+}
+
+void ReportView::timerEvent(QTimerEvent* event) {
+    if (event->timerId() == dragScrolling_.timerId()) {
+        select(anchor_, positionAt(dragPoint_));
+    } else {
+        QAbstractScrollArea::timerEvent(event);
+    }
+}
+
+void ReportView::mouseDoubleClickEvent(QMouseEvent* event) {
+    const TextRange word = wordAt(lines_, positionAt(event->pos()));
+    select(word.start, word.end);
+}
+
+void ReportView::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Copy)) {
+        copy();
+    } else if (event->matches(QKeySequence::SelectAll)) {
+        selectAll();
+    } else if (const auto key = caretKeyOf(*event)) {
+        const qsizetype position = movedCaret(lines_, caret_, key->move, linesOnScreen());
+        select(key->selection == CaretKey::Selection::Grows ? anchor_ : position, position);
+    } else {
+        QAbstractScrollArea::keyPressEvent(event);
+    }
+}
+
+void ReportView::contextMenuEvent(QContextMenuEvent* event) {
+    QMenu menu(this);
+    QAction* copyAction = menu.addAction(localized("&Copy"), this, &ReportView::copy);
+    copyAction->setShortcut(QKeySequence::Copy);
+    copyAction->setEnabled(anchor_ != caret_);
+    QAction* allAction = menu.addAction(localized("Select &All"), this, &ReportView::selectAll);
+    allAction->setShortcut(QKeySequence::SelectAll);
+    menu.exec(event->globalPos());
 }
 
 } // namespace quillet

@@ -56,8 +56,6 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    enum class Move { Left, Right, Up, Down, LineStart, LineEnd, PageUp, PageDown, Start, End };
-
     [[nodiscard]] int lineHeight() const;
     [[nodiscard]] int linesOnScreen() const;
     /// As long as the line itself.
@@ -65,8 +63,6 @@ private:
     void layOut(QTextLayout& layout) const;
     void paintLine(QPainter& painter, qsizetype number, QPoint place) const;
     void updateScrollBars();
-    [[nodiscard]] qsizetype moved(Move move) const;
-    [[nodiscard]] qsizetype movedByLines(qsizetype lines) const;
     void tellSelection();
 
     TextLines lines_;
