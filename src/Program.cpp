@@ -24,8 +24,7 @@ std::vector<std::reference_wrapper<EventStore>> present(EventStore& folder, Even
 }
 
 bool showInSoftwareCentre(TaskLauncher& launcher) {
-    const Applications applications(DesktopEntries(desktopFolders(processEnvironment())), launcher,
-                                    applicationIdentifier() + QStringLiteral(".desktop"));
+    const Applications applications(launcher, applicationIdentifier() + QStringLiteral(".desktop"));
     SessionBusPortal portal;
     const SoftwareCentre centre(applications, isInSandbox() ? &portal : nullptr);
     return centre.show(applicationIdentifier()).has_value();

@@ -576,10 +576,6 @@
         <translation>Er liegt in der Zwischenablage: Fügen Sie ihn in die neue Nachricht ein.</translation>
     </message>
     <message>
-        <source>Its desktop entry is malformed.</source>
-        <translation>Sein Starteintrag ist fehlerhaft.</translation>
-    </message>
-    <message>
         <source>its server is not reachable since %1, retrying</source>
         <translation>sein Server ist seit %1 nicht erreichbar, neuer Versuch folgt</translation>
     </message>

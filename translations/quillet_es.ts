@@ -576,10 +576,6 @@
         <translation>Está en el portapapeles: péguelo en el mensaje nuevo.</translation>
     </message>
     <message>
-        <source>Its desktop entry is malformed.</source>
-        <translation>Su entrada de escritorio tiene errores.</translation>
-    </message>
-    <message>
         <source>its server is not reachable since %1, retrying</source>
         <translation>su servidor no está disponible desde las %1; se reintentará</translation>
     </message>

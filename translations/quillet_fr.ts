@@ -576,10 +576,6 @@
         <translation>Il est dans le presse-papiers : collez-le dans le nouveau message.</translation>
     </message>
     <message>
-        <source>Its desktop entry is malformed.</source>
-        <translation>Son fichier de lancement est mal formé.</translation>
-    </message>
-    <message>
         <source>its server is not reachable since %1, retrying</source>
         <translation>son serveur est injoignable depuis %1, nouvel essai à venir</translation>
     </message>

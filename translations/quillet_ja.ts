@@ -576,10 +576,6 @@
         <translation>クリップボードにコピーしました。新しいメッセージに貼り付けてください。</translation>
     </message>
     <message>
-        <source>Its desktop entry is malformed.</source>
-        <translation>起動用ファイルに誤りがあります。</translation>
-    </message>
-    <message>
         <source>its server is not reachable since %1, retrying</source>
         <translation>%1からサーバーに接続できません。再試行します</translation>
     </message>

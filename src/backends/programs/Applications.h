@@ -1,13 +1,30 @@
 #pragma once
 
-#include "backends/programs/DesktopEntries.h"
 #include "platform/TaskLauncher.h"
 
+#include <QString>
+#include <QStringList>
+
 #include <expected>
+#include <vector>
 
 namespace quillet {
 
-/// Finds installed programs and starts them, each argument as it is: no shell ever reads one.
+/// An installed program, as its desktop entry describes it.
+struct DesktopEntry {
+    /// "org.example.Program.desktop"
+    QString id;
+    QString name;
+    /// As it stands in the entry, field codes included.
+    QString command;
+    /// The file that the command starts: a path, or a name among the program folders.
+    QString executable;
+    /// Not one that the desktop lists in its menus.
+    bool isHidden = false;
+};
+
+/// Finds installed programs as the desktop does, and starts them, each argument as it is: no shell
+/// ever reads one. What was installed and chosen since the last request is seen by the next.
 class Applications {
 public:
     /// No argument of a program can be longer, in bytes.
@@ -15,28 +32,22 @@ public:
 
     /// Programs with an entry of that id are left out: this one must not be asked to do what it
     /// asks others.
-    Applications(DesktopEntries entries, TaskLauncher& launcher, QString ownId)
-        : entries_(std::move(entries))
-        , launcher_(launcher)
+    Applications(TaskLauncher& launcher, QString ownId)
+        : launcher_(launcher)
         , ownId_(std::move(ownId)) {}
 
-    /// See DesktopEntries::handlers().
+    /// The programs that open a type ("text/calendar", "x-scheme-handler/mailto"): what was chosen
+    /// first, then what the desktop prefers, hidden ones last. Only those that can be started.
     [[nodiscard]] std::vector<DesktopEntry> handlers(const QString& mimeType) const;
-    /// See commandLine(). The error is a text for the user.
-    [[nodiscard]] std::expected<void, QString> open(const DesktopEntry& entry,
-                                                    const QStringList& addresses) const;
+    /// Has the program open addresses, "file:///…" for a file. One that takes only one gets the
+    /// last. The error is a text for the user.
+    [[nodiscard]] static std::expected<void, QString> open(const DesktopEntry& entry,
+                                                           const QStringList& addresses);
     /// Starts the entry's program with these arguments instead of those of its command.
     [[nodiscard]] std::expected<void, QString> start(const DesktopEntry& entry,
                                                      const QStringList& arguments) const;
-    /// The name of the file that the entry's command starts; empty when it starts it through
-    /// another program.
-    [[nodiscard]] static QString programName(const DesktopEntry& entry);
 
 private:
-    [[nodiscard]] std::expected<void, QString> run(const DesktopEntry& entry,
-                                                   QStringList command) const;
-
-    DesktopEntries entries_;
     TaskLauncher& launcher_;
     QString ownId_;
 };

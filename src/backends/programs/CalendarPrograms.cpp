@@ -141,7 +141,7 @@ std::expected<void, QString> CalendarPrograms::showInEvolution(const DesktopEntr
         // Asked for both at once it shows them in this order, and the event stays in front.
         addresses.prepend(dayAddress(place.start->date()));
     }
-    return with_.applications.open(entry, addresses);
+    return Applications::open(entry, addresses);
 }
 
 std::expected<void, QString> CalendarPrograms::openFile(const QString& path) const {
@@ -149,7 +149,8 @@ std::expected<void, QString> CalendarPrograms::openFile(const QString& path) con
         return with_.portal->openFile(path);
     }
     const auto entries = with_.applications.handlers(QStringLiteral("text/calendar"));
-    return entries.empty() ? noProgram() : with_.applications.open(entries.front(), {path});
+    const QString address = QString::fromLatin1(QUrl::fromLocalFile(path).toEncoded());
+    return entries.empty() ? noProgram() : Applications::open(entries.front(), {address});
 }
 
 std::expected<void, QString> CalendarPrograms::noProgram() const {

@@ -24,8 +24,7 @@ QString messageFolder(const EnvironmentReader& environment) {
 } // namespace
 
 DesktopScriptRunner::DesktopScriptRunner(Collaborators collaborators)
-    : applications_(DesktopEntries(desktopFolders(collaborators.environment)),
-                    collaborators.launcher, QGuiApplication::desktopFileName() + desktopSuffix)
+    : applications_(collaborators.launcher, QGuiApplication::desktopFileName() + desktopSuffix)
     , mail_({.applications = applications_,
              .pasteboard = collaborators.pasteboard,
              .alerts = collaborators.alerts,

@@ -2,6 +2,7 @@
 
 #include "backends/programs/CalendarPrograms.h"
 #include "backends/programs/MailPrograms.h"
+#include "platform/Environment.h"
 #include "platform/InstalledPrograms.h"
 #include "platform/Pasteboard.h"
 #include "platform/ScriptRunner.h"

@@ -5,6 +5,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 #include <QTemporaryFile>
 
 #include <tuple>
@@ -21,10 +22,10 @@ enum class Program { Thunderbird, KMail, Other };
 
 /// Programs in containers are started through another one, and would not see a file.
 Program programOf(const DesktopEntry& entry) {
-    if (entry.exec.contains(QStringLiteral("/snap/"))) {
+    if (entry.command.contains(QStringLiteral("/snap/"))) {
         return Program::Other;
     }
-    const QString name = Applications::programName(entry);
+    const QString name = QFileInfo(entry.executable).fileName();
     if (name.startsWith(u"thunderbird")) {
         return Program::Thunderbird;
     }
@@ -83,7 +84,7 @@ std::expected<void, QString> MailPrograms::composeIn(const DesktopEntry& entry,
         break;
     }
     return composeWithAddress(request, [&](const QString& body) {
-        return with_.applications.open(entry, {mailtoAddress(request.subject, body)});
+        return Applications::open(entry, {mailtoAddress(request.subject, body)});
     });
 }
 

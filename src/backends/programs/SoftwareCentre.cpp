@@ -11,7 +11,7 @@ std::expected<void, QString> SoftwareCentre::show(const QString& component) cons
         std::unexpected(QStringLiteral("no program opens ") + address);
     for (const DesktopEntry& entry :
          applications_.handlers(QStringLiteral("x-scheme-handler/appstream"))) {
-        result = applications_.open(entry, {address});
+        result = Applications::open(entry, {address});
         if (result) {
             break;
         }

@@ -80,6 +80,9 @@ protected:
     void installGnomeCalendar() {
         desktop.install("org.gnome.Calendar.desktop", "gnome-calendar %U", type);
     }
+    void index(const QString& ids) {
+        desktop.write("system/applications/mimeinfo.cache", "[MIME Cache]\ntext/calendar=" + ids);
+    }
     void choose(const QString& id) {
         desktop.write("config/mimeapps.list", "[Default Applications]\ntext/calendar=" + id);
     }
@@ -90,7 +93,7 @@ protected:
     FakeBus bus;
     FakePortal portal;
     DesktopPortal* sandbox = nullptr;
-    Applications applications = desktop.applications(launcher);
+    Applications applications = test::ScratchDesktop::applications(launcher);
     EventPlace place{.serviceCalendar = "source 1",
                      .file = {},
                      .start = QDateTime(QDate(2024, 3, 6), QTime(10, 0), Qt::UTC)};
@@ -102,12 +105,11 @@ protected:
 TEST_F(CalendarProgramsTest, EvolutionShowsTheDayAndThenTheEventByTheirAddresses) {
     installEvolution();
     ASSERT_TRUE(show());
-    ASSERT_EQ(launcher.launched.size(), 1);
-    EXPECT_EQ(launcher.launched.front().first, desktop.path("bin/evolution"));
-    EXPECT_EQ(launcher.launched.front().second,
-              (QStringList{"calendar:///?startdate=20240306",
-                           "calendar:///?source-uid=source%201&comp-uid="
-                           "a%20%22b%22%2520%26c%0A%27%24%28d%29"}));
+    EXPECT_EQ(desktop.started(1).value(0),
+              (test::Started{desktop.path("bin/evolution"),
+                             {"calendar:///?startdate=20240306",
+                              "calendar:///?source-uid=source%201&comp-uid="
+                              "a%20%22b%22%2520%26c%0A%27%24%28d%29"}}));
     EXPECT_TRUE(bus.calls.isEmpty());
 }
 
@@ -115,14 +117,15 @@ TEST_F(CalendarProgramsTest, AnEvolutionThatDoesNotRunIsStartedBeforeItGetsTheAd
     installEvolution();
     bus.isEvolutionRunning = false;
     ASSERT_TRUE(show("uid"));
-    ASSERT_EQ(launcher.launched.size(), 2);
+    ASSERT_EQ(launcher.launched.size(), 1);
     EXPECT_EQ(launcher.launched[0].second, (QStringList{"-c", "calendar"}));
-    EXPECT_EQ(launcher.launched[1].second,
+    EXPECT_EQ(desktop.started(1).value(0).arguments,
               (QStringList{"calendar:///?startdate=20240306",
                            "calendar:///?source-uid=source%201&comp-uid=uid"}));
     bus.doesEvolutionAnswer = false;
     EXPECT_EQ(show("uid").error(), QStringLiteral("Evolution does not answer"));
-    EXPECT_EQ(launcher.launched.size(), 3);
+    EXPECT_EQ(launcher.launched.size(), 2);
+    EXPECT_EQ(desktop.started(1).size(), 1);
 }
 
 TEST_F(CalendarProgramsTest, EvolutionIsNamedAnExceptionOfASeriesButNoOccurrenceOfTheRule) {
@@ -130,12 +133,12 @@ TEST_F(CalendarProgramsTest, EvolutionIsNamedAnExceptionOfASeriesButNoOccurrence
     place.start.reset();
     place.occurrence = "2024 03&06";
     ASSERT_TRUE(show("uid"));
-    EXPECT_EQ(launcher.launched.last().second,
+    EXPECT_EQ(desktop.started(1).last().arguments,
               QStringList{"calendar:///?source-uid=source%201&comp-uid=uid"})
         << "it would find nothing";
     place.isException = true;
     ASSERT_TRUE(show("uid"));
-    EXPECT_EQ(launcher.launched.last().second,
+    EXPECT_EQ(desktop.started(2).last().arguments,
               QStringList{"calendar:///?source-uid=source%201&comp-uid=uid"
                           "&comp-rid=2024%2003%2606"});
 }
@@ -143,8 +146,7 @@ TEST_F(CalendarProgramsTest, EvolutionIsNamedAnExceptionOfASeriesButNoOccurrence
 TEST_F(CalendarProgramsTest, AnEvolutionThatTakesOneAddressGetsThatOfTheEvent) {
     desktop.install("org.gnome.Evolution.desktop", "evolution %u", type);
     ASSERT_TRUE(show("uid"));
-    ASSERT_EQ(launcher.launched.size(), 1);
-    EXPECT_EQ(launcher.launched.front().second,
+    EXPECT_EQ(desktop.started(1).front().arguments,
               QStringList{"calendar:///?source-uid=source%201&comp-uid=uid"});
 }
 
@@ -154,32 +156,34 @@ TEST_F(CalendarProgramsTest, GnomeCalendarIsToldTheDayAsWell) {
     choose("org.gnome.Calendar.desktop");
     ASSERT_TRUE(show("uid"));
     EXPECT_EQ(bus.calls, QStringList{"gnome source 1 uid 2024-03-06T10:00:00Z"});
-    EXPECT_TRUE(launcher.launched.isEmpty());
+    EXPECT_TRUE(desktop.hasStartedNothing());
 }
 
 TEST_F(CalendarProgramsTest, TheUsersChoiceDecidesAmongProgramsThatCanShowOneEvent) {
     installEvolution();
     installGnomeCalendar();
     desktop.install("import.desktop", "import %u", type);
+    index("import.desktop;org.gnome.Calendar.desktop;org.gnome.Evolution.desktop;");
     choose("org.gnome.Evolution.desktop");
     ASSERT_TRUE(show("uid"));
-    EXPECT_EQ(launcher.launched.size(), 1);
+    EXPECT_EQ(desktop.started(1).front().program, desktop.path("bin/evolution"));
     EXPECT_TRUE(bus.calls.isEmpty());
     // One that could only import the event again is not asked.
     choose("import.desktop");
     ASSERT_TRUE(show("uid"));
     EXPECT_EQ(bus.calls.size(), 1);
-    EXPECT_EQ(launcher.launched.size(), 1);
+    EXPECT_EQ(desktop.started(1).size(), 1);
 }
 
 TEST_F(CalendarProgramsTest, AProgramThatFailsLeavesItToTheNext) {
     installEvolution();
     installGnomeCalendar();
-    choose("org.gnome.Calendar.desktop");
+    index("org.gnome.Calendar.desktop;org.gnome.Evolution.desktop;");
     bus.gnomeAnswer = std::unexpected(QStringLiteral("no service"));
     ASSERT_TRUE(show("uid"));
     EXPECT_EQ(bus.calls.size(), 1);
-    EXPECT_EQ(launcher.launched.size(), 1);
+    EXPECT_EQ(desktop.started(1).front().program, desktop.path("bin/evolution"));
+    bus.isEvolutionRunning = false;
     launcher.answer = std::unexpected(QStringLiteral("no memory"));
     EXPECT_TRUE(show("uid").error().contains("cannot be run"));
     EXPECT_TRUE(alerts.shown.empty());
@@ -194,6 +198,7 @@ TEST_F(CalendarProgramsTest, KdeProgramsAreAskedByTheirNamesAndAfterThoseOfTheSe
     ASSERT_TRUE(show("uid"));
     EXPECT_EQ(bus.calls.last(), QStringLiteral("kde org.kde.merkuro.calendar uid"));
     installGnomeCalendar();
+    index("org.kde.korganizer.desktop;org.gnome.Calendar.desktop;");
     ASSERT_TRUE(show("uid"));
     EXPECT_TRUE(bus.calls.last().startsWith("gnome"));
 }
@@ -211,8 +216,8 @@ TEST_F(CalendarProgramsTest, AnEventOfAFileIsOpenedAsThatFile) {
     installGnomeCalendar();
     place = {.serviceCalendar = {}, .file = "/calendars/my work/it's 100%.ics", .start = {}};
     ASSERT_TRUE(show());
-    EXPECT_EQ(launcher.launched.front().first, desktop.path("bin/gnome-calendar"));
-    EXPECT_EQ(launcher.launched.front().second, QStringList{"/calendars/my work/it's 100%.ics"});
+    EXPECT_EQ(desktop.started(1).front(), (test::Started{desktop.path("bin/gnome-calendar"),
+                                                         {"/calendars/my work/it's 100%.ics"}}));
     EXPECT_TRUE(bus.calls.isEmpty());
 }
 
@@ -221,10 +226,10 @@ TEST_F(CalendarProgramsTest, ThisProgramIsNeverAskedToOpenItsOwnFile) {
     choose("org.example.This.desktop");
     place = {.serviceCalendar = {}, .file = "/a.ics", .start = {}};
     EXPECT_FALSE(show());
-    EXPECT_TRUE(launcher.launched.isEmpty());
+    EXPECT_TRUE(desktop.hasStartedNothing());
     installEvolution();
     ASSERT_TRUE(show());
-    EXPECT_EQ(launcher.launched.front().first, desktop.path("bin/evolution"));
+    EXPECT_EQ(desktop.started(1).front().program, desktop.path("bin/evolution"));
 }
 
 TEST_F(CalendarProgramsTest, WithoutAnyCalendarProgramTheUserIsToldOnce) {
@@ -240,14 +245,14 @@ TEST_F(CalendarProgramsTest, ProgramsThatCouldOnlyImportTheEventAgainAreNone) {
     desktop.install("import.desktop", "import %u", type);
     EXPECT_EQ(show("uid").error(), QStringLiteral("no calendar program"));
     EXPECT_EQ(alerts.shown.size(), 1U);
-    EXPECT_TRUE(launcher.launched.isEmpty());
+    EXPECT_TRUE(desktop.hasStartedNothing());
 }
 
 TEST_F(CalendarProgramsTest, AnEventThatIsInNoPlaceIsNoMatterForTheUser) {
     installEvolution();
     place = {};
     EXPECT_FALSE(show());
-    EXPECT_TRUE(launcher.launched.isEmpty());
+    EXPECT_TRUE(desktop.hasStartedNothing());
     EXPECT_TRUE(alerts.shown.empty());
 }
 
@@ -259,7 +264,7 @@ TEST_F(CalendarProgramsTest, InASandboxThePortalOpensAddressesAndFiles) {
     ASSERT_TRUE(show("uid"));
     EXPECT_EQ(portal.opened,
               (QStringList{"calendar:///?source-uid=source%201&comp-uid=uid", "/a b.ics"}));
-    EXPECT_TRUE(launcher.launched.isEmpty());
+    EXPECT_TRUE(desktop.hasStartedNothing());
 }
 
 TEST_F(CalendarProgramsTest, WhileAProgramStartsOnlyTheLastOfTheOtherWishesIsKept) {
@@ -270,14 +275,15 @@ TEST_F(CalendarProgramsTest, WhileAProgramStartsOnlyTheLastOfTheOtherWishesIsKep
         EXPECT_TRUE(show("impatient"));
         EXPECT_TRUE(show("another"));
         EXPECT_TRUE(show("last"));
-        EXPECT_EQ(launcher.launched.size(), 1) << "nothing opens before Evolution runs";
+        EXPECT_TRUE(desktop.hasStartedNothing()) << "nothing opens before Evolution runs";
     };
     ASSERT_TRUE(show("first"));
     QStringList opened;
-    for (const auto& launched : launcher.launched) {
-        opened.append(launched.second.last().section("comp-uid=", 1));
+    for (const test::Started& started : desktop.started(2)) {
+        opened.append(started.arguments.last().section("comp-uid=", 1));
     }
-    EXPECT_EQ(opened, (QStringList{"", "first", "last"}));
+    opened.sort();
+    EXPECT_EQ(opened, (QStringList{"first", "last"}));
 }
 
 TEST_F(CalendarProgramsTest, TheSameEventAskedForTwiceWhileAProgramStartsIsOpenedOnce) {
@@ -289,9 +295,9 @@ TEST_F(CalendarProgramsTest, TheSameEventAskedForTwiceWhileAProgramStartsIsOpene
         EXPECT_TRUE(show("uid"));
     };
     ASSERT_TRUE(show("uid"));
-    EXPECT_EQ(launcher.launched.size(), 2);
+    EXPECT_EQ(desktop.started(1).size(), 1);
     ASSERT_TRUE(show("uid"));
-    EXPECT_EQ(launcher.launched.size(), 3) << "and again once it has been shown";
+    EXPECT_EQ(desktop.started(2).size(), 2) << "and again once it has been shown";
 }
 
 } // namespace quillet

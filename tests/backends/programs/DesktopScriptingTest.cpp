@@ -53,22 +53,6 @@ protected:
         desktop.install("reader.desktop", "reader %u", "x-scheme-handler/mailto");
         desktop.install("viewer.desktop", "viewer %f", "text/calendar");
     }
-    QString variable(const char* name) const {
-        const QHash<QByteArray, QString> variables{{"XDG_CONFIG_HOME", desktop.path("config")},
-                                                   {"XDG_DATA_HOME", desktop.path("data")},
-                                                   {"XDG_DATA_DIRS", desktop.path("system")},
-                                                   {"XDG_RUNTIME_DIR", desktop.path("run")},
-                                                   {"PATH", desktop.path("bin")}};
-        return variables.value(name);
-    }
-    QStringList launchedPrograms() const {
-        QStringList names;
-        for (const auto& launched : launcher.launched) {
-            names << QFileInfo(launched.first).fileName();
-        }
-        return names;
-    }
-
     test::ScratchDesktop desktop;
     test::FakeTaskLauncher launcher;
     test::FakePasteboard pasteboard;
@@ -84,26 +68,29 @@ protected:
                  looked << request;
                  return place;
              },
-         .environment = [this](const char* name) { return variable(name); }}};
+         .environment = [this](const char* /*name*/) { return desktop.path("run"); }}};
 };
 
 } // namespace
 
 TEST_F(DesktopScriptRunnerTest, AMessageGoesToTheMailProgramAndAnEventToThatOfItsFile) {
     ASSERT_TRUE(runner.run(mailScript({.subject = "Subject", .content = "Text", .style = {}})));
-    EXPECT_EQ(launcher.launched.last().second, QStringList{"mailto:?subject=Subject&body=Text"});
+    EXPECT_EQ(desktop.started(1).last(),
+              (test::Started{desktop.path("bin/reader"), {"mailto:?subject=Subject&body=Text"}}));
     const EventRequest event{"folder:Work", "one%20'two'\\\n\\\\ end tell \\"};
     ASSERT_TRUE(runner.run(showEventScript(event)));
     EXPECT_EQ(looked, QList<EventRequest>{event});
-    EXPECT_EQ(launcher.launched.last().second, QStringList{"/calendars/a.ics"});
-    EXPECT_EQ(launchedPrograms(), (QStringList{"reader", "viewer"}));
+    EXPECT_EQ(desktop.started(2).last(),
+              (test::Started{desktop.path("bin/viewer"), {"/calendars/a.ics"}}));
 }
 
 TEST_F(DesktopScriptRunnerTest, TextsThatWouldBreakAScriptArriveInTheMessage) {
+    qsizetype count = 0;
     for (const char* content :
          {"ends in \\", "a \\\" b", "\"", "\")\nend tell\nend tell", "\\\\"}) {
         ASSERT_TRUE(runner.run(mailScript({.subject = content, .content = content, .style = {}})));
-        EXPECT_EQ(launcher.launched.last().second, QStringList{mailtoAddress(content, content)});
+        EXPECT_EQ(desktop.started(++count).last().arguments,
+                  QStringList{mailtoAddress(content, content)});
     }
     EXPECT_TRUE(alerts.shown.empty());
 }
@@ -111,16 +98,17 @@ TEST_F(DesktopScriptRunnerTest, TextsThatWouldBreakAScriptArriveInTheMessage) {
 TEST_F(DesktopScriptRunnerTest, AQuoteInAnIdentifierBreaksTheScriptAndShowsNothing) {
     EXPECT_FALSE(runner.run(showEventScript({"folder:Work", "a\"b"})));
     EXPECT_FALSE(runner.run(showEventScript({"folder:\"", "a"})));
-    EXPECT_TRUE(launcher.launched.isEmpty());
+    EXPECT_TRUE(desktop.hasStartedNothing());
     EXPECT_TRUE(looked.isEmpty());
     EXPECT_TRUE(alerts.shown.empty());
 }
 
 TEST_F(DesktopScriptRunnerTest, AMessageThatCannotBeMadeIsToldOnceWithItsReason) {
-    launcher.answer = std::unexpected(QStringLiteral("no memory"));
+    desktop.install("reader.desktop", "thunderbird %u", "x-scheme-handler/mailto");
+    desktop.write("run/quillet", "a file where the folder should be");
     EXPECT_FALSE(runner.run(mailScript({.subject = "S", .content = "Text", .style = {}})));
     ASSERT_EQ(alerts.shown.size(), 1U);
-    EXPECT_TRUE(alerts.shown.front().informativeText.contains("cannot be run"));
+    EXPECT_TRUE(alerts.shown.front().informativeText.contains(desktop.path("run")));
 }
 
 TEST_F(DesktopScriptRunnerTest, AnEventInNoPlaceGivesTheReason) {
@@ -128,7 +116,7 @@ TEST_F(DesktopScriptRunnerTest, AnEventInNoPlaceGivesTheReason) {
     const auto result = runner.run(showEventScript({"folder:Work", "gone"}));
     ASSERT_FALSE(result);
     EXPECT_EQ(result.error(), QStringLiteral("the event is in no place that others can open"));
-    EXPECT_TRUE(launcher.launched.isEmpty());
+    EXPECT_TRUE(desktop.hasStartedNothing());
 }
 
 } // namespace quillet

@@ -1,3 +1,4 @@
+#include "ScratchDesktop.h"
 #include "support/ExpectedLog.h"
 
 #include <QGuiApplication>
@@ -9,6 +10,7 @@ int main(int argc, char** argv) {
     // No program of the developer's own session is to answer.
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
     qputenv("LC_ALL", "C.UTF-8");
+    quillet::test::ScratchDesktop::setEnvironment();
     testing::InitGoogleTest(&argc, argv);
     const QGuiApplication application(argc, argv);
     quillet::test::failOnUnexpectedLog();

@@ -5,55 +5,49 @@
 
 #include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 namespace quillet::test {
 
-/// The folders of a desktop that holds just the programs that the test installs.
+/// A program that was started, and its arguments.
+struct Started {
+    QString program;
+    QStringList arguments;
+
+    friend bool operator==(const Started&, const Started&) = default;
+};
+
+/// The desktop of this process, which holds just the programs that the test installs. There is one
+/// at a time.
 class ScratchDesktop {
 public:
-    ScratchDesktop() {
-        for (const char* folder : {"bin", "config", "data/applications", "system/applications"}) {
-            QDir(root_.path()).mkpath(folder);
-        }
-    }
+    /// Has to come before anything asks for the desktop's folders: they are read once in a process.
+    static void setEnvironment();
 
-    [[nodiscard]] QString path(const QString& name) const { return root_.filePath(name); }
-    void write(const QString& name, const QString& text) const {
-        QDir().mkpath(QFileInfo(path(name)).path());
-        QFile file(path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text.toUtf8());
-    }
-    void addExecutable(const QString& name) const {
-        write("bin/" + name, "#!/bin/false\n");
-        QFile::setPermissions(path("bin/" + name), QFile::ReadOwner | QFile::ExeOwner);
-    }
+    ScratchDesktop();
+
+    [[nodiscard]] QString path(const QString& name) const;
+    /// Comes back when the desktop has noticed, where it has to.
+    void write(const QString& name, const QString& text) const;
+    /// A program that writes down how it was started.
+    void addExecutable(const QString& name) const;
     /// An entry of the system, and the program that its command names first.
     void install(const QString& id, const QString& exec, const QString& mimeTypes,
-                 const QString& more = {}) const {
-        addExecutable(exec.section(u' ', 0, 0));
-        write("system/applications/" + id, entryText(exec, mimeTypes, more));
-    }
+                 const QString& more = {}) const;
     static QString entryText(const QString& exec, const QString& mimeTypes,
-                             const QString& more = {}) {
-        return "[Desktop Entry]\nType=Application\nName=The Program\nExec=" + exec +
-               "\nMimeType=" + mimeTypes + ";\n" + more + "\n";
-    }
-    [[nodiscard]] DesktopFolders folders() const {
-        return {.configuration = {path("config")},
-                .data = {path("data"), path("system")},
-                .desktopNames = {"gnome"},
-                .executables = {path("bin")}};
-    }
-    [[nodiscard]] Applications applications(TaskLauncher& launcher) const {
-        return {DesktopEntries(folders()), launcher, "org.example.This.desktop"};
-    }
+                             const QString& more = {});
+    /// Waits until so many of the programs have been started: all since the test began, in order.
+    [[nodiscard]] QList<Started> started(qsizetype count) const;
+    /// Whether none has been started, nor is within a moment.
+    [[nodiscard]] bool hasStartedNothing() const;
+    [[nodiscard]] static Applications applications(TaskLauncher& launcher);
 
 private:
-    QTemporaryDir root_;
+    /// Does something to what the desktop watches, and waits until it has noticed.
+    static void change(const std::function<void()>& what);
 };
 
 } // namespace quillet::test

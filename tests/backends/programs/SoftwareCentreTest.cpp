@@ -26,13 +26,12 @@ public:
 class SoftwareCentreTest : public testing::Test {
 protected:
     [[nodiscard]] bool show(DesktopPortal* portal = nullptr) {
-        const Applications applications = desktop.applications(launcher);
+        const Applications applications = test::ScratchDesktop::applications(launcher);
         return SoftwareCentre(applications, portal).show("org.quillet.Quillet").has_value();
     }
 
-    using Launches = QList<QPair<QString, QStringList>>;
-    [[nodiscard]] Launches started(const QStringList& arguments) const {
-        return {{desktop.path("bin/centre"), arguments}};
+    [[nodiscard]] test::Started centreWith(const QStringList& arguments) const {
+        return {desktop.path("bin/centre"), arguments};
     }
 
     test::ScratchDesktop desktop;
@@ -44,33 +43,32 @@ protected:
 TEST_F(SoftwareCentreTest, ShowsTheProgramsPage) {
     desktop.install("org.example.Centre.desktop", "centre --open %U", type);
     EXPECT_TRUE(show());
-    EXPECT_EQ(launcher.launched, started({"--open", "appstream:org.quillet.Quillet"}));
+    EXPECT_EQ(desktop.started(1).front(), centreWith({"--open", "appstream:org.quillet.Quillet"}));
 }
 
 TEST_F(SoftwareCentreTest, SaysWhenThereIsNone) {
     desktop.install("org.example.Mail.desktop", "mail %u", "x-scheme-handler/mailto");
     EXPECT_FALSE(show());
-    EXPECT_TRUE(launcher.launched.isEmpty());
+    EXPECT_TRUE(desktop.hasStartedNothing());
 }
 
 TEST_F(SoftwareCentreTest, TriesTheNextOneWhenOneCannotBeStarted) {
     desktop.install("org.example.A.desktop", "\"unfinished", type);
     desktop.install("org.example.B.desktop", "centre %u", type);
     EXPECT_TRUE(show());
-    EXPECT_EQ(launcher.launched, started({"appstream:org.quillet.Quillet"}));
+    EXPECT_EQ(desktop.started(1).front(), centreWith({"appstream:org.quillet.Quillet"}));
 }
 
 TEST_F(SoftwareCentreTest, OneThatIsThereAndDoesNotStartIsNotTheLast) {
-    // There is no terminal to run it in.
-    desktop.install("org.example.A.desktop", "terminalcentre %u", type, "Terminal=true");
+    desktop.install("org.example.A.desktop", "centre %u", type, "Path=/nonexistent");
     EXPECT_FALSE(show());
     desktop.install("org.example.B.desktop", "centre %u", type);
     EXPECT_TRUE(show());
-    EXPECT_EQ(launcher.launched, started({"appstream:org.quillet.Quillet"}));
+    EXPECT_EQ(desktop.started(1).front(), centreWith({"appstream:org.quillet.Quillet"}));
     // And one that does is the last.
     desktop.install("org.example.C.desktop", "another %u", type);
     EXPECT_TRUE(show());
-    EXPECT_EQ(launcher.launched.size(), 2);
+    EXPECT_EQ(desktop.started(2).last(), centreWith({"appstream:org.quillet.Quillet"}));
 }
 
 TEST_F(SoftwareCentreTest, InASandboxThePortalIsAsked) {
@@ -80,7 +78,7 @@ TEST_F(SoftwareCentreTest, InASandboxThePortalIsAsked) {
     EXPECT_EQ(portal.opened, QStringList{"appstream:org.quillet.Quillet"});
     portal.answer = std::unexpected(QStringLiteral("no portal"));
     EXPECT_FALSE(show(&portal));
-    EXPECT_TRUE(launcher.launched.isEmpty());
+    EXPECT_TRUE(desktop.hasStartedNothing());
 }
 
 } // namespace quillet
