@@ -4,7 +4,8 @@
 
 namespace quillet {
 
-/// What is known of programs that are installed beside this one.
+/// What is known of programs that are installed beside this one. Here none answers to a path; asked
+/// for is the one browser that the mail export is defined to fear.
 class InstalledPrograms {
 public:
     virtual ~InstalledPrograms() = default;

@@ -24,7 +24,8 @@ public:
 
     /// Begins to follow the selection.
     void awakeFromNib();
-    /// Whether fewer than two events are selected.
+    /// Whether fewer than two events are selected. This and its signal belong to what the class is;
+    /// the window needs neither, since it asks for exactly one.
     [[nodiscard]] bool isOpenInCalendarEnabled() const;
     /// The table's double action: runs the script for the one selected event, with the busy flag
     /// set while it runs; a script without a result is only logged. With none or several selected

@@ -31,8 +31,9 @@ std::unexpected<QString> noEventThere() {
     return std::unexpected(QStringLiteral("the event is in no place that others can open"));
 }
 
-} // namespace
-
+/// The address under which Evolution opens an event of the calendar service in a window of its own:
+/// an exception for itself, and for any other occurrence its whole series, since it refuses to open
+/// what only a rule brings forth.
 QString eventAddress(const EventPlace& place, const QString& uid) {
     const auto encoded = [](const QString& text) {
         return QString::fromLatin1(QUrl::toPercentEncoding(text));
@@ -44,9 +45,12 @@ QString eventAddress(const EventPlace& place, const QString& uid) {
                              : address;
 }
 
+/// The address at which Evolution shows a day.
 QString dayAddress(QDate day) {
     return QStringLiteral("calendar:///?startdate=") + day.toString(u"yyyyMMdd");
 }
+
+} // namespace
 
 std::expected<void, QString> CalendarPrograms::show(const EventRequest& request) {
     Wanted wanted{with_.findEvent(request), request.eventIdentifier};

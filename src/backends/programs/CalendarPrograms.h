@@ -62,11 +62,4 @@ private:
     std::optional<Wanted> next_;
 };
 
-/// The address under which Evolution opens an event of the calendar service in a window of its own:
-/// an exception for itself, and for any other occurrence its whole series, since it refuses to open
-/// what only a rule brings forth.
-[[nodiscard]] QString eventAddress(const EventPlace& place, const QString& uid);
-/// The address at which Evolution shows a day.
-[[nodiscard]] QString dayAddress(QDate day);
-
 } // namespace quillet
