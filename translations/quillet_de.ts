@@ -564,6 +564,10 @@
         <translation>wird noch gelesen</translation>
     </message>
     <message>
+        <source>it is larger than %1 MB</source>
+        <translation>sie ist größer als %1 MB</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>es ist keine Datei</translation>
     </message>

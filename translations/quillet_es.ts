@@ -564,6 +564,10 @@
         <translation>todavía se está leyendo</translation>
     </message>
     <message>
+        <source>it is larger than %1 MB</source>
+        <translation>ocupa más de %1 MB</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>no es un archivo</translation>
     </message>

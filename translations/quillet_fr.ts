@@ -564,6 +564,10 @@
         <translation>est encore en cours de lecture</translation>
     </message>
     <message>
+        <source>it is larger than %1 MB</source>
+        <translation>il dépasse %1 Mo</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>ce n’est pas un fichier</translation>
     </message>

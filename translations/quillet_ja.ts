@@ -564,6 +564,10 @@
         <translation>まだ読み込み中です</translation>
     </message>
     <message>
+        <source>it is larger than %1 MB</source>
+        <translation>%1 MB を超えています</translation>
+    </message>
+    <message>
         <source>it is not a file</source>
         <translation>ファイルではありません</translation>
     </message>

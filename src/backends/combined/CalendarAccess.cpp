@@ -1,5 +1,6 @@
 #include "backends/combined/CalendarAccess.h"
 
+#include "platform/FileReading.h"
 #include "platform/FileWriting.h"
 
 #include <QDir>
@@ -15,12 +16,10 @@ namespace {
 const QByteArray grantedWord = QByteArrayLiteral("granted");
 const QByteArray deniedWord = QByteArrayLiteral("denied");
 
+constexpr qint64 longestAnswer = 64;
+
 AuthorizationStatus keptStatus(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return AuthorizationStatus::NotDetermined;
-    }
-    const QByteArray word = file.read(64).trimmed();
+    const QByteArray word = contentsOfFile(path, longestAnswer).value_or(QByteArray()).trimmed();
     if (word == grantedWord) {
         return AuthorizationStatus::Authorized;
     }

@@ -1,10 +1,10 @@
 #include "backends/combined/CalendarMemory.h"
 
+#include "platform/FileReading.h"
 #include "platform/FileWriting.h"
 #include "platform/Logging.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -23,12 +23,12 @@ const QString colorKey = QStringLiteral("color");
 constexpr qint64 largestFile = 1'000'000;
 
 CalendarList readFrom(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly) || file.size() > largestFile) {
+    const auto text = contentsOfFile(path, largestFile);
+    if (!text) {
         return {};
     }
     CalendarList calendars;
-    for (const auto& value : QJsonDocument::fromJson(file.readAll()).array()) {
+    for (const auto& value : QJsonDocument::fromJson(*text).array()) {
         const QJsonObject kept = value.toObject();
         StoreCalendar calendar{kept[identifierKey].toString(), kept[titleKey].toString(),
                                kept[colorKey].toString()};

@@ -6,11 +6,11 @@
 #include "texts/Localized.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QSettings>
 
+#include <algorithm>
 #include <chrono>
 #include <tuple>
 
@@ -24,6 +24,29 @@ constexpr auto retryDelay = 5s;
 /// A writer that does not replace the file at once has time to end.
 constexpr auto readDelay = 50ms;
 constexpr auto otherWriterPatience = 500ms;
+
+/// Nobody's settings are that long; what is longer is no such file.
+constexpr qint64 largestFile = qint64(32) * 1024 * 1024;
+
+/// The settings in the file; none in an empty one.
+std::expected<QVariantMap, FileRefusal> readValues(const QString& path) {
+    const auto text = contentsOfFile(path, largestFile);
+    if (!text) {
+        return std::unexpected(text.error());
+    }
+    if (text->trimmed().isEmpty()) {
+        return QVariantMap();
+    }
+    auto values = settingsFromText(*text);
+    if (!values) {
+        return std::unexpected(FileRefusal{FileRefusal::Kind::Spoilt, values.error()});
+    }
+    return *std::move(values);
+}
+
+QSet<QString> keysOf(const QVariantMap& values) {
+    return {values.keyBegin(), values.keyEnd()};
+}
 
 bool readSettings(QIODevice& device, QSettings::SettingsMap& map) {
     const QByteArray text = device.readAll();
@@ -40,6 +63,9 @@ bool readSettings(QIODevice& device, QSettings::SettingsMap& map) {
 
 bool writeSettings(QIODevice& device, const QSettings::SettingsMap& map) {
     const QByteArray text = settingsText(map);
+    if (text.size() > largestFile) {
+        return false;
+    }
     // A short write of what was buffered is told by flush() alone: closing would pass it over.
     auto* file = qobject_cast<QFileDevice*>(&device);
     return device.write(text) == text.size() && (file == nullptr || file->flush());
@@ -71,7 +97,7 @@ SettingsFile::SettingsFile(const QString& path)
     readTimer_.setSingleShot(true);
     QObject::connect(&readTimer_, &QTimer::timeout, [this] {
         watch();
-        takeInArrays();
+        followFile();
     });
     const auto readSoon = [this] { readTimer_.start(readDelay); };
     QObject::connect(&watcher_, &QFileSystemWatcher::directoryChanged, readSoon);
@@ -123,7 +149,7 @@ Observation SettingsFile::observeWriteProblem(std::function<void(QString)> callb
 
 void SettingsFile::flush() {
     writeTimer_.stop();
-    if (changedKeys_.isEmpty()) {
+    if (changedKeys_.isEmpty() && !isFileShort()) {
         return;
     }
     QDir().mkpath(QFileInfo(path_).absolutePath());
@@ -131,8 +157,22 @@ void SettingsFile::flush() {
     // are hardly two writers, and the writing itself says what is wrong.
     QLockFile onlyWriter(path_ + QStringLiteral(".writer"));
     std::ignore = onlyWriter.tryLock(otherWriterPatience);
-    keepBrokenFile();
-    takeInArrays();
+    if (const auto onDisk = valuesOnDisk()) {
+        takeInArrays(*onDisk);
+        writeChanges(*onDisk);
+    } else {
+        // Reported below: what cannot be read cannot be merged with either.
+        keepForLater();
+    }
+}
+
+void SettingsFile::writeChanges(const QVariantMap& onDisk) {
+    // What the file does not hold, though it is set, has been taken out of it from outside.
+    for (const QString& key : keys()) {
+        if (!onDisk.contains(key)) {
+            changedKeys_.insert(key);
+        }
+    }
     // A new one for each write: an error once met stays with the object for good.
     QSettings file(path_, jsonFormat());
     for (const QString& key : std::as_const(changedKeys_)) {
@@ -143,69 +183,62 @@ void SettingsFile::flush() {
         }
     }
     file.sync();
-    if (file.status() == QSettings::NoError) {
-        changedKeys_.clear();
-        seenArrays_ = arraysOf(values_);
-        watch();
-        reportWriteProblem({});
+    if (file.status() != QSettings::NoError) {
+        keepForLater();
         return;
     }
+    changedKeys_.clear();
+    seenArrays_ = arraysOf(values_);
+    seenKeys_ = keysOf(readValues(path_).value_or(QVariantMap()));
+    watch();
+    reportWriteProblem({});
+}
+
+void SettingsFile::keepForLater() {
     reportWriteProblem(
         localized("Settings cannot be saved to %1. They are kept until they can.").arg(path_));
     writeTimer_.start(retryDelay);
 }
 
-void SettingsFile::keepBrokenFile() {
-    // Another program may have spoilt the file since it was read. Then all settings go into a new
-    // one: the old one has none to merge with.
-    QFile file(path_);
-    if (!QFileInfo(path_).isFile() || !file.open(QIODevice::ReadOnly)) {
-        return;
+std::expected<QVariantMap, FileRefusal> SettingsFile::valuesOnDisk() const {
+    auto values = readValues(path_);
+    if (values || values.error().kind == FileRefusal::Kind::Missing) {
+        return values.value_or(QVariantMap());
     }
-    const QByteArray text = file.readAll();
-    file.close();
-    if (text.trimmed().isEmpty() || settingsFromText(text)) {
-        return;
+    // What the system does not let be read may be whole; all else has been spoilt by another
+    // program since it was read, and is kept too.
+    if (values.error().kind == FileRefusal::Kind::Unreadable) {
+        return values;
     }
-    if (const auto kept = movedAside()) {
-        qCWarning(quilletLog).noquote()
-            << QStringLiteral("settings file spoilt by another program kept as %1").arg(*kept);
-        for (const QString& key : keys()) {
-            changedKeys_.insert(key);
-        }
+    const auto kept = movedAside(path_);
+    if (!kept) {
+        return values;
     }
+    qCWarning(quilletLog).noquote()
+        << QStringLiteral("settings file spoilt by another program kept as %1").arg(*kept);
+    return QVariantMap();
 }
 
-std::optional<QString> SettingsFile::movedAside() const {
-    int number = 1;
-    const auto name = [&] { return QStringLiteral("%1.broken-%2").arg(path_).arg(number); };
-    while (QFileInfo::exists(name())) {
-        ++number;
+bool SettingsFile::isFileShort() const {
+    const auto onDisk = readValues(path_);
+    if (!onDisk && onDisk.error().kind != FileRefusal::Kind::Missing) {
+        return false;
     }
-    return QFile::rename(path_, name()) ? std::optional(name()) : std::nullopt;
+    const QStringList present = keys();
+    return std::ranges::any_of(present, [&](const QString& key) {
+        return seenKeys_.contains(key) && !(onDisk && onDisk->contains(key));
+    });
 }
 
 void SettingsFile::readFile() {
-    const QFileInfo info(path_);
-    if (!info.exists() && !info.isSymLink()) {
-        return;
+    auto values = readValues(path_);
+    if (values) {
+        values_ = *std::move(values);
+        seenArrays_ = arraysOf(values_);
+        seenKeys_ = keysOf(values_);
+    } else if (values.error().kind != FileRefusal::Kind::Missing || QFileInfo(path_).isSymLink()) {
+        moveBrokenFileAside(values.error().reason);
     }
-    QFile file(path_);
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly)) {
-        moveBrokenFileAside(info.isFile() ? file.errorString() : localized("it is not a file"));
-        return;
-    }
-    const QByteArray text = file.readAll();
-    if (text.trimmed().isEmpty()) {
-        return;
-    }
-    auto values = settingsFromText(text);
-    if (!values) {
-        moveBrokenFileAside(values.error());
-        return;
-    }
-    values_ = *std::move(values);
-    seenArrays_ = arraysOf(values_);
 }
 
 void SettingsFile::watch() {
@@ -216,17 +249,19 @@ void SettingsFile::watch() {
     }
 }
 
-void SettingsFile::takeInArrays() {
-    QFile file(path_);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return;
+void SettingsFile::followFile() {
+    if (const auto onDisk = readValues(path_)) {
+        takeInArrays(*onDisk);
     }
-    const auto values = settingsFromText(file.readAll());
-    if (!values) {
-        return;
+    // The file, or some of it, may be gone.
+    if (!writeTimer_.isActive() && isFileShort()) {
+        writeTimer_.start(writeDelay);
     }
+}
+
+void SettingsFile::takeInArrays(const QVariantMap& onDisk) {
     QStringList takenIn;
-    const QVariantMap theirs = arraysOf(*values);
+    const QVariantMap theirs = arraysOf(onDisk);
     for (const QString& key : theirs.keys()) {
         const QVariant ours = object(key);
         const QVariant merged = changedKeys_.contains(key)
@@ -251,7 +286,7 @@ void SettingsFile::notify(const QString& key) {
 }
 
 void SettingsFile::moveBrokenFileAside(const QString& reason) {
-    const auto kept = movedAside();
+    const auto kept = movedAside(path_);
     startMessage_ =
         kept ? localized("The settings file could not be read (%1). It was kept as %2, and "
                          "Quillet starts with its first-run settings.")

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/FileReading.h"
 #include "platform/ObserverList.h"
 #include "platform/SettingsStore.h"
 
@@ -15,6 +16,7 @@ namespace quillet {
 
 /// The settings store in one JSON file. Values live in memory; changed keys reach the disk shortly
 /// after, merged into what another running copy may have written, by an atomic replacement.
+/// Settings that vanish from the disk, with the file or out of it, are written again.
 ///
 /// Arrays are the user's own lists, which running copies share: what is written to them from
 /// outside is taken in at once, and observers are told. All other values are the state of one
@@ -37,6 +39,8 @@ public:
 
     /// Writes changed keys now. On failure they stay to be written, and a retry is on its way.
     void flush();
+    /// Whether all that is set has reached the disk.
+    [[nodiscard]] bool isWritten() const { return changedKeys_.isEmpty(); }
     /// What the user should know about the file that was found, if anything.
     [[nodiscard]] const std::optional<QString>& startMessage() const { return startMessage_; }
     /// Calls back when writing begins to fail, with a sentence for the user, and when it works
@@ -47,14 +51,19 @@ private:
     void readFile();
     /// Puts the file and its folder, as far as they are there, under observation.
     void watch();
-    /// Takes in the arrays that were written from outside since the file was last seen.
-    void takeInArrays();
+    /// Takes in what became of the file since it was last seen.
+    void followFile();
+    void takeInArrays(const QVariantMap& onDisk);
+    /// What the file holds now; nothing when there is none, or one that another program has spoilt
+    /// during the run, which is moved aside first.
+    [[nodiscard]] std::expected<QVariantMap, FileRefusal> valuesOnDisk() const;
+    /// Whether settings that were in the file are there no more.
+    [[nodiscard]] bool isFileShort() const;
+    void writeChanges(const QVariantMap& onDisk);
+    /// The writing has failed: says so, and tries again in a while.
+    void keepForLater();
     void notify(const QString& key);
     void moveBrokenFileAside(const QString& reason);
-    /// A file that another program has spoilt during the run is kept too before it is replaced.
-    void keepBrokenFile();
-    /// The name under which the file was kept; nothing when it could not be moved.
-    [[nodiscard]] std::optional<QString> movedAside() const;
     void reportWriteProblem(const QString& problem);
 
     QString path_;
@@ -62,6 +71,8 @@ private:
     QVariantMap values_;
     /// The arrays as they were when the file was last read or written.
     QVariantMap seenArrays_;
+    /// The keys that the file held when it was last read or written.
+    QSet<QString> seenKeys_;
     QSet<QString> changedKeys_;
     std::map<QString, ObserverList<>> observers_;
     ObserverList<QString> problemObservers_;
