@@ -1,167 +1,98 @@
 #include "platform/CaseFoldedText.h"
 
-#include <QHash>
+#include "platform/CaseFolding.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <functional>
-#include <numeric>
-#include <ranges>
-#include <string_view>
 
 namespace quillet {
 
 namespace {
 
-/// The characters that fold to each character that is not alone in that.
-using Variants = QHash<char32_t, std::vector<char32_t>>;
+constexpr qsizetype mostSpellings = 16;
 
-const Variants& variants() {
-    static const Variants found = [] {
-        Variants result;
-        for (char32_t code = 0; code <= QChar::LastValidCodePoint; ++code) {
-            if (const char32_t folded = QChar::toCaseFolded(code); folded != code) {
-                std::vector<char32_t>& codes = result[folded];
-                if (codes.empty()) {
-                    codes.push_back(folded);
-                }
-                codes.push_back(code);
-            }
+/// The ways to write a folded text with "ß" for "ss", where a "ß" at either end may stand for one
+/// "s" that is wanted and one that is not; the way without any comes last. Stops when there are
+/// more than `mostSpellings`.
+class SharpSSpellings {
+public:
+    explicit SharpSSpellings(const QString& folded)
+        : folded_(folded) {
+        if (folded.startsWith(u's')) {
+            extend(QStringLiteral("ß"), 1);
         }
-        return result;
-    }();
-    return found;
-}
+        extend({}, 0);
+    }
+    [[nodiscard]] const QStringList& all() const { return all_; }
 
-std::vector<char32_t> variantsOf(char32_t code) {
-    const char32_t folded = QChar::toCaseFolded(code);
-    const auto found = variants().constFind(folded);
-    return found == variants().cend() ? std::vector{folded} : *found;
-}
+private:
+    void extend(const QString& written, qsizetype position) {
+        const qsizetype next = folded_.indexOf(u's', position);
+        if (all_.size() > mostSpellings) {
+            return;
+        }
+        if (next < 0) {
+            all_ << written + folded_.mid(position);
+            return;
+        }
+        const QString before = written + folded_.mid(position, next - position);
+        const bool isLast = next + 1 == folded_.size();
+        if (isLast || folded_.at(next + 1) == u's') {
+            extend(before + u'ß', next + (isLast ? 1 : 2));
+        }
+        extend(before + u's', next + 1);
+    }
 
-/// Half a pair stands for itself.
-char32_t codeAt(const QString& text, qsizetype position) {
-    const QChar unit = text.at(position);
-    const QChar next = position + 1 < text.size() ? text.at(position + 1) : QChar();
-    return unit.isHighSurrogate() && next.isLowSurrogate() ? QChar::surrogateToUcs4(unit, next)
-                                                           : unit.unicode();
-}
+    const QString& folded_;
+    QStringList all_;
+};
 
-/// How often a character stands in texts: the higher, the more often. Only the order counts, and
-/// that of languages in Latin letters will do: a wrong guess costs time, nothing else.
-std::ptrdiff_t commonnessOf(char16_t unit) {
-    constexpr std::u16string_view fromRareToCommon = u"qxjzkvbywgpfmucldhrsinoaet ";
-    return static_cast<std::ptrdiff_t>(fromRareToCommon.find(unit) + 1);
+/// The longest piece of characters that neither marks nor a "ß" can be part of.
+QString sturdyPiece(const QString& folded) {
+    QString longest;
+    QString piece;
+    for (const QChar unit : folded) {
+        piece = unit < QChar(0x80) && unit != u's' ? piece + unit : QString();
+        if (piece.size() > longest.size()) {
+            longest = piece;
+        }
+    }
+    return longest;
 }
 
 } // namespace
 
-CaseFoldedText::CaseFoldedText(const QString& text) {
-    for (qsizetype position = 0; position < text.size(); ++position) {
-        const char32_t code = codeAt(text, position);
-        const std::vector<char32_t> codes = variantsOf(code);
-        std::vector<char16_t> units;
-        if (QChar::requiresSurrogates(code)) {
-            ++position;
-            // The variants of such a character differ in their second units only.
-            units_.push_back(unitOf({QChar::highSurrogate(code)}));
-            std::ranges::transform(codes, std::back_inserter(units), QChar::lowSurrogate);
-        } else {
-            std::ranges::transform(codes, std::back_inserter(units),
-                                   [](char32_t variant) { return static_cast<char16_t>(variant); });
-        }
-        units_.push_back(unitOf(units));
-    }
-    chooseProbes();
-}
-
-CaseFoldedText::Unit CaseFoldedText::unitOf(const std::vector<char16_t>& variants) {
-    Unit unit;
-    for (std::size_t index = 0; index < unit.size(); ++index) {
-        unit[index] = variants[std::min(index, variants.size() - 1)];
-    }
-    return unit;
-}
-
-void CaseFoldedText::chooseProbes() {
-    if (units_.empty()) {
-        return;
-    }
-    std::vector<std::size_t> positions(units_.size());
-    std::iota(positions.begin(), positions.end(), std::size_t{0});
-    const auto hasTwoVariants = [this](std::size_t position) {
-        return units_[position][1] == units_[position].back();
-    };
-    isProbingTwoVariants_ = std::ranges::any_of(positions, hasTwoVariants);
-    if (isProbingTwoVariants_) {
-        std::erase_if(positions, std::not_fn(hasTwoVariants));
-    }
-    const auto commonness = [this](std::size_t position) {
-        return commonnessOf(units_[position].front());
-    };
-    const auto rarest = std::ranges::min_element(positions, {}, commonness);
-    firstProbe_ = *rarest;
-    if (positions.size() > 1) {
-        positions.erase(rarest);
-    }
-    secondProbe_ = *std::ranges::min_element(positions | std::views::reverse, {}, commonness);
+CaseFoldedText::CaseFoldedText(const QString& text)
+    : folded_(caseFolded(text))
+    , asItStands_(folded_)
+    , piece_(sturdyPiece(folded_)) {
+    QStringList spellings = SharpSSpellings(folded_).all();
+    isWithSharpSComplete_ = spellings.size() <= mostSpellings;
+    spellings.removeAll(folded_);
+    std::ranges::transform(spellings, std::back_inserter(withSharpS_),
+                           [](const QString& spelling) { return CasePattern(spelling); });
 }
 
 bool CaseFoldedText::isIn(QStringView text) const {
-    const std::ptrdiff_t places = text.size() - static_cast<std::ptrdiff_t>(units_.size()) + 1;
-    if (units_.empty() || places <= 0) {
-        return units_.empty();
+    const FoldingNeeds needs = foldingNeeds(text);
+    if (has(needs, FoldingNeeds::Whole)) {
+        return isInFolded(text);
     }
-    return isProbingTwoVariants_ ? isAtAnyOf<2>(text.utf16(), places)
-                                 : isAtAnyOf<mostVariants>(text.utf16(), places);
+    if (has(needs, FoldingNeeds::Marks)) {
+        return piece_.isIn(text) && isInFolded(text);
+    }
+    if (asItStands_.isIn(text)) {
+        return true;
+    }
+    if (!has(needs, FoldingNeeds::SharpS)) {
+        return false;
+    }
+    return std::ranges::any_of(withSharpS_,
+                               [&](const auto& spelling) { return spelling.isIn(text); }) ||
+           (!isWithSharpSComplete_ && isInFolded(text));
 }
 
-template <std::size_t variants>
-bool CaseFoldedText::isAtAnyOf(const char16_t* first, std::ptrdiff_t count) const {
-    // Compilers make this look at many units at a time, as long as it stays this plain.
-    const auto isOneOf = [](char16_t unit, const Unit& wanted) {
-        std::uint16_t found = 0;
-        for (std::size_t index = 0; index < variants; ++index) {
-            found = static_cast<std::uint16_t>(found | std::uint16_t{unit == wanted[index]});
-        }
-        return found;
-    };
-    const Unit firstWanted = units_[firstProbe_];
-    const Unit secondWanted = units_[secondProbe_];
-    constexpr std::ptrdiff_t blockSize = 16;
-    std::ptrdiff_t done = 0;
-    while (count - done >= blockSize) {
-        const char16_t* firstProbe = first + done + firstProbe_;
-        const char16_t* secondProbe = first + done + secondProbe_;
-        std::uint16_t found = 0;
-        for (std::ptrdiff_t index = 0; index < blockSize; ++index) {
-            found = static_cast<std::uint16_t>(found | (isOneOf(firstProbe[index], firstWanted) &
-                                                        isOneOf(secondProbe[index], secondWanted)));
-        }
-        if (found != 0 && standsAmong(first + done, blockSize)) {
-            return true;
-        }
-        // The last block overlaps the one before rather than leaving a rest.
-        done = count - done < 2 * blockSize && count - done > blockSize ? count - blockSize
-                                                                        : done + blockSize;
-    }
-    return standsAmong(first + done, count - done);
-}
-
-bool CaseFoldedText::standsAmong(const char16_t* first, std::ptrdiff_t count) const {
-    for (std::ptrdiff_t place = 0; place < count; ++place) {
-        if (standsAt(first + place)) {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool CaseFoldedText::standsAt(const char16_t* place) const {
-    return std::ranges::all_of(units_, [&place](const Unit& wanted) {
-        const char16_t unit = *place++;
-        return unit == wanted[0] || unit == wanted[1] || unit == wanted[2] || unit == wanted[3];
-    });
+bool CaseFoldedText::isInFolded(QStringView text) const {
+    return caseFolded(text.toString()).contains(folded_);
 }
 
 } // namespace quillet

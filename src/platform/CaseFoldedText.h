@@ -1,14 +1,12 @@
 #pragma once
 
-#include <QString>
-
-#include <array>
-#include <vector>
+#include "platform/CasePattern.h"
 
 namespace quillet {
 
-/// A text that is looked for in others as if both were case-folded by Unicode, character by
-/// character. The others are neither copied nor folded, so that many can be searched.
+/// A text that is looked for in others as if both were folded by caseFolded(). Only those of the
+/// others are copied and folded that cannot be compared as they stand, so that many can be
+/// searched.
 class CaseFoldedText {
 public:
     CaseFoldedText() = default;
@@ -18,23 +16,15 @@ public:
     [[nodiscard]] bool isIn(QStringView text) const;
 
 private:
-    static constexpr std::size_t mostVariants = 4;
-    /// The UTF-16 units that count as one unit of the text; the last is repeated to fill.
-    using Unit = std::array<char16_t, mostVariants>;
+    [[nodiscard]] bool isInFolded(QStringView text) const;
 
-    [[nodiscard]] static Unit unitOf(const std::vector<char16_t>& variants);
-    void chooseProbes();
-    [[nodiscard]] bool standsAt(const char16_t* place) const;
-    [[nodiscard]] bool standsAmong(const char16_t* first, std::ptrdiff_t count) const;
-    template <std::size_t variants>
-    [[nodiscard]] bool isAtAnyOf(const char16_t* first, std::ptrdiff_t count) const;
-
-    std::vector<Unit> units_;
-    /// The positions of two units that are looked at first: of few variants, of characters that
-    /// stand in few texts, and of equals the ones farthest apart.
-    std::size_t firstProbe_ = 0;
-    std::size_t secondProbe_ = 0;
-    bool isProbingTwoVariants_ = false;
+    QString folded_;
+    CasePattern asItStands_;
+    /// The ways in which texts write it with "ß"; incomplete when there are too many.
+    std::vector<CasePattern> withSharpS_;
+    bool isWithSharpSComplete_ = true;
+    /// A piece that also texts hold which write marks behind their letters.
+    CasePattern piece_;
 };
 
 } // namespace quillet
