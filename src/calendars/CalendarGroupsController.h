@@ -49,7 +49,19 @@ public:
     }
 
 private:
+    using Groups = ListController<CalendarGroup>::Content;
+
+    /// The chosen group stays chosen where others come before it or go, and where the list was
+    /// written from elsewhere; when it is gone, All Calendars is chosen.
+    void followChosenGroup();
+    void noteChosenGroup();
+
     Collaborators with_;
+    /// The groups and the chosen one's position among them, 0 for All Calendars, as they last were.
+    Groups groups_;
+    std::size_t chosen_ = 0;
+    /// The position is being written because the groups changed, not because another one is chosen.
+    bool isFollowing_ = false;
     std::optional<Predicate> calendarsArrayControllerFilterPredicate_;
     std::vector<Observation> observations_;
 };

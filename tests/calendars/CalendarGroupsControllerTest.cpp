@@ -1,5 +1,6 @@
 #include "calendars/CalendarGroupsController.h"
 
+#include "calendars/CalendarGroupsArrayController.h"
 #include "support/Fakes.h"
 #include "support/MemorySettings.h"
 
@@ -176,6 +177,105 @@ TEST_F(CalendarGroupsControllerTest, AFilterAlreadyInForceIsNotAnnouncedAgain) {
     EXPECT_EQ(notices, 1);
     calendars.setContent({record("B")});
     EXPECT_EQ(notices, 2);
+}
+
+namespace {
+
+/// The real list of groups before the controller: "All Calendars", then three of one calendar each.
+class ChosenGroupTest : public testing::Test {
+protected:
+    ChosenGroupTest() {
+        calendars.setContent({record("A"), record("B"), record("C")});
+        settings.setObject("calendars", QVariantList{QVariantMap{{"calendarIdentifier", "A"}}});
+        groups.awakeFromNib();
+        for (const char* identifier : {"A", "B", "C"}) {
+            groups.addCalendarGroup();
+            groups.setCalendarGroupArray(groups.arrangedCount() - 1, {entry(identifier, true)});
+        }
+    }
+    void choose(qint64 index) {
+        settings.setObject("calendarGroupsSelectedIndex", index);
+        controller.awakeFromNib();
+    }
+    void remove(std::size_t position) {
+        groups.setSelectedRows({position});
+        groups.removeCalendarGroup();
+    }
+    void writeFromElsewhere(const std::function<void(QVariantList&)>& change) {
+        QVariantList list = settings.object("calendarGroups").toList();
+        change(list);
+        settings.setObject("calendarGroups", list);
+    }
+    [[nodiscard]] qint64 index() const {
+        return integerForKey(settings, "calendarGroupsSelectedIndex");
+    }
+    [[nodiscard]] QString shown() const {
+        QString identifiers;
+        for (std::size_t row = 0; row < calendars.arrangedCount(); ++row) {
+            identifiers += calendars.arranged(row).calendarIdentifier;
+        }
+        return identifiers;
+    }
+
+    test::MemorySettings settings;
+    test::FakeAlerts alerts;
+    test::FakeTimer timer;
+    ListController<CalendarRecord> calendars;
+    CalendarGroupsArrayController groups{settings, alerts};
+    CalendarGroupsController controller{{settings, calendars, groups, timer}};
+};
+
+} // namespace
+
+TEST_F(ChosenGroupTest, DeletingTheChosenGroupChoosesAllCalendars) {
+    choose(2);
+    EXPECT_EQ(shown(), QStringLiteral("B"));
+    remove(2);
+    EXPECT_EQ(index(), 0);
+    EXPECT_EQ(shown(), QStringLiteral("ABC"));
+}
+
+TEST_F(ChosenGroupTest, DeletingAnotherGroupKeepsTheChosenOneChosen) {
+    choose(2);
+    remove(3);
+    EXPECT_EQ(index(), 2);
+    remove(1);
+    EXPECT_EQ(index(), 1);
+    EXPECT_EQ(shown(), QStringLiteral("B"));
+}
+
+TEST_F(ChosenGroupTest, AnIndexThatPointsNowhereNeverChoosesAGroupMadeLater) {
+    choose(4);
+    EXPECT_EQ(shown(), QStringLiteral("ABC"));
+    groups.addCalendarGroup();
+    EXPECT_EQ(index(), 0);
+    EXPECT_EQ(shown(), QStringLiteral("ABC"));
+}
+
+TEST_F(ChosenGroupTest, AListWrittenFromElsewhereKeepsTheChosenGroupAsFarAsItIsThere) {
+    choose(2);
+    writeFromElsewhere([](QVariantList& list) { list.removeAt(1); });
+    EXPECT_EQ(index(), 1);
+    EXPECT_EQ(shown(), QStringLiteral("B"));
+    writeFromElsewhere([](QVariantList& list) {
+        QVariantMap renamed = list[1].toMap();
+        renamed["calendarGroupName"] = "Renamed";
+        list[1] = renamed;
+    });
+    EXPECT_EQ(index(), 1);
+    writeFromElsewhere([](QVariantList& list) { list.removeAt(1); });
+    EXPECT_EQ(index(), 0);
+    EXPECT_EQ(shown(), QStringLiteral("ABC"));
+    writeFromElsewhere([](QVariantList& list) { list.clear(); });
+    EXPECT_EQ(index(), 0);
+}
+
+TEST_F(ChosenGroupTest, ANewChoiceIsFollowedFromThenOn) {
+    choose(1);
+    controller.setCalendarGroupsSelectedIndex(3);
+    remove(1);
+    EXPECT_EQ(index(), 2);
+    EXPECT_EQ(shown(), QStringLiteral("C"));
 }
 
 } // namespace quillet
