@@ -2,6 +2,8 @@
 
 #include "platform/CaseFolding.h"
 
+#include <QStringList>
+
 #include <algorithm>
 
 namespace quillet {

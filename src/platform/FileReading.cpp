@@ -15,7 +15,7 @@ namespace quillet {
 
 namespace {
 
-constexpr qint64 bytesInMegabyte = 1024 * 1024;
+constexpr qint64 bytesInMegabyte = qint64(1024) * 1024;
 
 std::unexpected<FileRefusal> systemRefusal() {
     auto kind = FileRefusal::Kind::Unreadable;
