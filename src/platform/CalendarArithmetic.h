@@ -44,6 +44,9 @@ public:
     [[nodiscard]] virtual Instant add(Instant instant, const DateOffset& offset) const = 0;
     /// The first day of the week of the user's locale: 1 Sunday … 7 Saturday.
     [[nodiscard]] virtual int firstWeekday() const = 0;
+    /// Whether that weekday, 1 Sunday … 7 Saturday, belongs to the weekend of the user's locale; a
+    /// day of which only a part does counts.
+    [[nodiscard]] virtual bool isWeekend(int weekday) const = 0;
 };
 
 } // namespace quillet

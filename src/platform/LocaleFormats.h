@@ -21,6 +21,8 @@ public:
     [[nodiscard]] virtual QString shortTime(Instant instant) const = 0;
     /// The full weekday name, pattern "EEEE".
     [[nodiscard]] virtual QString weekdayName(Instant instant) const = 0;
+    /// The month with its year, as a heading ("March 2024").
+    [[nodiscard]] virtual QString monthAndYear(Instant instant) const = 0;
     /// Pattern "0.##;0.##": at most `maximumFractionDigits` decimals, half-even, the locale's
     /// separator, no grouping, and no minus sign on a negative number. Not-a-number as the locale
     /// writes it.

@@ -19,6 +19,7 @@ public:
     [[nodiscard]] QString shortDate(Instant /*instant*/) const override { return {}; }
     [[nodiscard]] QString shortTime(Instant /*instant*/) const override { return {}; }
     [[nodiscard]] QString weekdayName(Instant /*instant*/) const override { return {}; }
+    [[nodiscard]] QString monthAndYear(Instant /*instant*/) const override { return {}; }
     [[nodiscard]] QString number(const Decimal& /*value*/, int /*digits*/) const override {
         return {};
     }

@@ -114,4 +114,10 @@ int IcuCalendarArithmetic::firstWeekday() const {
     return prototype_->calendar->getFirstDayOfWeek(status);
 }
 
+bool IcuCalendarArithmetic::isWeekend(int weekday) const {
+    UErrorCode status = U_ZERO_ERROR;
+    const auto day = static_cast<UCalendarDaysOfWeek>(weekday);
+    return prototype_->calendar->getDayOfWeekType(day, status) != UCAL_WEEKDAY;
+}
+
 } // namespace quillet

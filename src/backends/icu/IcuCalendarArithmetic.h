@@ -28,6 +28,7 @@ public:
     [[nodiscard]] Instant startOfDay(Instant instant) const override;
     [[nodiscard]] Instant add(Instant instant, const DateOffset& offset) const override;
     [[nodiscard]] int firstWeekday() const override;
+    [[nodiscard]] bool isWeekend(int weekday) const override;
 
 private:
     struct Prototype;

@@ -58,6 +58,7 @@ struct IcuLocaleFormats::Formatters {
     std::unique_ptr<icu::DateFormat> longDate;
     std::unique_ptr<icu::DateFormat> shortTime;
     std::unique_ptr<icu::DateFormat> weekday;
+    std::unique_ptr<icu::DateFormat> month;
     std::unique_ptr<icu::DecimalFormat> parser;
     /// Unchangeable, and so safe from any thread.
     icu::number::UnlocalizedNumberFormatter plainNumber;
@@ -88,8 +89,11 @@ IcuLocaleFormats::IcuLocaleFormats(const LocaleNames& locales, const QString& ti
     formatters.shortTime.reset(icu::DateFormat::createTimeInstance(icu::DateFormat::kShort, time));
     formatters.weekday =
         std::make_unique<icu::SimpleDateFormat>(icu::UnicodeString(u"EEEE"), time, status);
-    for (icu::DateFormat* format : {formatters.shortDate.get(), formatters.longDate.get(),
-                                    formatters.shortTime.get(), formatters.weekday.get()}) {
+    formatters.month.reset(
+        icu::DateFormat::createInstanceForSkeleton(UDAT_YEAR_MONTH, time, status));
+    for (icu::DateFormat* format :
+         {formatters.shortDate.get(), formatters.longDate.get(), formatters.shortTime.get(),
+          formatters.weekday.get(), formatters.month.get()}) {
         format->adoptTimeZone(icu::TimeZone::createTimeZone(toIcu(timeZone)));
     }
 
@@ -127,6 +131,10 @@ QString IcuLocaleFormats::shortTime(Instant instant) const {
 
 QString IcuLocaleFormats::weekdayName(Instant instant) const {
     return formatters_->text(*formatters_->weekday, instant);
+}
+
+QString IcuLocaleFormats::monthAndYear(Instant instant) const {
+    return formatters_->text(*formatters_->month, instant);
 }
 
 QString IcuLocaleFormats::number(const Decimal& value, int maximumFractionDigits) const {

@@ -20,6 +20,7 @@ public:
     [[nodiscard]] QString longDate(Instant instant) const override;
     [[nodiscard]] QString shortTime(Instant instant) const override;
     [[nodiscard]] QString weekdayName(Instant instant) const override;
+    [[nodiscard]] QString monthAndYear(Instant instant) const override;
     [[nodiscard]] QString number(const Decimal& value, int maximumFractionDigits) const override;
     [[nodiscard]] QString currency(const Decimal& value) const override;
     [[nodiscard]] Decimal parsedNumber(const QString& text) const override;

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace quillet {
 
 namespace {
@@ -54,6 +56,22 @@ TEST(IcuCalendarArithmeticTest, TheWeekBeginsAsTheLocaleHasIt) {
     EXPECT_EQ(gregorian("UTC", "en_US").firstWeekday(), 1);
     EXPECT_EQ(gregorian("UTC", "de_DE").firstWeekday(), 2);
     EXPECT_EQ(gregorian("UTC", "ar_EG").firstWeekday(), 7);
+}
+
+TEST(IcuCalendarArithmeticTest, TheWeekendIsTheLocales) {
+    const auto weekend = [](const char* locale) {
+        std::vector<int> days;
+        const auto calendar = gregorian("UTC", locale);
+        for (int weekday = 1; weekday <= 7; ++weekday) {
+            if (calendar.isWeekend(weekday)) {
+                days.push_back(weekday);
+            }
+        }
+        return days;
+    };
+    EXPECT_EQ(weekend("en_US"), (std::vector{1, 7}));
+    EXPECT_EQ(weekend("ar_EG"), (std::vector{6, 7}));
+    EXPECT_EQ(weekend("hi_IN"), (std::vector{1}));
 }
 
 TEST(IcuCalendarArithmeticTest, WorksBefore1970AndBeforeTheChangeOfCalendars) {

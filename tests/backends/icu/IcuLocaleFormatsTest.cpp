@@ -75,6 +75,15 @@ TEST(IcuLocaleFormatsTest, DatesAndTimesFollowLocaleAndZone) {
     EXPECT_EQ(formats("fr_FR").weekdayName(utc(2024, 3, 1)), QStringLiteral("vendredi"));
 }
 
+TEST(IcuLocaleFormatsTest, NamesAMonthWithItsYear) {
+    const Instant inMarch = utc(2024, 3, 1, 2);
+    EXPECT_EQ(formats("en_US", "America/New_York").monthAndYear(inMarch), "February 2024");
+    EXPECT_EQ(formats("de_DE", "Europe/Berlin").monthAndYear(inMarch),
+              QString::fromUtf8("März 2024"));
+    EXPECT_EQ(formats("fr_FR").monthAndYear(inMarch), "mars 2024");
+    EXPECT_EQ(formats("ja_JP").monthAndYear(inMarch), QString::fromUtf8("2024年3月"));
+}
+
 TEST(IcuLocaleFormatsTest, ReadsOnlyWhatTheLocaleWrites) {
     EXPECT_EQ(formats("de_DE").parsedNumber("12,5"), decimal("12.5"));
     EXPECT_TRUE(formats("de_DE").parsedNumber("12.5x").isNaN());
