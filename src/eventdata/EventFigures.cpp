@@ -30,9 +30,13 @@ std::int64_t allDayMinutes(std::int64_t spanMilliseconds, std::int64_t allDayHou
 
 } // namespace
 
+BilledSpan billedSpan(const Event& event, const BillingSettings& settings) {
+    return {.start = std::max(event.startDate, settings.periodStart),
+            .end = std::min(event.endDate, settings.periodEnd)};
+}
+
 std::int64_t billableMinutes(const Event& event, const BillingSettings& settings) {
-    const Instant start = std::max(event.startDate, settings.periodStart);
-    const Instant end = std::min(event.endDate, settings.periodEnd);
+    const auto [start, end] = billedSpan(event, settings);
     const std::int64_t span = (end - start).count();
     return event.details->isAllDay ? allDayMinutes(span, settings.allDayHours)
                                    : dividedHalfAwayFromZero(span, millisecondsOfAMinute);
@@ -47,17 +51,22 @@ Decimal billableRate(const Event& event, const BillingSettings& settings) {
     return found == settings.calendarRates.constEnd() ? Decimal::notANumber() : *found;
 }
 
+Decimal hoursForMoney(std::int64_t minutes) {
+    return (Decimal::fromInteger(minutes) / sixty).rounded(2, Rounding::HalfEven).absolute();
+}
+
+Decimal rateOfAMinute(const Decimal& rate) {
+    constexpr int perMinuteDecimals = 15;
+    return (rate / sixty).rounded(perMinuteDecimals, Rounding::HalfEven);
+}
+
 std::optional<Decimal> billableCost(std::int64_t minutes, const Decimal& rate,
                                     const BillingSettings& settings) {
     if (!settings.isMoneyOn) {
         return std::nullopt;
     }
-    const Decimal wholeMinutes = Decimal::fromInteger(minutes);
-    if (settings.isMoneyFromHours) {
-        return rate * (wholeMinutes / sixty).rounded(2, Rounding::HalfEven).absolute();
-    }
-    constexpr int perMinuteDecimals = 15;
-    return (rate / sixty).rounded(perMinuteDecimals, Rounding::HalfEven) * wholeMinutes;
+    return settings.isMoneyFromHours ? rate * hoursForMoney(minutes)
+                                     : rateOfAMinute(rate) * Decimal::fromInteger(minutes);
 }
 
 EventFigures figures(const Event& event, const BillingSettings& settings) {

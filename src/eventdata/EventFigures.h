@@ -26,6 +26,15 @@ struct EventFigures {
     std::optional<Decimal> cost;
 };
 
+/// The part of an event that the period leaves of it: [start, end). Not corrected where the event
+/// lies outside: the end is before the start then.
+struct BilledSpan {
+    Instant start;
+    Instant end;
+};
+
+[[nodiscard]] BilledSpan billedSpan(const Event& event, const BillingSettings& settings);
+
 /// The minutes alone, for totals over many events.
 ///
 /// A timed event: its span inside the period / 60, rounded half away from zero. An all-day event:
@@ -34,6 +43,11 @@ struct EventFigures {
 
 /// The rate alone.
 [[nodiscard]] Decimal billableRate(const Event& event, const BillingSettings& settings);
+
+/// The factors of a cost: hours, rounded half-even to two decimals, as a magnitude,
+[[nodiscard]] Decimal hoursForMoney(std::int64_t minutes);
+/// or the money for a minute, rounded half-even to fifteen.
+[[nodiscard]] Decimal rateOfAMinute(const Decimal& rate);
 
 /// minutes × (rate / 60, rounded half-even to fifteen decimals), or, from hours,
 /// (minutes / 60, rounded half-even to two decimals, as a magnitude) × rate. The first rounding
