@@ -16,8 +16,28 @@
         <translation>%1 Termine ohne Anfang</translation>
     </message>
     <message>
+        <source>%1 h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>(no location)</source>
+        <translation>(ohne Ort)</translation>
+    </message>
+    <message>
         <source>(no name)</source>
         <translation>(ohne Namen)</translation>
+    </message>
+    <message>
+        <source>(no title)</source>
+        <translation>(ohne Titel)</translation>
     </message>
     <message>
         <source>A folder holds a calendar with one file an event; a file holds a whole calendar.</source>
@@ -464,8 +484,16 @@
         <translation>Termine</translation>
     </message>
     <message>
+        <source>Events counted in more than one row: %1</source>
+        <translation>In mehr als einer Zeile gezählte Termine: %1</translation>
+    </message>
+    <message>
         <source>Events with notes: %1</source>
         <translation>Termine mit Notizen: %1</translation>
+    </message>
+    <message>
+        <source>exact %1, billed %2</source>
+        <translation>genau %1, berechnet %2</translation>
     </message>
     <message>
         <source>Export as:</source>
@@ -804,6 +832,10 @@
         <translation>ein Termin ist nicht lesbar</translation>
     </message>
     <message>
+        <source>One event stands in two rows</source>
+        <translation>Ein Termin steht in zwei Zeilen</translation>
+    </message>
+    <message>
         <source>one event without a start</source>
         <translation>ein Termin ohne Anfang</translation>
     </message>
@@ -974,6 +1006,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Ergebnisse</translation>
     </message>
     <message>
+        <source>Rounding: %1</source>
+        <translation>Rundung: %1</translation>
+    </message>
+    <message>
         <source>Safari 5.0 is installed on this Mac</source>
         <translation>Auf diesem Mac ist Safari 5.0 installiert</translation>
     </message>
@@ -1048,6 +1084,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     <message>
         <source>Settings cannot be saved to %1. They are kept until they can.</source>
         <translation>Die Einstellungen lassen sich nicht in %1 speichern. Sie bleiben erhalten, bis es wieder geht.</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Anteil</translation>
     </message>
     <message>
         <source>Shortest</source>

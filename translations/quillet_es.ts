@@ -16,8 +16,28 @@
         <translation>%1 eventos sin inicio</translation>
     </message>
     <message>
+        <source>%1 h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>(no location)</source>
+        <translation>(sin lugar)</translation>
+    </message>
+    <message>
         <source>(no name)</source>
         <translation>(sin nombre)</translation>
+    </message>
+    <message>
+        <source>(no title)</source>
+        <translation>(sin título)</translation>
     </message>
     <message>
         <source>A folder holds a calendar with one file an event; a file holds a whole calendar.</source>
@@ -464,8 +484,16 @@
         <translation>Eventos</translation>
     </message>
     <message>
+        <source>Events counted in more than one row: %1</source>
+        <translation>Eventos contados en más de una fila: %1</translation>
+    </message>
+    <message>
         <source>Events with notes: %1</source>
         <translation>Eventos con notas: %1</translation>
+    </message>
+    <message>
+        <source>exact %1, billed %2</source>
+        <translation>exacto %1, facturado %2</translation>
     </message>
     <message>
         <source>Export as:</source>
@@ -804,6 +832,10 @@
         <translation>no se puede leer un evento</translation>
     </message>
     <message>
+        <source>One event stands in two rows</source>
+        <translation>Un evento está en dos filas</translation>
+    </message>
+    <message>
         <source>one event without a start</source>
         <translation>un evento sin inicio</translation>
     </message>
@@ -974,6 +1006,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Resultados</translation>
     </message>
     <message>
+        <source>Rounding: %1</source>
+        <translation>Redondeo: %1</translation>
+    </message>
+    <message>
         <source>Safari 5.0 is installed on this Mac</source>
         <translation>Safari 5.0 está instalado en este Mac</translation>
     </message>
@@ -1048,6 +1084,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>Settings cannot be saved to %1. They are kept until they can.</source>
         <translation>Los ajustes no se pueden guardar en %1. Se conservan hasta que sea posible.</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Proporción</translation>
     </message>
     <message>
         <source>Shortest</source>

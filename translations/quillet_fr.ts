@@ -16,8 +16,28 @@
         <translation>%1 événements sans début</translation>
     </message>
     <message>
+        <source>%1 h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>(no location)</source>
+        <translation>(sans lieu)</translation>
+    </message>
+    <message>
         <source>(no name)</source>
         <translation>(sans nom)</translation>
+    </message>
+    <message>
+        <source>(no title)</source>
+        <translation>(sans titre)</translation>
     </message>
     <message>
         <source>A folder holds a calendar with one file an event; a file holds a whole calendar.</source>
@@ -464,8 +484,16 @@
         <translation>Événements</translation>
     </message>
     <message>
+        <source>Events counted in more than one row: %1</source>
+        <translation>Événements comptés dans plus d’une ligne : %1</translation>
+    </message>
+    <message>
         <source>Events with notes: %1</source>
         <translation>Avec notes : %1</translation>
+    </message>
+    <message>
+        <source>exact %1, billed %2</source>
+        <translation>exact %1, facturé %2</translation>
     </message>
     <message>
         <source>Export as:</source>
@@ -804,6 +832,10 @@
         <translation>un événement est illisible</translation>
     </message>
     <message>
+        <source>One event stands in two rows</source>
+        <translation>Un événement figure dans deux lignes</translation>
+    </message>
+    <message>
         <source>one event without a start</source>
         <translation>un événement sans début</translation>
     </message>
@@ -974,6 +1006,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Résultats</translation>
     </message>
     <message>
+        <source>Rounding: %1</source>
+        <translation>Arrondi : %1</translation>
+    </message>
+    <message>
         <source>Safari 5.0 is installed on this Mac</source>
         <translation>Safari 5.0 est installé sur ce Mac</translation>
     </message>
@@ -1048,6 +1084,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>Settings cannot be saved to %1. They are kept until they can.</source>
         <translation>Les réglages ne peuvent pas être enregistrés dans %1. Ils sont conservés jusqu’à ce que ce soit possible.</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>Part</translation>
     </message>
     <message>
         <source>Shortest</source>

@@ -16,8 +16,28 @@
         <translation>開始のない予定が %1 件</translation>
     </message>
     <message>
+        <source>%1 h</source>
+        <translation>%1時間</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1分</translation>
+    </message>
+    <message>
+        <source>%1%</source>
+        <translation>%1%</translation>
+    </message>
+    <message>
+        <source>(no location)</source>
+        <translation>(場所なし)</translation>
+    </message>
+    <message>
         <source>(no name)</source>
         <translation>（名前なし）</translation>
+    </message>
+    <message>
+        <source>(no title)</source>
+        <translation>(タイトルなし)</translation>
     </message>
     <message>
         <source>A folder holds a calendar with one file an event; a file holds a whole calendar.</source>
@@ -464,8 +484,16 @@
         <translation>予定</translation>
     </message>
     <message>
+        <source>Events counted in more than one row: %1</source>
+        <translation>複数の行で数えられた予定: %1</translation>
+    </message>
+    <message>
         <source>Events with notes: %1</source>
         <translation>メモのある予定: %1</translation>
+    </message>
+    <message>
+        <source>exact %1, billed %2</source>
+        <translation>正確には%1、請求は%2</translation>
     </message>
     <message>
         <source>Export as:</source>
@@ -804,6 +832,10 @@
         <translation>1 件の予定を読み取れません</translation>
     </message>
     <message>
+        <source>One event stands in two rows</source>
+        <translation>1件の予定が2行にあります</translation>
+    </message>
+    <message>
         <source>one event without a start</source>
         <translation>開始のない予定が 1 件</translation>
     </message>
@@ -974,6 +1006,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>集計</translation>
     </message>
     <message>
+        <source>Rounding: %1</source>
+        <translation>丸め: %1</translation>
+    </message>
+    <message>
         <source>Safari 5.0 is installed on this Mac</source>
         <translation>この Mac には Safari 5.0 がインストールされています</translation>
     </message>
@@ -1048,6 +1084,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>Settings cannot be saved to %1. They are kept until they can.</source>
         <translation>設定を %1 に保存できません。保存できるまで保持されます。</translation>
+    </message>
+    <message>
+        <source>Share</source>
+        <translation>割合</translation>
     </message>
     <message>
         <source>Shortest</source>
