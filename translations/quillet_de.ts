@@ -24,6 +24,10 @@
         <translation>%1 min</translation>
     </message>
     <message>
+        <source>%1 of “%2”</source>
+        <translation>%1 von „%2“</translation>
+    </message>
+    <message>
         <source>%1%</source>
         <translation>%1 %</translation>
     </message>
@@ -148,6 +152,10 @@
         <translation>Kalenderzugriff erlauben…</translation>
     </message>
     <message>
+        <source>an all-day event, in days of 24 hours</source>
+        <translation>ein ganztägiger Termin, in Tagen zu 24 Stunden</translation>
+    </message>
+    <message>
         <source>an empty file</source>
         <translation>eine leere Datei</translation>
     </message>
@@ -172,6 +180,14 @@
         <translation>Ordnet die Spalten so an, wie das ausgewählte Layout sie enthält</translation>
     </message>
     <message>
+        <source>as it is shown</source>
+        <translation>wie es angezeigt wird</translation>
+    </message>
+    <message>
+        <source>At least</source>
+        <translation>Mindestens</translation>
+    </message>
+    <message>
         <source>Average</source>
         <translation>Durchschnitt</translation>
     </message>
@@ -190,6 +206,14 @@
     <message>
         <source>Beginning Date</source>
         <translation>Anfangsdatum</translation>
+    </message>
+    <message>
+        <source>Billed</source>
+        <translation>Berechnet</translation>
+    </message>
+    <message>
+        <source>Billed: %1 of “%2”</source>
+        <translation>Berechnet: %1 von „%2“</translation>
     </message>
     <message>
         <source>Bring column titles back, too</source>
@@ -328,6 +352,14 @@
         <translation>Kosten</translation>
     </message>
     <message>
+        <source>Counts from</source>
+        <translation>Zählt ab</translation>
+    </message>
+    <message>
+        <source>Counts until</source>
+        <translation>Zählt bis</translation>
+    </message>
+    <message>
         <source>CSV</source>
         <translation>CSV</translation>
     </message>
@@ -420,6 +452,10 @@
         <translation>Dauer</translation>
     </message>
     <message>
+        <source>each event is rounded by itself</source>
+        <translation>jeder Termin wird für sich gerundet</translation>
+    </message>
+    <message>
         <source>&amp;Edit</source>
         <translation>&amp;Bearbeiten</translation>
     </message>
@@ -446,6 +482,10 @@
     <message>
         <source>&amp;Encoding of saved files:</source>
         <translation>&amp;Kodierung gespeicherter Dateien:</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
     </message>
     <message>
         <source>End Date</source>
@@ -492,8 +532,16 @@
         <translation>Termine mit Notizen: %1</translation>
     </message>
     <message>
+        <source>Exact</source>
+        <translation>Genau</translation>
+    </message>
+    <message>
         <source>exact %1, billed %2</source>
         <translation>genau %1, berechnet %2</translation>
+    </message>
+    <message>
+        <source>Exact sum</source>
+        <translation>Genaue Summe</translation>
     </message>
     <message>
         <source>Export as:</source>
@@ -528,6 +576,14 @@
         <translation>&amp;Ordner…</translation>
     </message>
     <message>
+        <source>for each event that begins</source>
+        <translation>für jeden Termin, der beginnt</translation>
+    </message>
+    <message>
+        <source>for which an all-day event counts</source>
+        <translation>für die ein ganztägiger Termin zählt</translation>
+    </message>
+    <message>
         <source>General</source>
         <translation>Allgemein</translation>
     </message>
@@ -556,8 +612,20 @@
         <translation>Stunden</translation>
     </message>
     <message>
+        <source>Hours a day</source>
+        <translation>Stunden am Tag</translation>
+    </message>
+    <message>
         <source>&amp;Hours for each day:</source>
         <translation>&amp;Stunden für jeden Tag:</translation>
+    </message>
+    <message>
+        <source>Hours for money</source>
+        <translation>Stunden für die Kosten</translation>
+    </message>
+    <message>
+        <source>hours times rate, exact</source>
+        <translation>Stunden mal Satz, genau</translation>
     </message>
     <message>
         <source>Identifier</source>
@@ -570,6 +638,10 @@
     <message>
         <source>In Quotation Marks</source>
         <translation>In Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>in the zone %1</source>
+        <translation>in der Zeitzone %1</translation>
     </message>
     <message>
         <source>In titles, notes, locations and calendars, for programs that take every line for an event</source>
@@ -640,6 +712,10 @@
         <translation>Ganztägige Termine &amp;weglassen</translation>
     </message>
     <message>
+        <source>Length</source>
+        <translation>Länge</translation>
+    </message>
+    <message>
         <source>Line Breaks</source>
         <translation>Zeilenumbrüche</translation>
     </message>
@@ -696,8 +772,24 @@
         <translation>Minuten</translation>
     </message>
     <message>
+        <source>minutes divided by 60, rounded to two decimals</source>
+        <translation>Minuten durch 60, auf zwei Stellen gerundet</translation>
+    </message>
+    <message>
+        <source>minutes divided by 60, shown with two decimals</source>
+        <translation>Minuten durch 60, mit zwei Stellen angezeigt</translation>
+    </message>
+    <message>
+        <source>minutes times the rate of a minute, exact</source>
+        <translation>Minuten mal Satz einer Minute, genau</translation>
+    </message>
+    <message>
         <source>&amp;Money</source>
         <translation>&amp;Beträge</translation>
+    </message>
+    <message>
+        <source>money is switched off</source>
+        <translation>Kosten sind ausgeschaltet</translation>
     </message>
     <message>
         <source>Money:</source>
@@ -780,6 +872,10 @@
         <translation>Es ist kein E-Mail-Programm eingerichtet</translation>
     </message>
     <message>
+        <source>no rate is stored for the calendar “%1”</source>
+        <translation>für den Kalender „%1“ ist kein Satz gespeichert</translation>
+    </message>
+    <message>
         <source>No software centre was found</source>
         <translation>Es wurde kein Softwarezentrum gefunden</translation>
     </message>
@@ -820,6 +916,10 @@
         <translation>Anzahl der Erinnerungen</translation>
     </message>
     <message>
+        <source>Occurrence</source>
+        <translation>Wiederholung</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -842,6 +942,10 @@
     <message>
         <source>&amp;One rate for all calendars</source>
         <translation>&amp;Ein Stundensatz für alle Kalender</translation>
+    </message>
+    <message>
+        <source>one rate for all calendars</source>
+        <translation>ein Satz für alle Kalender</translation>
     </message>
     <message>
         <source>Only files on this computer can be added as calendars.</source>
@@ -898,6 +1002,10 @@
     <message>
         <source>Problems</source>
         <translation>Probleme</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>Produkt</translation>
     </message>
     <message>
         <source>Put the report into a new message</source>
@@ -962,6 +1070,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Satz und Kosten, solange Beträge gezeigt werden</translation>
     </message>
     <message>
+        <source>Rate of a minute</source>
+        <translation>Satz einer Minute</translation>
+    </message>
+    <message>
         <source>Rates</source>
         <translation>Sätze</translation>
     </message>
@@ -1004,6 +1116,26 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     <message>
         <source>Results</source>
         <translation>Ergebnisse</translation>
+    </message>
+    <message>
+        <source>rounded down</source>
+        <translation>abgerundet</translation>
+    </message>
+    <message>
+        <source>rounded once, at the end</source>
+        <translation>einmal gerundet, am Ende</translation>
+    </message>
+    <message>
+        <source>rounded to a whole minute, halves away from zero</source>
+        <translation>auf ganze Minuten gerundet, halbe von null weg</translation>
+    </message>
+    <message>
+        <source>rounded to the nearest, halfway up</source>
+        <translation>zum nächsten gerundet, halbe nach oben</translation>
+    </message>
+    <message>
+        <source>rounded up</source>
+        <translation>aufgerundet</translation>
     </message>
     <message>
         <source>Rounding: %1</source>
@@ -1118,12 +1250,20 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Zeit &amp;anzeigen als:</translation>
     </message>
     <message>
+        <source>shown with the decimals of the currency</source>
+        <translation>mit den Stellen der Währung angezeigt</translation>
+    </message>
+    <message>
         <source>Stands before everything else in the report</source>
         <translation>Steht vor allem anderen im Bericht</translation>
     </message>
     <message>
         <source>Stands behind everything else in the report</source>
         <translation>Steht hinter allem anderen im Bericht</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Anfang</translation>
     </message>
     <message>
         <source>Start Date</source>
@@ -1136,6 +1276,14 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     <message>
         <source>Start Weekday</source>
         <translation>Wochentag (Start)</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Schritt</translation>
+    </message>
+    <message>
+        <source>Sum of the rounded values</source>
+        <translation>Summe der gerundeten Werte</translation>
     </message>
     <message>
         <source>&amp;Summary row</source>
@@ -1210,6 +1358,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Aufgeführt sind die Kalender der gewählten Gruppe</translation>
     </message>
     <message>
+        <source>the event ends before it begins, or lies outside the period</source>
+        <translation>der Termin endet vor seinem Anfang oder liegt außerhalb des Zeitraums</translation>
+    </message>
+    <message>
         <source>The first column is the calendar's own identifier of the event</source>
         <translation>Die erste Spalte ist die Kennung, die der Kalender dem Termin gibt</translation>
     </message>
@@ -1254,8 +1406,24 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Das Mittel je Termin</translation>
     </message>
     <message>
+        <source>the period begins after the event</source>
+        <translation>der Zeitraum beginnt nach dem Termin</translation>
+    </message>
+    <message>
+        <source>the period ends before the event</source>
+        <translation>der Zeitraum endet vor dem Termin</translation>
+    </message>
+    <message>
+        <source>the rate divided by 60, rounded to fifteen decimals</source>
+        <translation>der Satz durch 60, auf fünfzehn Stellen gerundet</translation>
+    </message>
+    <message>
         <source>The rate of an hour, while all calendars have the same</source>
         <translation>Der Satz einer Stunde, solange alle Kalender denselben haben</translation>
+    </message>
+    <message>
+        <source>the rate of the calendar “%1”</source>
+        <translation>der Satz des Kalenders „%1“</translation>
     </message>
     <message>
         <source>The settings file %2 could not be read (%1) nor moved aside. Quillet starts with its first-run settings.</source>
@@ -1366,6 +1534,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>&amp;Gesamtzeit</translation>
     </message>
     <message>
+        <source>Total: %1</source>
+        <translation>Summe: %1</translation>
+    </message>
+    <message>
         <source>TSV</source>
         <translation>TSV</translation>
     </message>
@@ -1410,6 +1582,14 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Woche</translation>
     </message>
     <message>
+        <source>what a day has of a title is rounded as one</source>
+        <translation>was ein Tag von einem Titel hat, wird zusammen gerundet</translation>
+    </message>
+    <message>
+        <source>what adding up the rows as shown would give</source>
+        <translation>was das Zusammenzählen der angezeigten Zeilen ergäbe</translation>
+    </message>
+    <message>
         <source>What came is no list of versions.</source>
         <translation>Was ankam, ist keine Liste von Versionen.</translation>
     </message>
@@ -1422,6 +1602,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Was ist neu</translation>
     </message>
     <message>
+        <source>what lasts past midnight is cut there</source>
+        <translation>was über Mitternacht dauert, wird dort geteilt</translation>
+    </message>
+    <message>
         <source>What would you like to add?</source>
         <translation>Was möchten Sie hinzufügen?</translation>
     </message>
@@ -1432,6 +1616,14 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     <message>
         <source>When off, each calendar has a rate of its own: select the calendar in the main window to set it</source>
         <translation>Sonst hat jeder Kalender seinen eigenen Satz: Wählen Sie den Kalender im Hauptfenster, um ihn festzulegen</translation>
+    </message>
+    <message>
+        <source>where the series has it</source>
+        <translation>wo die Serie ihn hat</translation>
+    </message>
+    <message>
+        <source>where the series has it; it was moved</source>
+        <translation>wo die Serie ihn hat; er wurde verschoben</translation>
     </message>
     <message>
         <source>Whether the reminder is done</source>

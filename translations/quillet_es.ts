@@ -24,6 +24,10 @@
         <translation>%1 min</translation>
     </message>
     <message>
+        <source>%1 of “%2”</source>
+        <translation>%1 de «%2»</translation>
+    </message>
+    <message>
         <source>%1%</source>
         <translation>%1 %</translation>
     </message>
@@ -148,6 +152,10 @@
         <translation>Permitir el acceso a los calendarios…</translation>
     </message>
     <message>
+        <source>an all-day event, in days of 24 hours</source>
+        <translation>un evento de todo el día, en días de 24 horas</translation>
+    </message>
+    <message>
         <source>an empty file</source>
         <translation>un archivo vacío</translation>
     </message>
@@ -172,6 +180,14 @@
         <translation>Coloca las columnas como en la disposición seleccionada</translation>
     </message>
     <message>
+        <source>as it is shown</source>
+        <translation>tal como se muestra</translation>
+    </message>
+    <message>
+        <source>At least</source>
+        <translation>Como mínimo</translation>
+    </message>
+    <message>
         <source>Average</source>
         <translation>Media</translation>
     </message>
@@ -190,6 +206,14 @@
     <message>
         <source>Beginning Date</source>
         <translation>Fecha de inicio</translation>
+    </message>
+    <message>
+        <source>Billed</source>
+        <translation>Facturado</translation>
+    </message>
+    <message>
+        <source>Billed: %1 of “%2”</source>
+        <translation>Facturado: %1 de «%2»</translation>
     </message>
     <message>
         <source>Bring column titles back, too</source>
@@ -328,6 +352,14 @@
         <translation>Coste</translation>
     </message>
     <message>
+        <source>Counts from</source>
+        <translation>Cuenta desde</translation>
+    </message>
+    <message>
+        <source>Counts until</source>
+        <translation>Cuenta hasta</translation>
+    </message>
+    <message>
         <source>CSV</source>
         <translation>CSV</translation>
     </message>
@@ -420,6 +452,10 @@
         <translation>Duración</translation>
     </message>
     <message>
+        <source>each event is rounded by itself</source>
+        <translation>cada evento se redondea por separado</translation>
+    </message>
+    <message>
         <source>&amp;Edit</source>
         <translation>&amp;Editar</translation>
     </message>
@@ -446,6 +482,10 @@
     <message>
         <source>&amp;Encoding of saved files:</source>
         <translation>&amp;Codificación de los archivos guardados:</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>End Date</source>
@@ -492,8 +532,16 @@
         <translation>Eventos con notas: %1</translation>
     </message>
     <message>
+        <source>Exact</source>
+        <translation>Exacto</translation>
+    </message>
+    <message>
         <source>exact %1, billed %2</source>
         <translation>exacto %1, facturado %2</translation>
+    </message>
+    <message>
+        <source>Exact sum</source>
+        <translation>Suma exacta</translation>
     </message>
     <message>
         <source>Export as:</source>
@@ -528,6 +576,14 @@
         <translation>&amp;Carpeta…</translation>
     </message>
     <message>
+        <source>for each event that begins</source>
+        <translation>por cada evento que empieza</translation>
+    </message>
+    <message>
+        <source>for which an all-day event counts</source>
+        <translation>por las que cuenta un evento de todo el día</translation>
+    </message>
+    <message>
         <source>General</source>
         <translation>General</translation>
     </message>
@@ -556,8 +612,20 @@
         <translation>Horas</translation>
     </message>
     <message>
+        <source>Hours a day</source>
+        <translation>Horas al día</translation>
+    </message>
+    <message>
         <source>&amp;Hours for each day:</source>
         <translation>&amp;Horas por cada día:</translation>
+    </message>
+    <message>
+        <source>Hours for money</source>
+        <translation>Horas para el coste</translation>
+    </message>
+    <message>
+        <source>hours times rate, exact</source>
+        <translation>horas por tarifa, exacto</translation>
     </message>
     <message>
         <source>Identifier</source>
@@ -570,6 +638,10 @@
     <message>
         <source>In Quotation Marks</source>
         <translation>Entre comillas</translation>
+    </message>
+    <message>
+        <source>in the zone %1</source>
+        <translation>en la zona horaria %1</translation>
     </message>
     <message>
         <source>In titles, notes, locations and calendars, for programs that take every line for an event</source>
@@ -640,6 +712,10 @@
         <translation>&amp;Omitir los eventos de todo el día</translation>
     </message>
     <message>
+        <source>Length</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
         <source>Line Breaks</source>
         <translation>Saltos de línea</translation>
     </message>
@@ -696,8 +772,24 @@
         <translation>Minutos</translation>
     </message>
     <message>
+        <source>minutes divided by 60, rounded to two decimals</source>
+        <translation>minutos divididos entre 60, redondeado a dos decimales</translation>
+    </message>
+    <message>
+        <source>minutes divided by 60, shown with two decimals</source>
+        <translation>minutos divididos entre 60, mostrado con dos decimales</translation>
+    </message>
+    <message>
+        <source>minutes times the rate of a minute, exact</source>
+        <translation>minutos por la tarifa de un minuto, exacto</translation>
+    </message>
+    <message>
         <source>&amp;Money</source>
         <translation>Impo&amp;rtes</translation>
+    </message>
+    <message>
+        <source>money is switched off</source>
+        <translation>el coste está desactivado</translation>
     </message>
     <message>
         <source>Money:</source>
@@ -780,6 +872,10 @@
         <translation>No hay ningún programa de correo configurado</translation>
     </message>
     <message>
+        <source>no rate is stored for the calendar “%1”</source>
+        <translation>no hay tarifa guardada para el calendario «%1»</translation>
+    </message>
+    <message>
         <source>No software centre was found</source>
         <translation>No se encontró ningún centro de software</translation>
     </message>
@@ -820,6 +916,10 @@
         <translation>Número de recordatorios</translation>
     </message>
     <message>
+        <source>Occurrence</source>
+        <translation>Repetición</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>Aceptar</translation>
     </message>
@@ -842,6 +942,10 @@
     <message>
         <source>&amp;One rate for all calendars</source>
         <translation>U&amp;na tarifa para todos los calendarios</translation>
+    </message>
+    <message>
+        <source>one rate for all calendars</source>
+        <translation>una tarifa para todos los calendarios</translation>
     </message>
     <message>
         <source>Only files on this computer can be added as calendars.</source>
@@ -898,6 +1002,10 @@
     <message>
         <source>Problems</source>
         <translation>Problemas</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>Producto</translation>
     </message>
     <message>
         <source>Put the report into a new message</source>
@@ -962,6 +1070,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Tarifa y coste, mientras se muestran los importes</translation>
     </message>
     <message>
+        <source>Rate of a minute</source>
+        <translation>Tarifa de un minuto</translation>
+    </message>
+    <message>
         <source>Rates</source>
         <translation>Tarifas</translation>
     </message>
@@ -1004,6 +1116,26 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>Results</source>
         <translation>Resultados</translation>
+    </message>
+    <message>
+        <source>rounded down</source>
+        <translation>redondeado hacia abajo</translation>
+    </message>
+    <message>
+        <source>rounded once, at the end</source>
+        <translation>redondeado una vez, al final</translation>
+    </message>
+    <message>
+        <source>rounded to a whole minute, halves away from zero</source>
+        <translation>redondeado a minutos enteros, las mitades alejándose de cero</translation>
+    </message>
+    <message>
+        <source>rounded to the nearest, halfway up</source>
+        <translation>redondeado al más cercano, las mitades hacia arriba</translation>
+    </message>
+    <message>
+        <source>rounded up</source>
+        <translation>redondeado hacia arriba</translation>
     </message>
     <message>
         <source>Rounding: %1</source>
@@ -1118,12 +1250,20 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Mostrar el &amp;tiempo en:</translation>
     </message>
     <message>
+        <source>shown with the decimals of the currency</source>
+        <translation>mostrado con los decimales de la moneda</translation>
+    </message>
+    <message>
         <source>Stands before everything else in the report</source>
         <translation>Va antes de todo lo demás en el informe</translation>
     </message>
     <message>
         <source>Stands behind everything else in the report</source>
         <translation>Va después de todo lo demás en el informe</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>Start Date</source>
@@ -1136,6 +1276,14 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>Start Weekday</source>
         <translation>Día de inicio</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Paso</translation>
+    </message>
+    <message>
+        <source>Sum of the rounded values</source>
+        <translation>Suma de los valores redondeados</translation>
     </message>
     <message>
         <source>&amp;Summary row</source>
@@ -1210,6 +1358,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Se muestran los calendarios del grupo elegido</translation>
     </message>
     <message>
+        <source>the event ends before it begins, or lies outside the period</source>
+        <translation>el evento termina antes de empezar o está fuera del periodo</translation>
+    </message>
+    <message>
         <source>The first column is the calendar's own identifier of the event</source>
         <translation>La primera columna es el identificador que el calendario da al evento</translation>
     </message>
@@ -1254,8 +1406,24 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>La media por evento</translation>
     </message>
     <message>
+        <source>the period begins after the event</source>
+        <translation>el periodo empieza después del evento</translation>
+    </message>
+    <message>
+        <source>the period ends before the event</source>
+        <translation>el periodo termina antes que el evento</translation>
+    </message>
+    <message>
+        <source>the rate divided by 60, rounded to fifteen decimals</source>
+        <translation>la tarifa dividida entre 60, redondeada a quince decimales</translation>
+    </message>
+    <message>
         <source>The rate of an hour, while all calendars have the same</source>
         <translation>La tarifa de una hora, mientras todos los calendarios tengan la misma</translation>
+    </message>
+    <message>
+        <source>the rate of the calendar “%1”</source>
+        <translation>la tarifa del calendario «%1»</translation>
     </message>
     <message>
         <source>The settings file %2 could not be read (%1) nor moved aside. Quillet starts with its first-run settings.</source>
@@ -1366,6 +1534,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Tiempo &amp;total</translation>
     </message>
     <message>
+        <source>Total: %1</source>
+        <translation>Total: %1</translation>
+    </message>
+    <message>
         <source>TSV</source>
         <translation>TSV</translation>
     </message>
@@ -1410,6 +1582,14 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Semana</translation>
     </message>
     <message>
+        <source>what a day has of a title is rounded as one</source>
+        <translation>lo que un día tiene de un título se redondea junto</translation>
+    </message>
+    <message>
+        <source>what adding up the rows as shown would give</source>
+        <translation>lo que daría sumar las filas tal como se muestran</translation>
+    </message>
+    <message>
         <source>What came is no list of versions.</source>
         <translation>Lo recibido no es una lista de versiones.</translation>
     </message>
@@ -1422,6 +1602,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Novedades</translation>
     </message>
     <message>
+        <source>what lasts past midnight is cut there</source>
+        <translation>lo que pasa de medianoche se corta ahí</translation>
+    </message>
+    <message>
         <source>What would you like to add?</source>
         <translation>¿Qué desea añadir?</translation>
     </message>
@@ -1432,6 +1616,14 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>When off, each calendar has a rate of its own: select the calendar in the main window to set it</source>
         <translation>Si no, cada calendario tiene su propia tarifa: seleccione el calendario en la ventana principal para fijarla</translation>
+    </message>
+    <message>
+        <source>where the series has it</source>
+        <translation>donde lo tiene la serie</translation>
+    </message>
+    <message>
+        <source>where the series has it; it was moved</source>
+        <translation>donde lo tiene la serie; se ha movido</translation>
     </message>
     <message>
         <source>Whether the reminder is done</source>

@@ -24,6 +24,10 @@
         <translation>%1 min</translation>
     </message>
     <message>
+        <source>%1 of “%2”</source>
+        <translation>%1 de « %2 »</translation>
+    </message>
+    <message>
         <source>%1%</source>
         <translation>%1 %</translation>
     </message>
@@ -148,6 +152,10 @@
         <translation>Autoriser l’accès aux calendriers…</translation>
     </message>
     <message>
+        <source>an all-day event, in days of 24 hours</source>
+        <translation>un événement d’une journée entière, en jours de 24 heures</translation>
+    </message>
+    <message>
         <source>an empty file</source>
         <translation>un fichier vide</translation>
     </message>
@@ -172,6 +180,14 @@
         <translation>Place les colonnes comme dans la disposition sélectionnée</translation>
     </message>
     <message>
+        <source>as it is shown</source>
+        <translation>tel qu’affiché</translation>
+    </message>
+    <message>
+        <source>At least</source>
+        <translation>Au moins</translation>
+    </message>
+    <message>
         <source>Average</source>
         <translation>Moyenne</translation>
     </message>
@@ -190,6 +206,14 @@
     <message>
         <source>Beginning Date</source>
         <translation>Date de début</translation>
+    </message>
+    <message>
+        <source>Billed</source>
+        <translation>Facturé</translation>
+    </message>
+    <message>
+        <source>Billed: %1 of “%2”</source>
+        <translation>Facturé : %1 de « %2 »</translation>
     </message>
     <message>
         <source>Bring column titles back, too</source>
@@ -328,6 +352,14 @@
         <translation>Coût</translation>
     </message>
     <message>
+        <source>Counts from</source>
+        <translation>Compte à partir de</translation>
+    </message>
+    <message>
+        <source>Counts until</source>
+        <translation>Compte jusqu’à</translation>
+    </message>
+    <message>
         <source>CSV</source>
         <translation>CSV</translation>
     </message>
@@ -420,6 +452,10 @@
         <translation>Durée</translation>
     </message>
     <message>
+        <source>each event is rounded by itself</source>
+        <translation>chaque événement est arrondi séparément</translation>
+    </message>
+    <message>
         <source>&amp;Edit</source>
         <translation>É&amp;dition</translation>
     </message>
@@ -446,6 +482,10 @@
     <message>
         <source>&amp;Encoding of saved files:</source>
         <translation>&amp;Encodage des fichiers enregistrés :</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>End Date</source>
@@ -492,8 +532,16 @@
         <translation>Avec notes : %1</translation>
     </message>
     <message>
+        <source>Exact</source>
+        <translation>Exact</translation>
+    </message>
+    <message>
         <source>exact %1, billed %2</source>
         <translation>exact %1, facturé %2</translation>
+    </message>
+    <message>
+        <source>Exact sum</source>
+        <translation>Somme exacte</translation>
     </message>
     <message>
         <source>Export as:</source>
@@ -528,6 +576,14 @@
         <translation>&amp;Dossier…</translation>
     </message>
     <message>
+        <source>for each event that begins</source>
+        <translation>pour chaque événement qui commence</translation>
+    </message>
+    <message>
+        <source>for which an all-day event counts</source>
+        <translation>pour lesquelles compte un événement d’une journée entière</translation>
+    </message>
+    <message>
         <source>General</source>
         <translation>Général</translation>
     </message>
@@ -556,8 +612,20 @@
         <translation>Heures</translation>
     </message>
     <message>
+        <source>Hours a day</source>
+        <translation>Heures par jour</translation>
+    </message>
+    <message>
         <source>&amp;Hours for each day:</source>
         <translation>&amp;Heures par jour :</translation>
+    </message>
+    <message>
+        <source>Hours for money</source>
+        <translation>Heures pour le coût</translation>
+    </message>
+    <message>
+        <source>hours times rate, exact</source>
+        <translation>heures multipliées par le taux, exact</translation>
     </message>
     <message>
         <source>Identifier</source>
@@ -570,6 +638,10 @@
     <message>
         <source>In Quotation Marks</source>
         <translation>Entre guillemets</translation>
+    </message>
+    <message>
+        <source>in the zone %1</source>
+        <translation>dans le fuseau %1</translation>
     </message>
     <message>
         <source>In titles, notes, locations and calendars, for programs that take every line for an event</source>
@@ -640,6 +712,10 @@
         <translation>&amp;Laisser de côté les événements sur la journée</translation>
     </message>
     <message>
+        <source>Length</source>
+        <translation>Longueur</translation>
+    </message>
+    <message>
         <source>Line Breaks</source>
         <translation>Retours à la ligne</translation>
     </message>
@@ -696,8 +772,24 @@
         <translation>Minutes</translation>
     </message>
     <message>
+        <source>minutes divided by 60, rounded to two decimals</source>
+        <translation>minutes divisées par 60, arrondies à deux décimales</translation>
+    </message>
+    <message>
+        <source>minutes divided by 60, shown with two decimals</source>
+        <translation>minutes divisées par 60, affichées avec deux décimales</translation>
+    </message>
+    <message>
+        <source>minutes times the rate of a minute, exact</source>
+        <translation>minutes multipliées par le taux d’une minute, exact</translation>
+    </message>
+    <message>
         <source>&amp;Money</source>
         <translation>Mont&amp;ants</translation>
+    </message>
+    <message>
+        <source>money is switched off</source>
+        <translation>les montants sont désactivés</translation>
     </message>
     <message>
         <source>Money:</source>
@@ -780,6 +872,10 @@
         <translation>Aucun logiciel de messagerie n’est configuré</translation>
     </message>
     <message>
+        <source>no rate is stored for the calendar “%1”</source>
+        <translation>aucun taux n’est enregistré pour le calendrier « %1 »</translation>
+    </message>
+    <message>
         <source>No software centre was found</source>
         <translation>Aucune logithèque n’a été trouvée</translation>
     </message>
@@ -820,6 +916,10 @@
         <translation>Nombre de rappels</translation>
     </message>
     <message>
+        <source>Occurrence</source>
+        <translation>Occurrence</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -842,6 +942,10 @@
     <message>
         <source>&amp;One rate for all calendars</source>
         <translation>&amp;Un seul taux pour tous les calendriers</translation>
+    </message>
+    <message>
+        <source>one rate for all calendars</source>
+        <translation>un taux pour tous les calendriers</translation>
     </message>
     <message>
         <source>Only files on this computer can be added as calendars.</source>
@@ -898,6 +1002,10 @@
     <message>
         <source>Problems</source>
         <translation>Problèmes</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>Produit</translation>
     </message>
     <message>
         <source>Put the report into a new message</source>
@@ -962,6 +1070,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Taux et coût, tant que les montants sont affichés</translation>
     </message>
     <message>
+        <source>Rate of a minute</source>
+        <translation>Taux d’une minute</translation>
+    </message>
+    <message>
         <source>Rates</source>
         <translation>Taux</translation>
     </message>
@@ -1004,6 +1116,26 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>Results</source>
         <translation>Résultats</translation>
+    </message>
+    <message>
+        <source>rounded down</source>
+        <translation>arrondi au-dessous</translation>
+    </message>
+    <message>
+        <source>rounded once, at the end</source>
+        <translation>arrondi une seule fois, à la fin</translation>
+    </message>
+    <message>
+        <source>rounded to a whole minute, halves away from zero</source>
+        <translation>arrondi à la minute entière, les moitiés en s’éloignant de zéro</translation>
+    </message>
+    <message>
+        <source>rounded to the nearest, halfway up</source>
+        <translation>arrondi au plus proche, la moitié vers le haut</translation>
+    </message>
+    <message>
+        <source>rounded up</source>
+        <translation>arrondi au-dessus</translation>
     </message>
     <message>
         <source>Rounding: %1</source>
@@ -1118,12 +1250,20 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Afficher la &amp;durée en :</translation>
     </message>
     <message>
+        <source>shown with the decimals of the currency</source>
+        <translation>affiché avec les décimales de la devise</translation>
+    </message>
+    <message>
         <source>Stands before everything else in the report</source>
         <translation>Placé avant tout le reste du rapport</translation>
     </message>
     <message>
         <source>Stands behind everything else in the report</source>
         <translation>Placé après tout le reste du rapport</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Début</translation>
     </message>
     <message>
         <source>Start Date</source>
@@ -1136,6 +1276,14 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>Start Weekday</source>
         <translation>Jour de début</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>Pas</translation>
+    </message>
+    <message>
+        <source>Sum of the rounded values</source>
+        <translation>Somme des valeurs arrondies</translation>
     </message>
     <message>
         <source>&amp;Summary row</source>
@@ -1210,6 +1358,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Les calendriers du groupe choisi sont affichés</translation>
     </message>
     <message>
+        <source>the event ends before it begins, or lies outside the period</source>
+        <translation>l’événement finit avant de commencer ou se trouve hors de la période</translation>
+    </message>
+    <message>
         <source>The first column is the calendar's own identifier of the event</source>
         <translation>La première colonne est l’identifiant que le calendrier donne à l’événement</translation>
     </message>
@@ -1254,8 +1406,24 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>La moyenne d’un événement</translation>
     </message>
     <message>
+        <source>the period begins after the event</source>
+        <translation>la période commence après l’événement</translation>
+    </message>
+    <message>
+        <source>the period ends before the event</source>
+        <translation>la période finit avant l’événement</translation>
+    </message>
+    <message>
+        <source>the rate divided by 60, rounded to fifteen decimals</source>
+        <translation>le taux divisé par 60, arrondi à quinze décimales</translation>
+    </message>
+    <message>
         <source>The rate of an hour, while all calendars have the same</source>
         <translation>Le taux d’une heure, tant que tous les calendriers ont le même</translation>
+    </message>
+    <message>
+        <source>the rate of the calendar “%1”</source>
+        <translation>le taux du calendrier « %1 »</translation>
     </message>
     <message>
         <source>The settings file %2 could not be read (%1) nor moved aside. Quillet starts with its first-run settings.</source>
@@ -1366,6 +1534,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Durée &amp;totale</translation>
     </message>
     <message>
+        <source>Total: %1</source>
+        <translation>Total : %1</translation>
+    </message>
+    <message>
         <source>TSV</source>
         <translation>TSV</translation>
     </message>
@@ -1410,6 +1582,14 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Semaine</translation>
     </message>
     <message>
+        <source>what a day has of a title is rounded as one</source>
+        <translation>ce qu’un jour a d’un même titre est arrondi ensemble</translation>
+    </message>
+    <message>
+        <source>what adding up the rows as shown would give</source>
+        <translation>ce que donnerait l’addition des lignes affichées</translation>
+    </message>
+    <message>
         <source>What came is no list of versions.</source>
         <translation>Ce qui a été reçu n’est pas une liste de versions.</translation>
     </message>
@@ -1422,6 +1602,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Nouveautés</translation>
     </message>
     <message>
+        <source>what lasts past midnight is cut there</source>
+        <translation>ce qui dure au-delà de minuit y est coupé</translation>
+    </message>
+    <message>
         <source>What would you like to add?</source>
         <translation>Que souhaitez-vous ajouter ?</translation>
     </message>
@@ -1432,6 +1616,14 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>When off, each calendar has a rate of its own: select the calendar in the main window to set it</source>
         <translation>Sinon, chaque calendrier a son propre taux : sélectionnez le calendrier dans la fenêtre principale pour le définir</translation>
+    </message>
+    <message>
+        <source>where the series has it</source>
+        <translation>là où la série le place</translation>
+    </message>
+    <message>
+        <source>where the series has it; it was moved</source>
+        <translation>là où la série le place ; il a été déplacé</translation>
     </message>
     <message>
         <source>Whether the reminder is done</source>

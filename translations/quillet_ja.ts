@@ -24,6 +24,10 @@
         <translation>%1分</translation>
     </message>
     <message>
+        <source>%1 of “%2”</source>
+        <translation>「%2」の%1</translation>
+    </message>
+    <message>
         <source>%1%</source>
         <translation>%1%</translation>
     </message>
@@ -148,6 +152,10 @@
         <translation>カレンダーへのアクセスを許可…</translation>
     </message>
     <message>
+        <source>an all-day event, in days of 24 hours</source>
+        <translation>終日の予定、24時間を1日とする</translation>
+    </message>
+    <message>
         <source>an empty file</source>
         <translation>空のファイル</translation>
     </message>
@@ -172,6 +180,14 @@
         <translation>選択したレイアウトどおりに列を並べます</translation>
     </message>
     <message>
+        <source>as it is shown</source>
+        <translation>表示される値</translation>
+    </message>
+    <message>
+        <source>At least</source>
+        <translation>最低</translation>
+    </message>
+    <message>
         <source>Average</source>
         <translation>平均</translation>
     </message>
@@ -190,6 +206,14 @@
     <message>
         <source>Beginning Date</source>
         <translation>開始日</translation>
+    </message>
+    <message>
+        <source>Billed</source>
+        <translation>請求</translation>
+    </message>
+    <message>
+        <source>Billed: %1 of “%2”</source>
+        <translation>請求: 「%2」の%1</translation>
     </message>
     <message>
         <source>Bring column titles back, too</source>
@@ -328,6 +352,14 @@
         <translation>料金</translation>
     </message>
     <message>
+        <source>Counts from</source>
+        <translation>計算の開始</translation>
+    </message>
+    <message>
+        <source>Counts until</source>
+        <translation>計算の終了</translation>
+    </message>
+    <message>
         <source>CSV</source>
         <translation>CSV</translation>
     </message>
@@ -420,6 +452,10 @@
         <translation>所要時間</translation>
     </message>
     <message>
+        <source>each event is rounded by itself</source>
+        <translation>予定ごとに丸めます</translation>
+    </message>
+    <message>
         <source>&amp;Edit</source>
         <translation>編集(&amp;E)</translation>
     </message>
@@ -446,6 +482,10 @@
     <message>
         <source>&amp;Encoding of saved files:</source>
         <translation>保存するファイルのエンコーディング(&amp;E):</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>終了</translation>
     </message>
     <message>
         <source>End Date</source>
@@ -492,8 +532,16 @@
         <translation>メモのある予定: %1</translation>
     </message>
     <message>
+        <source>Exact</source>
+        <translation>正確な値</translation>
+    </message>
+    <message>
         <source>exact %1, billed %2</source>
         <translation>正確には%1、請求は%2</translation>
+    </message>
+    <message>
+        <source>Exact sum</source>
+        <translation>正確な合計</translation>
     </message>
     <message>
         <source>Export as:</source>
@@ -528,6 +576,14 @@
         <translation>フォルダー(&amp;F)…</translation>
     </message>
     <message>
+        <source>for each event that begins</source>
+        <translation>開始する予定ごとに</translation>
+    </message>
+    <message>
+        <source>for which an all-day event counts</source>
+        <translation>終日の予定1日あたりの時間</translation>
+    </message>
+    <message>
         <source>General</source>
         <translation>全般</translation>
     </message>
@@ -556,8 +612,20 @@
         <translation>時間</translation>
     </message>
     <message>
+        <source>Hours a day</source>
+        <translation>1日の時間</translation>
+    </message>
+    <message>
         <source>&amp;Hours for each day:</source>
         <translation>1 日あたりの時間数(&amp;H):</translation>
+    </message>
+    <message>
+        <source>Hours for money</source>
+        <translation>料金計算の時間</translation>
+    </message>
+    <message>
+        <source>hours times rate, exact</source>
+        <translation>時間×単価、正確な値</translation>
     </message>
     <message>
         <source>Identifier</source>
@@ -570,6 +638,10 @@
     <message>
         <source>In Quotation Marks</source>
         <translation>引用符で囲む項目</translation>
+    </message>
+    <message>
+        <source>in the zone %1</source>
+        <translation>タイムゾーン%1で</translation>
     </message>
     <message>
         <source>In titles, notes, locations and calendars, for programs that take every line for an event</source>
@@ -640,6 +712,10 @@
         <translation>終日の予定を除外(&amp;L)</translation>
     </message>
     <message>
+        <source>Length</source>
+        <translation>長さ</translation>
+    </message>
+    <message>
         <source>Line Breaks</source>
         <translation>改行</translation>
     </message>
@@ -696,8 +772,24 @@
         <translation>分</translation>
     </message>
     <message>
+        <source>minutes divided by 60, rounded to two decimals</source>
+        <translation>分÷60、小数2桁に丸めた値</translation>
+    </message>
+    <message>
+        <source>minutes divided by 60, shown with two decimals</source>
+        <translation>分÷60、小数2桁で表示</translation>
+    </message>
+    <message>
+        <source>minutes times the rate of a minute, exact</source>
+        <translation>分×1分の単価、正確な値</translation>
+    </message>
+    <message>
         <source>&amp;Money</source>
         <translation>金額(&amp;M)</translation>
+    </message>
+    <message>
+        <source>money is switched off</source>
+        <translation>料金はオフです</translation>
     </message>
     <message>
         <source>Money:</source>
@@ -780,6 +872,10 @@
         <translation>メールソフトが設定されていません</translation>
     </message>
     <message>
+        <source>no rate is stored for the calendar “%1”</source>
+        <translation>カレンダー「%1」の単価は保存されていません</translation>
+    </message>
+    <message>
         <source>No software centre was found</source>
         <translation>ソフトウェアセンターが見つかりません</translation>
     </message>
@@ -820,6 +916,10 @@
         <translation>リマインダーの数</translation>
     </message>
     <message>
+        <source>Occurrence</source>
+        <translation>繰り返しの回</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
     </message>
@@ -842,6 +942,10 @@
     <message>
         <source>&amp;One rate for all calendars</source>
         <translation>すべてのカレンダーで同じ単価を使う(&amp;O)</translation>
+    </message>
+    <message>
+        <source>one rate for all calendars</source>
+        <translation>すべてのカレンダーに共通の単価</translation>
     </message>
     <message>
         <source>Only files on this computer can be added as calendars.</source>
@@ -898,6 +1002,10 @@
     <message>
         <source>Problems</source>
         <translation>問題</translation>
+    </message>
+    <message>
+        <source>Product</source>
+        <translation>積</translation>
     </message>
     <message>
         <source>Put the report into a new message</source>
@@ -962,6 +1070,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>金額の表示中は単価と料金</translation>
     </message>
     <message>
+        <source>Rate of a minute</source>
+        <translation>1分の単価</translation>
+    </message>
+    <message>
         <source>Rates</source>
         <translation>単価</translation>
     </message>
@@ -1004,6 +1116,26 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>Results</source>
         <translation>集計</translation>
+    </message>
+    <message>
+        <source>rounded down</source>
+        <translation>切り捨て</translation>
+    </message>
+    <message>
+        <source>rounded once, at the end</source>
+        <translation>丸めは最後に一度だけ</translation>
+    </message>
+    <message>
+        <source>rounded to a whole minute, halves away from zero</source>
+        <translation>1分単位に四捨五入</translation>
+    </message>
+    <message>
+        <source>rounded to the nearest, halfway up</source>
+        <translation>四捨五入</translation>
+    </message>
+    <message>
+        <source>rounded up</source>
+        <translation>切り上げ</translation>
     </message>
     <message>
         <source>Rounding: %1</source>
@@ -1118,12 +1250,20 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>時間の表示(&amp;T):</translation>
     </message>
     <message>
+        <source>shown with the decimals of the currency</source>
+        <translation>通貨の桁数で表示</translation>
+    </message>
+    <message>
         <source>Stands before everything else in the report</source>
         <translation>レポートの先頭に置かれます</translation>
     </message>
     <message>
         <source>Stands behind everything else in the report</source>
         <translation>レポートの末尾に置かれます</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
     </message>
     <message>
         <source>Start Date</source>
@@ -1136,6 +1276,14 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>Start Weekday</source>
         <translation>開始曜日</translation>
+    </message>
+    <message>
+        <source>Step</source>
+        <translation>単位</translation>
+    </message>
+    <message>
+        <source>Sum of the rounded values</source>
+        <translation>丸めた値の合計</translation>
     </message>
     <message>
         <source>&amp;Summary row</source>
@@ -1210,6 +1358,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>選んだグループのカレンダーが表示されます</translation>
     </message>
     <message>
+        <source>the event ends before it begins, or lies outside the period</source>
+        <translation>予定が開始より前に終わるか、期間の外にあります</translation>
+    </message>
+    <message>
         <source>The first column is the calendar's own identifier of the event</source>
         <translation>最初の列は、カレンダーが予定に付けた識別子です</translation>
     </message>
@@ -1254,8 +1406,24 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>予定 1 件あたりの平均</translation>
     </message>
     <message>
+        <source>the period begins after the event</source>
+        <translation>期間は予定より後に始まります</translation>
+    </message>
+    <message>
+        <source>the period ends before the event</source>
+        <translation>期間は予定より前に終わります</translation>
+    </message>
+    <message>
+        <source>the rate divided by 60, rounded to fifteen decimals</source>
+        <translation>単価÷60、小数15桁に丸めた値</translation>
+    </message>
+    <message>
         <source>The rate of an hour, while all calendars have the same</source>
         <translation>すべてのカレンダーで共通の、1 時間あたりの単価</translation>
+    </message>
+    <message>
+        <source>the rate of the calendar “%1”</source>
+        <translation>カレンダー「%1」の単価</translation>
     </message>
     <message>
         <source>The settings file %2 could not be read (%1) nor moved aside. Quillet starts with its first-run settings.</source>
@@ -1366,6 +1534,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>合計時間(&amp;T)</translation>
     </message>
     <message>
+        <source>Total: %1</source>
+        <translation>合計: %1</translation>
+    </message>
+    <message>
         <source>TSV</source>
         <translation>TSV</translation>
     </message>
@@ -1410,6 +1582,14 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>週</translation>
     </message>
     <message>
+        <source>what a day has of a title is rounded as one</source>
+        <translation>同じ日の同じタイトルをまとめて丸めます</translation>
+    </message>
+    <message>
+        <source>what adding up the rows as shown would give</source>
+        <translation>表示された行を足した値</translation>
+    </message>
+    <message>
         <source>What came is no list of versions.</source>
         <translation>受信した内容はバージョンの一覧ではありません。</translation>
     </message>
@@ -1422,6 +1602,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>新機能</translation>
     </message>
     <message>
+        <source>what lasts past midnight is cut there</source>
+        <translation>真夜中を越えるものはそこで分けられます</translation>
+    </message>
+    <message>
         <source>What would you like to add?</source>
         <translation>何を追加しますか？</translation>
     </message>
@@ -1432,6 +1616,14 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>When off, each calendar has a rate of its own: select the calendar in the main window to set it</source>
         <translation>オフのときは、カレンダーごとに単価があります。メインウィンドウでカレンダーを選択して設定してください</translation>
+    </message>
+    <message>
+        <source>where the series has it</source>
+        <translation>繰り返しでの位置</translation>
+    </message>
+    <message>
+        <source>where the series has it; it was moved</source>
+        <translation>繰り返しでの位置。移動されています</translation>
     </message>
     <message>
         <source>Whether the reminder is done</source>
