@@ -68,6 +68,10 @@
         <translation>eine unverständliche Wiederholung; nur ihr erster Termin wird gezeigt</translation>
     </message>
     <message>
+        <source>a spreadsheet would take the title “%1” for a formula</source>
+        <translation>eine Tabellenkalkulation hielte den Titel „%1“ für eine Formel</translation>
+    </message>
+    <message>
         <source>a text or event that is too long was cut</source>
         <translation>ein zu langer Text oder Termin wurde gekürzt</translation>
     </message>
@@ -1350,12 +1354,24 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Der Kalender konnte nicht hinzugefügt werden</translation>
     </message>
     <message>
+        <source>the calendar “%1” has no rate, others have one</source>
+        <translation>der Kalender „%1“ hat keinen Satz, andere haben einen</translation>
+    </message>
+    <message>
+        <source>the calendar “%1” has the rate 0, others have more</source>
+        <translation>der Kalender „%1“ hat den Satz 0, andere haben mehr</translation>
+    </message>
+    <message>
         <source>The calendar's own identifier of the reminder</source>
         <translation>Die Kennung, die der Kalender der Erinnerung gibt</translation>
     </message>
     <message>
         <source>The calendars of the chosen group are listed</source>
         <translation>Aufgeführt sind die Kalender der gewählten Gruppe</translation>
+    </message>
+    <message>
+        <source>the clock changes during “%1”; %2 count</source>
+        <translation>während „%1“ wird die Uhr umgestellt; %2 zählen</translation>
     </message>
     <message>
         <source>the event ends before it begins, or lies outside the period</source>
@@ -1408,6 +1424,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     <message>
         <source>the period begins after the event</source>
         <translation>der Zeitraum beginnt nach dem Termin</translation>
+    </message>
+    <message>
+        <source>the period cuts “%1”: %2 of %3 count</source>
+        <translation>der Zeitraum schneidet „%1“ ab: %2 von %3 zählen</translation>
     </message>
     <message>
         <source>the period ends before the event</source>
@@ -1670,6 +1690,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Ihre Termine erscheinen hier, sobald Sie es erlauben.</translation>
     </message>
     <message>
+        <source>“%1” and “%2” overlap for %3</source>
+        <translation>„%1“ und „%2“ überschneiden sich für %3</translation>
+    </message>
+    <message>
         <source>“%1” cannot be added: %2</source>
         <translation>„%1“ kann nicht hinzugefügt werden: %2</translation>
     </message>
@@ -1690,6 +1714,26 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>„%1“ gibt es nicht.</translation>
     </message>
     <message>
+        <source>“%1” ends before it begins</source>
+        <translation>„%1“ endet vor seinem Anfang</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 at night</source>
+        <translation>„%1“ hat %2 in der Nacht</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 on a holiday</source>
+        <translation>„%1“ hat %2 an einem Feiertag</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 on a weekend</source>
+        <translation>„%1“ hat %2 an einem Wochenende</translation>
+    </message>
+    <message>
+        <source>“%1” has no length</source>
+        <translation>„%1“ hat keine Länge</translation>
+    </message>
+    <message>
         <source>“%1” holds the calendars themselves.</source>
         <translation>„%1“ enthält die Kalender selbst.</translation>
     </message>
@@ -1698,12 +1742,28 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>„%1“ ist schon unter den Kalendern.</translation>
     </message>
     <message>
+        <source>“%1” is in the calendars “%2” and “%3”</source>
+        <translation>„%1“ steht in den Kalendern „%2“ und „%3“</translation>
+    </message>
+    <message>
         <source>“%1” is neither a folder nor an .ics file.</source>
         <translation>„%1“ ist weder ein Ordner noch eine .ics-Datei.</translation>
     </message>
     <message>
         <source>“%1” is not a rate; the old one was kept.</source>
         <translation>„%1“ ist kein Satz; der alte wurde behalten.</translation>
+    </message>
+    <message>
+        <source>“%1” is there twice at once, for %2</source>
+        <translation>„%1“ ist zweimal zugleich da, für %2</translation>
+    </message>
+    <message>
+        <source>“%1” lasts %2, longer than a working day of %3</source>
+        <translation>„%1“ dauert %2, länger als ein Arbeitstag von %3</translation>
+    </message>
+    <message>
+        <source>“%1” lasts all day and counts %2</source>
+        <translation>„%1“ dauert den ganzen Tag und zählt %2</translation>
     </message>
 </context>
 </TS>

@@ -68,6 +68,10 @@
         <translation>una repetición incomprensible; solo se muestra su primer evento</translation>
     </message>
     <message>
+        <source>a spreadsheet would take the title “%1” for a formula</source>
+        <translation>una hoja de cálculo tomaría el título «%1» por una fórmula</translation>
+    </message>
+    <message>
         <source>a text or event that is too long was cut</source>
         <translation>se ha recortado un texto o evento demasiado largo</translation>
     </message>
@@ -1350,12 +1354,24 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>No se ha podido añadir el calendario</translation>
     </message>
     <message>
+        <source>the calendar “%1” has no rate, others have one</source>
+        <translation>el calendario «%1» no tiene tarifa, otros sí</translation>
+    </message>
+    <message>
+        <source>the calendar “%1” has the rate 0, others have more</source>
+        <translation>el calendario «%1» tiene la tarifa 0, otros más</translation>
+    </message>
+    <message>
         <source>The calendar's own identifier of the reminder</source>
         <translation>El identificador que el calendario da al recordatorio</translation>
     </message>
     <message>
         <source>The calendars of the chosen group are listed</source>
         <translation>Se muestran los calendarios del grupo elegido</translation>
+    </message>
+    <message>
+        <source>the clock changes during “%1”; %2 count</source>
+        <translation>durante «%1» cambia la hora; cuentan %2</translation>
     </message>
     <message>
         <source>the event ends before it begins, or lies outside the period</source>
@@ -1408,6 +1424,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>the period begins after the event</source>
         <translation>el periodo empieza después del evento</translation>
+    </message>
+    <message>
+        <source>the period cuts “%1”: %2 of %3 count</source>
+        <translation>el periodo corta «%1»: cuentan %2 de %3</translation>
     </message>
     <message>
         <source>the period ends before the event</source>
@@ -1670,6 +1690,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Sus eventos aparecerán aquí en cuanto lo permita.</translation>
     </message>
     <message>
+        <source>“%1” and “%2” overlap for %3</source>
+        <translation>«%1» y «%2» coinciden durante %3</translation>
+    </message>
+    <message>
         <source>“%1” cannot be added: %2</source>
         <translation>«%1» no se puede añadir: %2</translation>
     </message>
@@ -1690,6 +1714,26 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>«%1» no existe.</translation>
     </message>
     <message>
+        <source>“%1” ends before it begins</source>
+        <translation>«%1» termina antes de empezar</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 at night</source>
+        <translation>«%1» tiene %2 de noche</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 on a holiday</source>
+        <translation>«%1» tiene %2 en un día festivo</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 on a weekend</source>
+        <translation>«%1» tiene %2 en fin de semana</translation>
+    </message>
+    <message>
+        <source>“%1” has no length</source>
+        <translation>«%1» no tiene duración</translation>
+    </message>
+    <message>
         <source>“%1” holds the calendars themselves.</source>
         <translation>«%1» contiene los propios calendarios.</translation>
     </message>
@@ -1698,12 +1742,28 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>«%1» ya está entre los calendarios.</translation>
     </message>
     <message>
+        <source>“%1” is in the calendars “%2” and “%3”</source>
+        <translation>«%1» está en los calendarios «%2» y «%3»</translation>
+    </message>
+    <message>
         <source>“%1” is neither a folder nor an .ics file.</source>
         <translation>«%1» no es ni una carpeta ni un archivo .ics.</translation>
     </message>
     <message>
         <source>“%1” is not a rate; the old one was kept.</source>
         <translation>«%1» no es una tarifa; se ha conservado la anterior.</translation>
+    </message>
+    <message>
+        <source>“%1” is there twice at once, for %2</source>
+        <translation>«%1» está dos veces a la vez, durante %2</translation>
+    </message>
+    <message>
+        <source>“%1” lasts %2, longer than a working day of %3</source>
+        <translation>«%1» dura %2, más que una jornada de %3</translation>
+    </message>
+    <message>
+        <source>“%1” lasts all day and counts %2</source>
+        <translation>«%1» dura todo el día y cuenta %2</translation>
     </message>
 </context>
 </TS>

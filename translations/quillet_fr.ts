@@ -68,6 +68,10 @@
         <translation>une répétition incompréhensible ; seul son premier événement est affiché</translation>
     </message>
     <message>
+        <source>a spreadsheet would take the title “%1” for a formula</source>
+        <translation>un tableur prendrait le titre « %1 » pour une formule</translation>
+    </message>
+    <message>
         <source>a text or event that is too long was cut</source>
         <translation>un texte ou un événement trop long a été coupé</translation>
     </message>
@@ -1350,12 +1354,24 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Le calendrier n’a pas pu être ajouté</translation>
     </message>
     <message>
+        <source>the calendar “%1” has no rate, others have one</source>
+        <translation>le calendrier « %1 » n’a pas de taux, d’autres en ont un</translation>
+    </message>
+    <message>
+        <source>the calendar “%1” has the rate 0, others have more</source>
+        <translation>le calendrier « %1 » a le taux 0, d’autres ont plus</translation>
+    </message>
+    <message>
         <source>The calendar's own identifier of the reminder</source>
         <translation>L’identifiant que le calendrier donne au rappel</translation>
     </message>
     <message>
         <source>The calendars of the chosen group are listed</source>
         <translation>Les calendriers du groupe choisi sont affichés</translation>
+    </message>
+    <message>
+        <source>the clock changes during “%1”; %2 count</source>
+        <translation>l’heure change pendant « %1 » ; %2 comptent</translation>
     </message>
     <message>
         <source>the event ends before it begins, or lies outside the period</source>
@@ -1408,6 +1424,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>the period begins after the event</source>
         <translation>la période commence après l’événement</translation>
+    </message>
+    <message>
+        <source>the period cuts “%1”: %2 of %3 count</source>
+        <translation>la période coupe « %1 » : %2 sur %3 comptent</translation>
     </message>
     <message>
         <source>the period ends before the event</source>
@@ -1670,6 +1690,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Vos événements s’affichent ici dès que vous l’autorisez.</translation>
     </message>
     <message>
+        <source>“%1” and “%2” overlap for %3</source>
+        <translation>« %1 » et « %2 » se chevauchent pendant %3</translation>
+    </message>
+    <message>
         <source>“%1” cannot be added: %2</source>
         <translation>« %1 » ne peut pas être ajouté : %2</translation>
     </message>
@@ -1690,6 +1714,26 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>« %1 » n’existe pas.</translation>
     </message>
     <message>
+        <source>“%1” ends before it begins</source>
+        <translation>« %1 » finit avant de commencer</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 at night</source>
+        <translation>« %1 » a %2 de nuit</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 on a holiday</source>
+        <translation>« %1 » a %2 un jour férié</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 on a weekend</source>
+        <translation>« %1 » a %2 le week-end</translation>
+    </message>
+    <message>
+        <source>“%1” has no length</source>
+        <translation>« %1 » n’a pas de durée</translation>
+    </message>
+    <message>
         <source>“%1” holds the calendars themselves.</source>
         <translation>« %1 » contient les calendriers eux-mêmes.</translation>
     </message>
@@ -1698,12 +1742,28 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>« %1 » figure déjà parmi les calendriers.</translation>
     </message>
     <message>
+        <source>“%1” is in the calendars “%2” and “%3”</source>
+        <translation>« %1 » est dans les calendriers « %2 » et « %3 »</translation>
+    </message>
+    <message>
         <source>“%1” is neither a folder nor an .ics file.</source>
         <translation>« %1 » n’est ni un dossier ni un fichier .ics.</translation>
     </message>
     <message>
         <source>“%1” is not a rate; the old one was kept.</source>
         <translation>« %1 » n’est pas un taux ; l’ancien a été conservé.</translation>
+    </message>
+    <message>
+        <source>“%1” is there twice at once, for %2</source>
+        <translation>« %1 » est là deux fois à la fois, pendant %2</translation>
+    </message>
+    <message>
+        <source>“%1” lasts %2, longer than a working day of %3</source>
+        <translation>« %1 » dure %2, plus qu’une journée de travail de %3</translation>
+    </message>
+    <message>
+        <source>“%1” lasts all day and counts %2</source>
+        <translation>« %1 » dure toute la journée et compte %2</translation>
     </message>
 </context>
 </TS>

@@ -68,6 +68,10 @@
         <translation>解釈できない繰り返しがあり、最初の予定だけを表示します</translation>
     </message>
     <message>
+        <source>a spreadsheet would take the title “%1” for a formula</source>
+        <translation>タイトル「%1」は表計算ソフトで数式と見なされます</translation>
+    </message>
+    <message>
         <source>a text or event that is too long was cut</source>
         <translation>長すぎる文章または予定を切り詰めました</translation>
     </message>
@@ -1350,12 +1354,24 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>カレンダーを追加できませんでした</translation>
     </message>
     <message>
+        <source>the calendar “%1” has no rate, others have one</source>
+        <translation>カレンダー「%1」には単価がなく、ほかにはあります</translation>
+    </message>
+    <message>
+        <source>the calendar “%1” has the rate 0, others have more</source>
+        <translation>カレンダー「%1」の単価は0で、ほかはそれより上です</translation>
+    </message>
+    <message>
         <source>The calendar's own identifier of the reminder</source>
         <translation>カレンダーがリマインダーに付けた識別子</translation>
     </message>
     <message>
         <source>The calendars of the chosen group are listed</source>
         <translation>選んだグループのカレンダーが表示されます</translation>
+    </message>
+    <message>
+        <source>the clock changes during “%1”; %2 count</source>
+        <translation>「%1」の間に時刻が切り替わります。計算に入るのは%2です</translation>
     </message>
     <message>
         <source>the event ends before it begins, or lies outside the period</source>
@@ -1408,6 +1424,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>the period begins after the event</source>
         <translation>期間は予定より後に始まります</translation>
+    </message>
+    <message>
+        <source>the period cuts “%1”: %2 of %3 count</source>
+        <translation>期間が「%1」を切り取ります: %3のうち%2が計算に入ります</translation>
     </message>
     <message>
         <source>the period ends before the event</source>
@@ -1670,6 +1690,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>許可すると、ここに予定が表示されます。</translation>
     </message>
     <message>
+        <source>“%1” and “%2” overlap for %3</source>
+        <translation>「%1」と「%2」が%3重なっています</translation>
+    </message>
+    <message>
         <source>“%1” cannot be added: %2</source>
         <translation>「%1」を追加できません: %2</translation>
     </message>
@@ -1690,6 +1714,26 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>「%1」は存在しません。</translation>
     </message>
     <message>
+        <source>“%1” ends before it begins</source>
+        <translation>「%1」は開始より前に終わっています</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 at night</source>
+        <translation>「%1」は夜間に%2あります</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 on a holiday</source>
+        <translation>「%1」は祝日に%2あります</translation>
+    </message>
+    <message>
+        <source>“%1” has %2 on a weekend</source>
+        <translation>「%1」は週末に%2あります</translation>
+    </message>
+    <message>
+        <source>“%1” has no length</source>
+        <translation>「%1」には長さがありません</translation>
+    </message>
+    <message>
         <source>“%1” holds the calendars themselves.</source>
         <translation>「%1」はカレンダー自体の保存場所です。</translation>
     </message>
@@ -1698,12 +1742,28 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>「%1」はすでにカレンダーに含まれています。</translation>
     </message>
     <message>
+        <source>“%1” is in the calendars “%2” and “%3”</source>
+        <translation>「%1」はカレンダー「%2」と「%3」にあります</translation>
+    </message>
+    <message>
         <source>“%1” is neither a folder nor an .ics file.</source>
         <translation>「%1」はフォルダーでも .ics ファイルでもありません。</translation>
     </message>
     <message>
         <source>“%1” is not a rate; the old one was kept.</source>
         <translation>「%1」は単価ではありません。前の値を残しました。</translation>
+    </message>
+    <message>
+        <source>“%1” is there twice at once, for %2</source>
+        <translation>「%1」が同時に2件あり、%2重なっています</translation>
+    </message>
+    <message>
+        <source>“%1” lasts %2, longer than a working day of %3</source>
+        <translation>「%1」は%2で、1日の勤務時間%3を超えています</translation>
+    </message>
+    <message>
+        <source>“%1” lasts all day and counts %2</source>
+        <translation>「%1」は終日で、%2と数えられます</translation>
     </message>
 </context>
 </TS>
