@@ -28,6 +28,10 @@
         <translation>%1 de «%2»</translation>
     </message>
     <message>
+        <source>%1 on %2</source>
+        <translation>%1 frente a %2</translation>
+    </message>
+    <message>
         <source>%1%</source>
         <translation>%1 %</translation>
     </message>

@@ -28,6 +28,10 @@
         <translation>「%2」の%1</translation>
     </message>
     <message>
+        <source>%1 on %2</source>
+        <translation>%2比%1</translation>
+    </message>
+    <message>
         <source>%1%</source>
         <translation>%1%</translation>
     </message>
