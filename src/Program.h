@@ -58,7 +58,7 @@ private:
     ProgramPaths paths_;
     ApplicationService& service_;
     SettingsFile settings_;
-    QString timeZone_;
+    std::shared_ptr<UserTimeZone> timeZone_;
     LocaleNames locales_;
     IcuCalendarArithmetic gregorian_;
     IcuCalendarArithmetic currentCalendar_;

@@ -157,7 +157,10 @@ class Event:
 # --- The locale
 
 class Locale:
-    def __init__(self, name, zone_name):
+    """Formats local times: ICU has zone rules of its own, which are not the system's."""
+
+    def __init__(self, name, zone):
+        self.zone = zone
         locale = icu.Locale(name)
         self.separator = icu.DecimalFormatSymbols(locale).getSymbol(
             icu.DecimalFormatSymbols.kDecimalSeparatorSymbol)
@@ -168,16 +171,19 @@ class Locale:
         self.times = icu.DateFormat.createTimeInstance(icu.DateFormat.kShort, locale)
         self.weekdays = icu.SimpleDateFormat("EEEE", locale)
         for formatter in (self.dates, self.times, self.weekdays):
-            formatter.setTimeZone(icu.TimeZone.createTimeZone(zone_name))
+            formatter.setTimeZone(icu.TimeZone.getGMT())
+
+    def local(self, instant):
+        return float(instant + self.zone.local(instant).utcoffset().total_seconds())
 
     def date(self, instant):
-        return units(self.dates.format(float(instant)))
+        return units(self.dates.format(self.local(instant)))
 
     def time(self, instant):
-        return units(self.times.format(float(instant)))
+        return units(self.times.format(self.local(instant)))
 
     def weekday(self, instant):
-        return units(self.weekdays.format(float(instant)))
+        return units(self.weekdays.format(self.local(instant)))
 
     def number(self, value):
         if value.is_nan():
@@ -226,8 +232,8 @@ def duration_text(minutes):
 
 class Case:
     def __init__(self, case):
-        self.locale = Locale(case["locale"], case["zone"])
         self.zone = Zone(case["zone"])
+        self.locale = Locale(case["locale"], self.zone)
         self.settings = {key: value for key, value in case["settings"].items() if value is not None}
         first, last = (date.fromisoformat(case[key]) for key in ("firstDay", "lastDay"))
         self.filter_start = self.zone.midnight(first)

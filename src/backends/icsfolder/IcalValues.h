@@ -1,7 +1,7 @@
 #pragma once
 
 #include "backends/icsfolder/RecurrenceRule.h"
-#include "backends/icsfolder/ZoneRules.h"
+#include "platform/ZoneRules.h"
 
 #include <QString>
 

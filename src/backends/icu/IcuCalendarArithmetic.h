@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/CalendarArithmetic.h"
+#include "platform/UserTimeZone.h"
 
 #include <QString>
 
@@ -14,10 +15,14 @@ enum class CalendarSystem {
     OfLocale,
 };
 
-/// Calendar arithmetic by ICU.
+/// Calendar arithmetic: the calendar is ICU's, which counts in local time and knows no zone; what
+/// instant a local time is the user's zone tells.
 class IcuCalendarArithmetic final : public CalendarArithmetic {
 public:
-    /// An ICU locale name and an IANA zone name; unknown ones count as en_US and UTC.
+    /// An ICU locale name; an unknown one counts as en_US. A change of the zone is followed.
+    IcuCalendarArithmetic(const QString& locale, std::shared_ptr<const UserTimeZone> zone,
+                          CalendarSystem system);
+    /// In a zone that stays, by its name; an unknown one counts as UTC.
     IcuCalendarArithmetic(const QString& locale, const QString& timeZone, CalendarSystem system);
     ~IcuCalendarArithmetic() override;
     IcuCalendarArithmetic(const IcuCalendarArithmetic&) = delete;
@@ -32,7 +37,13 @@ public:
 
 private:
     struct Prototype;
+    [[nodiscard]] std::chrono::sys_seconds movedMonths(std::chrono::sys_seconds second,
+                                                       const DateOffset& offset) const;
+    [[nodiscard]] std::chrono::sys_seconds movedDays(std::chrono::sys_seconds second,
+                                                     int count) const;
+
     std::unique_ptr<Prototype> prototype_;
+    std::shared_ptr<const UserTimeZone> zone_;
 };
 
 } // namespace quillet

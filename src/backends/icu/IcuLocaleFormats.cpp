@@ -54,6 +54,7 @@ QString formatted(const LocalizedNumberFormatter& formatter, const Decimal& valu
 struct IcuLocaleFormats::Formatters {
     /// ICU's date formatters and its parser change while they work.
     mutable std::mutex mutex;
+    std::shared_ptr<const UserTimeZone> zone;
     std::unique_ptr<icu::DateFormat> shortDate;
     std::unique_ptr<icu::DateFormat> longDate;
     std::unique_ptr<icu::DateFormat> shortTime;
@@ -69,17 +70,24 @@ struct IcuLocaleFormats::Formatters {
     QString currencySymbol;
 
     [[nodiscard]] QString text(const icu::DateFormat& format, Instant instant) const {
+        const auto second = std::chrono::floor<std::chrono::seconds>(instant);
+        const auto local = zone->rules().toLocal(second).time_since_epoch() + (instant - second);
         const std::scoped_lock lock(mutex);
         icu::UnicodeString result;
-        format.format(static_cast<UDate>(instant.time_since_epoch().count()), result);
+        format.format(static_cast<UDate>(local.count()), result);
         return fromIcu(result);
     }
 };
 
 IcuLocaleFormats::IcuLocaleFormats(const LocaleNames& locales, const QString& timeZone)
+    : IcuLocaleFormats(locales, UserTimeZone::named(timeZone)) {}
+
+IcuLocaleFormats::IcuLocaleFormats(const LocaleNames& locales,
+                                   std::shared_ptr<const UserTimeZone> zone)
     : formatters_(std::make_unique<Formatters>()) {
     UErrorCode status = U_ZERO_ERROR;
     Formatters& formatters = *formatters_;
+    formatters.zone = std::move(zone);
     const icu::Locale time = toLocale(locales.time);
     const icu::Locale monetary = toLocale(locales.monetary);
     formatters.numericLocale = toLocale(locales.numeric);
@@ -94,7 +102,7 @@ IcuLocaleFormats::IcuLocaleFormats(const LocaleNames& locales, const QString& ti
     for (icu::DateFormat* format :
          {formatters.shortDate.get(), formatters.longDate.get(), formatters.shortTime.get(),
           formatters.weekday.get(), formatters.month.get()}) {
-        format->adoptTimeZone(icu::TimeZone::createTimeZone(toIcu(timeZone)));
+        format->setTimeZone(*icu::TimeZone::getGMT());
     }
 
     const icu::DecimalFormatSymbols symbols(formatters.numericLocale, status);

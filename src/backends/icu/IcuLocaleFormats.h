@@ -2,15 +2,19 @@
 
 #include "backends/icu/LocaleNames.h"
 #include "platform/LocaleFormats.h"
+#include "platform/UserTimeZone.h"
 
 #include <memory>
 
 namespace quillet {
 
-/// The texts of a locale by ICU. Formatters are made once.
+/// The texts of a locale by ICU. Formatters are made once. They format local times: what time it is
+/// in the user's zone is not for ICU to say, which has zone rules of its own, of another year.
 class IcuLocaleFormats final : public LocaleFormats {
 public:
-    /// An unknown zone name counts as UTC.
+    /// A change of the zone is followed.
+    IcuLocaleFormats(const LocaleNames& locales, std::shared_ptr<const UserTimeZone> zone);
+    /// In a zone that stays, by its name; an unknown one counts as UTC.
     IcuLocaleFormats(const LocaleNames& locales, const QString& timeZone);
     ~IcuLocaleFormats() override;
     IcuLocaleFormats(const IcuLocaleFormats&) = delete;

@@ -1,12 +1,10 @@
 #include "backends/icu/LocaleNames.h"
 
 #include <unicode/locid.h>
-#include <unicode/timezone.h>
 #include <unicode/uloc.h>
 
 #include <QByteArray>
 
-#include <memory>
 #include <string>
 
 namespace quillet {
@@ -58,16 +56,6 @@ LocaleNames localeNames(const EnvironmentReader& environment) {
 
 LocaleNames localeNamesOfProcess() {
     return localeNames(processEnvironment());
-}
-
-QString systemTimeZoneName() {
-    const std::unique_ptr<icu::TimeZone> zone(icu::TimeZone::detectHostTimeZone());
-    icu::UnicodeString identifier;
-    if (!zone || *zone == icu::TimeZone::getUnknown()) {
-        return QStringLiteral("UTC");
-    }
-    zone->getID(identifier);
-    return QString::fromUtf16(identifier.getBuffer(), identifier.length());
 }
 
 } // namespace quillet

@@ -24,7 +24,4 @@ struct LocaleNames {
 /// The same for the environment of this process.
 [[nodiscard]] LocaleNames localeNamesOfProcess();
 
-/// The IANA name of the computer's time zone; "UTC" when it has none that ICU knows.
-[[nodiscard]] QString systemTimeZoneName();
-
 } // namespace quillet

@@ -1,4 +1,4 @@
-#include "backends/icsfolder/ZoneRules.h"
+#include "platform/ZoneRules.h"
 
 #include <QDateTime>
 

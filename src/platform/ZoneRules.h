@@ -20,13 +20,19 @@ public:
 
     /// `firstOffset` holds before the first transition. Transitions come in any order.
     explicit ZoneRules(std::chrono::seconds firstOffset, std::vector<Transition> transitions);
-    /// The zone's rules from 1900 to 2200.
+    /// The zone's rules from 1800 to 2200; what holds at the ends holds beyond them. UTC's for a
+    /// zone that is not valid.
     [[nodiscard]] static std::shared_ptr<const ZoneRules> fromTimeZone(const QTimeZone& zone);
 
     /// A time that a forward jump of the clock skips is read with the offset before the jump (02:30
     /// in Berlin in spring is 01:30 UTC), one that comes twice means the first.
     [[nodiscard]] std::chrono::sys_seconds toInstant(LocalSeconds local) const;
+    /// The same, but for the first second of a day: one that a forward jump skips is the instant
+    /// of the jump, where the day begins.
+    [[nodiscard]] std::chrono::sys_seconds firstInstantFrom(LocalSeconds local) const;
     [[nodiscard]] LocalSeconds toLocal(std::chrono::sys_seconds instant) const;
+    /// Local time less UTC.
+    [[nodiscard]] std::chrono::seconds offsetAt(std::chrono::sys_seconds instant) const;
 
 private:
     struct Entry {

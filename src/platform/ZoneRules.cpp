@@ -1,4 +1,4 @@
-#include "backends/icsfolder/ZoneRules.h"
+#include "platform/ZoneRules.h"
 
 #include <QDateTime>
 
@@ -22,7 +22,10 @@ ZoneRules::ZoneRules(seconds firstOffset, std::vector<Transition> transitions)
 }
 
 std::shared_ptr<const ZoneRules> ZoneRules::fromTimeZone(const QTimeZone& zone) {
-    const QDateTime first(QDate(1900, 1, 1), QTime(0, 0), Qt::UTC);
+    if (!zone.isValid()) {
+        return std::make_shared<const ZoneRules>(seconds(0), std::vector<Transition>());
+    }
+    const QDateTime first(QDate(1800, 1, 1), QTime(0, 0), Qt::UTC);
     const QDateTime last(QDate(2200, 1, 1), QTime(0, 0), Qt::UTC);
     std::vector<Transition> transitions;
     const auto add = [&](const QDateTime& at) {
@@ -53,10 +56,22 @@ sys_seconds ZoneRules::toInstant(LocalSeconds local) const {
     return sys_seconds(local.time_since_epoch() - offset);
 }
 
-LocalSeconds ZoneRules::toLocal(sys_seconds instant) const {
+sys_seconds ZoneRules::firstInstantFrom(LocalSeconds local) const {
+    const sys_seconds instant = toInstant(local);
+    if (toLocal(instant) == local) {
+        return instant;
+    }
     const auto next = std::ranges::upper_bound(entries_, instant, {}, &Entry::at);
-    const seconds offset = next == entries_.begin() ? firstOffset_ : std::prev(next)->offsetAfter;
-    return LocalSeconds(instant.time_since_epoch() + offset);
+    return next == entries_.begin() ? instant : std::prev(next)->at;
+}
+
+LocalSeconds ZoneRules::toLocal(sys_seconds instant) const {
+    return LocalSeconds(instant.time_since_epoch() + offsetAt(instant));
+}
+
+seconds ZoneRules::offsetAt(sys_seconds instant) const {
+    const auto next = std::ranges::upper_bound(entries_, instant, {}, &Entry::at);
+    return next == entries_.begin() ? firstOffset_ : std::prev(next)->offsetAfter;
 }
 
 } // namespace quillet
