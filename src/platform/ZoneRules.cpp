@@ -3,6 +3,7 @@
 #include <QDateTime>
 
 #include <algorithm>
+#include <ranges>
 
 namespace quillet {
 
@@ -48,6 +49,35 @@ std::shared_ptr<const ZoneRules> ZoneRules::fromTimeZone(const QTimeZone& zone) 
     }
     return std::make_shared<const ZoneRules>(seconds(zone.offsetFromUtc(first)),
                                              std::move(transitions));
+}
+
+std::shared_ptr<const ZoneRules> ZoneRules::within(const Reach& reach,
+                                                   const ZoneRules& others) const {
+    std::vector<Transition> transitions;
+    const auto take = [&](const Entry& entry) {
+        transitions.push_back({entry.at, entry.offsetAfter});
+    };
+    const auto isOwn = [&](const Entry& entry) {
+        return entry.at >= reach.first && (!reach.end || entry.at < *reach.end);
+    };
+    for (const Entry& entry : others.entries_) {
+        if (entry.at < reach.first) {
+            take(entry);
+        }
+    }
+    if (!reach.end || reach.first < *reach.end) {
+        transitions.push_back({reach.first, offsetAt(reach.first)});
+    }
+    std::ranges::for_each(entries_ | std::views::filter(isOwn), take);
+    if (reach.end) {
+        transitions.push_back({*reach.end, others.offsetAt(*reach.end)});
+        for (const Entry& entry : others.entries_) {
+            if (entry.at > *reach.end) {
+                take(entry);
+            }
+        }
+    }
+    return std::make_shared<const ZoneRules>(others.firstOffset_, std::move(transitions));
 }
 
 sys_seconds ZoneRules::toInstant(LocalSeconds local) const {

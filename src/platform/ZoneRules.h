@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace quillet {
@@ -23,6 +24,15 @@ public:
     /// The zone's rules from 1800 to 2200; what holds at the ends holds beyond them. UTC's for a
     /// zone that is not valid.
     [[nodiscard]] static std::shared_ptr<const ZoneRules> fromTimeZone(const QTimeZone& zone);
+
+    /// When rules hold: from an instant on and, where they end, up to another.
+    struct Reach {
+        std::chrono::sys_seconds first;
+        std::optional<std::chrono::sys_seconds> end;
+    };
+    /// These rules within the reach, and the others before and behind it.
+    [[nodiscard]] std::shared_ptr<const ZoneRules> within(const Reach& reach,
+                                                          const ZoneRules& others) const;
 
     /// A time that a forward jump of the clock skips is read with the offset before the jump (02:30
     /// in Berlin in spring is 01:30 UTC), one that comes twice means the first.

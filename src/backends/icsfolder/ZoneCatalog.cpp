@@ -1,10 +1,7 @@
 #include "backends/icsfolder/ZoneCatalog.h"
 
 #include "backends/icsfolder/IcalValues.h"
-
-#include <QFileInfo>
-#include <QHash>
-#include <QRegularExpression>
+#include "backends/icsfolder/ZoneNames.h"
 
 #include <algorithm>
 
@@ -82,7 +79,44 @@ void addOnsets(const Observance& observance, WorkBudget& budget,
     }
 }
 
-ZoneCatalog::Definition definitionFrom(const char* block) {
+/// What the parts of a definition say, and for when.
+struct Changes {
+    std::vector<ZoneRules::Transition> transitions;
+    std::optional<std::pair<sys_seconds, seconds>> earliest;
+    std::optional<sys_seconds> latest;
+    /// Whether a rule in it goes on for ever.
+    bool isOpen = false;
+    /// Whether the offset is always the same.
+    bool isFixed = true;
+};
+
+bool isOpen(const icalrecurrencetype& recurrence) {
+    return recurrence.count == 0 && icaltime_is_null_time(recurrence.until) != 0;
+}
+
+void addChanges(const Observance& observance, WorkBudget& budget, Changes& changes) {
+    std::vector<LocalSeconds> onsets;
+    addOnsets(observance, budget, onsets);
+    changes.isOpen = changes.isOpen || std::ranges::any_of(observance.recurrences, isOpen);
+    for (const LocalSeconds onset : onsets) {
+        const sys_seconds at(onset.time_since_epoch() - *observance.offsetFrom);
+        changes.transitions.push_back({at, *observance.offsetTo});
+        changes.latest = std::max(changes.latest.value_or(at), at);
+        if (!changes.earliest || at < changes.earliest->first) {
+            changes.earliest = {at, *observance.offsetFrom};
+        }
+    }
+    changes.isFixed = changes.isFixed && *observance.offsetFrom == *observance.offsetTo &&
+                      *observance.offsetTo == changes.transitions.front().offsetAfter;
+}
+
+struct ReadDefinition {
+    ZoneCatalog::Definition definition;
+    /// Nothing for one offset for ever, which leaves nothing open.
+    std::optional<ZoneRules::Reach> reach;
+};
+
+ReadDefinition definitionFrom(const char* block) {
     const ComponentPointer component(icalparser_parse_string(block));
     if (!component) {
         return {};
@@ -93,82 +127,30 @@ ZoneCatalog::Definition definitionFrom(const char* block) {
     if (nameText == nullptr) {
         return {};
     }
-    std::vector<ZoneRules::Transition> transitions;
-    std::optional<std::pair<sys_seconds, seconds>> earliest;
+    Changes changes;
     WorkBudget budget(definitionBudget, unitsPerChange);
     for (icalcomponent* part =
              icalcomponent_get_first_component(component.get(), ICAL_ANY_COMPONENT);
          part != nullptr;
          part = icalcomponent_get_next_component(component.get(), ICAL_ANY_COMPONENT)) {
         const Observance observance = observanceFrom(part);
-        if (!observance.start || !observance.offsetFrom || !observance.offsetTo) {
-            continue;
-        }
-        std::vector<LocalSeconds> onsets;
-        addOnsets(observance, budget, onsets);
-        for (const LocalSeconds onset : onsets) {
-            const sys_seconds at(onset.time_since_epoch() - *observance.offsetFrom);
-            transitions.push_back({at, *observance.offsetTo});
-            if (!earliest || at < earliest->first) {
-                earliest = {at, *observance.offsetFrom};
-            }
+        if (observance.start && observance.offsetFrom && observance.offsetTo) {
+            addChanges(observance, budget, changes);
         }
     }
-    if (!earliest || budget.isExhausted()) {
+    if (!changes.earliest || budget.isExhausted()) {
         return {};
     }
-    return {nameText, std::make_shared<const ZoneRules>(earliest->second, std::move(transitions))};
-}
-
-/// Zone names in small letters, those of Windows too, with what this system calls them.
-const QHash<QByteArray, QByteArray>& knownNames() {
-    static const QHash<QByteArray, QByteArray> names = [] {
-        QHash<QByteArray, QByteArray> known{{"z", "UTC"},
-                                            {"utc", "UTC"},
-                                            {"coordinated universal time", "UTC"},
-                                            {"greenwich mean time", "UTC"}};
-        for (const QByteArray& name : QTimeZone::availableTimeZoneIds()) {
-            known.insert(name.toLower(), name);
-            if (const QByteArray windows = QTimeZone::ianaIdToWindowsId(name); !windows.isEmpty()) {
-                known.insert(windows.toLower(), QTimeZone::windowsIdToDefaultIanaId(windows));
-            }
-        }
-        return known;
-    }();
-    return names;
-}
-
-/// Whether a name can be that of a zone and of nothing else on the disk. "right" zones count leap
-/// seconds, which no calendar does.
-bool isZoneName(const QByteArray& name) {
-    static const QRegularExpression pattern(
-        QStringLiteral("^(?!right/)[A-Za-z][A-Za-z0-9_+-]*(/[A-Za-z0-9][A-Za-z0-9_+-]*)*$"));
-    return pattern.match(QString::fromLatin1(name)).hasMatch();
-}
-
-/// Whether there may be such a zone. A word that names none would be read as the short name of a
-/// zone without an offset, that is, as UTC.
-bool isInDatabase(const QByteArray& name) {
-    return name.contains('/') ||
-           QFileInfo::exists(QStringLiteral("/usr/share/zoneinfo/") + QString::fromLatin1(name));
-}
-
-QTimeZone zoneWithName(const QByteArray& name) {
-    // The list of available zones lacks the older names of many ("Asia/Calcutta").
-    if (isZoneName(name) && isInDatabase(name)) {
-        if (QTimeZone zone(name); zone.isValid()) {
-            return zone;
-        }
+    ReadDefinition read;
+    read.definition = {nameText, std::make_shared<const ZoneRules>(changes.earliest->second,
+                                                                   std::move(changes.transitions))};
+    const bool isFixedForEver =
+        changes.isFixed && changes.earliest->first <= std::chrono::sys_days(std::chrono::days(1));
+    if (!isFixedForEver) {
+        read.reach = {changes.earliest->first,
+                      changes.isOpen ? std::nullopt : std::optional(changes.latest)};
     }
-    if (const QByteArray known = QTimeZone::windowsIdToDefaultIanaId(name); !known.isEmpty()) {
-        return QTimeZone(known);
-    }
-    if (const QByteArray known = knownNames().value(name.toLower()); !known.isEmpty()) {
-        return QTimeZone(known);
-    }
-    // Some programs put a path of their own before the name.
-    const qsizetype slash = name.indexOf('/');
-    return slash < 0 ? QTimeZone() : zoneWithName(name.mid(slash + 1));
+    return read;
 }
 
 } // namespace
@@ -183,12 +165,13 @@ ZoneCatalog::Rules ZoneCatalog::named(const std::string& name) {
     if (const auto found = named_.find(name); found != named_.end()) {
         return found->second;
     }
-    const QTimeZone zone =
-        name.size() > 200 ? QTimeZone() : zoneWithName(QByteArray::fromStdString(name));
-    Rules rules = zone.isValid() ? ZoneRules::fromTimeZone(zone) : nullptr;
-    if (named_.size() < mostNames) {
-        named_.emplace(name, rules);
+    // Nobody means so many; a file that makes names up is not to be paid for.
+    if (named_.size() >= mostNames) {
+        return nullptr;
     }
+    const QTimeZone zone = zoneNamed(QByteArray::fromStdString(name));
+    Rules rules = zone.isValid() ? ZoneRules::fromTimeZone(zone) : nullptr;
+    named_.emplace(name, rules);
     return rules;
 }
 
@@ -200,7 +183,12 @@ ZoneCatalog::Definition ZoneCatalog::defined(const char* block) {
             return found->second;
         }
     }
-    Definition definition = definitionFrom(block);
+    auto [definition, reach] = definitionFrom(block);
+    if (reach) {
+        if (const Rules known = named(definition.name)) {
+            definition.rules = definition.rules->within(*reach, *known);
+        }
+    }
     const std::scoped_lock lock(mutex_);
     if (defined_.size() < mostDefinitions) {
         defined_.emplace(std::move(key), definition);

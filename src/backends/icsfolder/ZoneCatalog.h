@@ -26,10 +26,11 @@ public:
 
     /// The zone of floating times and whole days.
     [[nodiscard]] const Rules& systemZone() const { return systemZone_; }
-    /// By a name of the time zone database, also one behind a vendor's path
-    /// ("/vendor/Europe/Paris"), or by a Windows name. Nothing for a name that means nothing.
+    /// By what programs write for the name of a zone (`zoneNamed()`). Nothing for a name that does
+    /// not say by itself which one is meant.
     [[nodiscard]] Rules named(const std::string& name);
-    /// A VTIMEZONE in lines without folds.
+    /// A VTIMEZONE in lines without folds. Where it says nothing, before its first change and
+    /// behind the last of those that it lists one by one, the zone holds that its name stands for.
     [[nodiscard]] Definition defined(const char* block);
 
 private:

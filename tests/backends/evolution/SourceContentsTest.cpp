@@ -67,6 +67,21 @@ TEST_F(SourceContentsTest, everyEventOfAZoneThatIsBeingAskedForIsInDoubt) {
     EXPECT_EQ(contents.problems(), QStringList());
 }
 
+TEST_F(SourceContentsTest, aDefinitionThatDoesNotReachTheDateLeavesItToTheZoneOfItsName) {
+    // Of the one year 2020; the events are of March 2024.
+    const auto event = eventIn("Our Office", "one");
+    contents.noteChanged(*event);
+    EXPECT_EQ(contents.takeUnknownZones(), Names{"Our Office"});
+    EXPECT_TRUE(contents.define(
+        "Our Office", "BEGIN:VTIMEZONE\r\nTZID:America/New_York\r\n"
+                      "BEGIN:STANDARD\r\nDTSTART:20201101T020000\r\nTZOFFSETFROM:+0600\r\n"
+                      "TZOFFSETTO:+0500\r\nEND:STANDARD\r\n"
+                      "BEGIN:DAYLIGHT\r\nDTSTART:20200308T020000\r\nTZOFFSETFROM:+0500\r\n"
+                      "TZOFFSETTO:+0600\r\nEND:DAYLIGHT\r\nEND:VTIMEZONE\r\n"));
+    contents.replace("one", {event.get()});
+    EXPECT_EQ(starts(), std::vector<Instant>{utc(2024, 3, 4, 15)});
+}
+
 TEST_F(SourceContentsTest, whatIsReadAgainBeforeItsZoneIsKnownStaysInDoubt) {
     const auto first = eventIn("Our Office", "first");
     const auto second = eventIn("Our Office", "second");
