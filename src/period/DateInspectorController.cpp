@@ -36,6 +36,15 @@ DateOffset reversed(const DateOffset& offset) {
     return {.years = -offset.years, .months = -offset.months, .days = -offset.days};
 }
 
+LocalSeconds localTime(Instant date, const ZoneRules& zone) {
+    return zone.toLocal(std::chrono::floor<std::chrono::seconds>(date));
+}
+
+bool beginsDay(Instant date, const ZoneRules& zone) {
+    return zone.firstInstantFrom(std::chrono::floor<std::chrono::days>(localTime(date, zone))) ==
+           date;
+}
+
 } // namespace
 
 DateInspectorController::DateInspectorController(const Collaborators& collaborators)
@@ -62,6 +71,37 @@ void DateInspectorController::awakeFromNib() {
     if (!isCustomDateOn_) {
         lockedPeriod_ = arithmetic_.totalDaysFromStartDate(startDate(), endDate());
     }
+}
+
+void DateInspectorController::moveDatesFrom(const ZoneRules& formerZone) {
+    const auto start = dates_.storedStartDate();
+    const auto end = dates_.storedEndDate();
+    if (start && end && beginsDay(*start, formerZone)) {
+        dates_.setBounds(sameDay(*start, formerZone), sameDay(*end, formerZone));
+    }
+    if (const auto selected = settings::selectedDate.read(with_.settings);
+        selected && beginsDay(*selected, formerZone)) {
+        setSelectedDate(sameDay(*selected, formerZone));
+    }
+    if (weekReferenceDate_) {
+        weekReferenceDate_ = arithmetic_.normalizedStart(sameDay(*weekReferenceDate_, formerZone));
+    }
+}
+
+void DateInspectorController::followZoneChange(const ZoneRules& formerZone) {
+    moveDatesFrom(formerZone);
+    settings::datesChangedTrigger.flip(with_.settings);
+}
+
+Instant DateInspectorController::sameDay(Instant date, const ZoneRules& formerZone) const {
+    const auto day = std::chrono::floor<std::chrono::days>(localTime(date, formerZone));
+    const std::chrono::year_month_day fields(day);
+    // At noon, which every day has.
+    return with_.gregorian.instant(
+        {.year = static_cast<int>(fields.year()),
+         .month = static_cast<int>(static_cast<unsigned>(fields.month())),
+         .day = static_cast<int>(static_cast<unsigned>(fields.day())),
+         .hour = 12});
 }
 
 Instant DateInspectorController::today() const {

@@ -4,7 +4,9 @@
 #include "period/PeriodDates.h"
 #include "platform/Clock.h"
 #include "platform/LocaleFormats.h"
+#include "platform/Setting.h"
 #include "platform/SettingsStore.h"
+#include "platform/ZoneRules.h"
 
 #include <QObject>
 
@@ -39,6 +41,14 @@ public:
     Q_DISABLE_COPY_MOVE(DateInspectorController)
 
     void awakeFromNib();
+
+    /// The stored dates are instants, and meant days: those of the zone in which they were stored.
+    /// Makes them the same days of the zone that holds now, so that a month is that month wherever
+    /// its user travels. Dates that begin no day of the former zone stay as they are. To be called
+    /// before anything reads them.
+    void moveDatesFrom(const ZoneRules& formerZone);
+    /// The same when the zone has changed while the program runs: who depends on the dates is told.
+    void followZoneChange(const ZoneRules& formerZone);
 
     /// The first second of the period's first day; the current week's while nothing is stored.
     [[nodiscard]] Instant startDate() { return dates_.startDate(); }
@@ -99,6 +109,7 @@ private:
     void setPeriod(PeriodKind kind, Instant date);
     void setPeriodStartingWith(PeriodKind kind, Instant date);
     [[nodiscard]] Instant laterThanWeekReference(Instant date);
+    [[nodiscard]] Instant sameDay(Instant date, const ZoneRules& formerZone) const;
     void becomeCustom();
     void setLabels();
 

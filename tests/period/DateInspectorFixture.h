@@ -19,8 +19,9 @@ class DateInspectorFixture : public testing::Test {
 protected:
     void SetUp() override { useZone("UTC", "en_GB"); }
 
-    /// Starts the program anew in another zone and locale; settings and clock stay.
-    void useZone(const char* zone, const char* locale) {
+    /// Starts the program anew in another zone and locale; settings and clock stay. Where a former
+    /// zone is named, the program remembers that its dates were stored in that one.
+    void useZone(const char* zone, const char* locale, const char* formerZone = nullptr) {
         const QString localeName = QString::fromLatin1(locale);
         const QString zoneName = QString::fromLatin1(zone);
         controller.reset();
@@ -34,6 +35,9 @@ protected:
             std::make_unique<DateInspectorController>(DateInspectorController::Collaborators{
                 settings, clock, *gregorian, *current, *formats});
         settings.setObject("isCalendarAccessGranted", true);
+        if (formerZone != nullptr) {
+            controller->moveDatesFrom(*ZoneRules::fromTimeZone(QTimeZone(formerZone)));
+        }
         controller->awakeFromNib();
     }
     std::string day(Instant instant) const {
