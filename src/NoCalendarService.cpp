@@ -4,7 +4,8 @@ namespace quillet {
 
 std::unique_ptr<EventStore> makeCalendarService(CalendarAccess& /*access*/,
                                                 const QString& /*stateFolder*/,
-                                                std::function<QString(Instant)> /*shortTime*/) {
+                                                std::function<QString(Instant)> /*shortTime*/,
+                                                std::shared_ptr<const UserTimeZone> /*zone*/) {
     return nullptr;
 }
 

@@ -47,11 +47,11 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
     , access_(
           paths.stateFolder,
           [this](const CalendarAccess::Answer& answer) { answer(dialogs_.askForCalendarAccess()); })
-    , folderStore_(paths.calendarsFolder, access_, QTimeZone::systemTimeZone(),
+    , folderStore_(paths.calendarsFolder, access_, timeZone_,
                    paths.stateFolder + QStringLiteral("/folder-calendars.json"))
-    , calendarService_(
-          makeCalendarService(access_, paths.stateFolder,
-                              [this](Instant instant) { return formats_.shortTime(instant); }))
+    , calendarService_(makeCalendarService(
+          access_, paths.stateFolder,
+          [this](Instant instant) { return formats_.shortTime(instant); }, timeZone_))
     , store_(present(folderStore_, calendarService_.get()))
     , mainQueue_(makeMainQueue())
     , timer_(makeOneShotTimer())

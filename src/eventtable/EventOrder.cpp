@@ -177,6 +177,10 @@ EventOrder::EventOrder(const EventFields& fields, const CalendarArithmetic& cale
 
 EventOrder::~EventOrder() = default;
 
+void EventOrder::followZoneChange() {
+    keys_->days.forget();
+}
+
 ListController<Event>::Sorter EventOrder::sorter(const QString& columnIdentifier,
                                                  SortDirection direction) {
     return

@@ -23,6 +23,8 @@ public:
 
     [[nodiscard]] ListController<Event>::Sorter sorter(const QString& columnIdentifier,
                                                        SortDirection direction);
+    /// The time zone of the calendar is another one.
+    void followZoneChange();
 
 private:
     struct Keys;

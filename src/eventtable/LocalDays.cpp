@@ -22,6 +22,11 @@ int LocalDays::weekday(Instant instant) {
                                                  : calendar_.components(instant).weekday;
 }
 
+void LocalDays::forget() {
+    days_.clear();
+    lastDay_ = nullptr;
+}
+
 const LocalDays::Days::value_type* LocalDays::dayOf(Instant instant) {
     const auto holds = [&](const Days::value_type& day) {
         return day.first <= instant && instant < day.second.end;

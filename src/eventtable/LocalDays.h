@@ -17,6 +17,8 @@ public:
     [[nodiscard]] int secondsOfDay(Instant instant);
     /// 1 Sunday … 7 Saturday.
     [[nodiscard]] int weekday(Instant instant);
+    /// The calendar's time zone has changed.
+    void forget();
 
 private:
     struct Day {

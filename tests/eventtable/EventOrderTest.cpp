@@ -125,6 +125,23 @@ TEST_F(EventOrderTest, TimesOfDayAreThoseOfTheWallOnDaysWhoseClocksChange) {
     });
 }
 
+TEST_F(EventOrderTest, TimesOfDayAreThoseOfTheZoneThatTheUserHasTravelledTo) {
+    const auto zone = std::make_shared<UserTimeZone>(QTimeZone::utc());
+    const IcuCalendarArithmetic travelling("de_DE", zone, CalendarSystem::OfLocale);
+    EventOrder travellingOrder(fields, travelling, collator);
+    list.setSorter(travellingOrder.sorter("start", SortDirection::Ascending));
+    ASSERT_EQ(list.arranged(0).details->title, "gamma") << "at seven";
+    // Nine hours ahead, 09:00 is 18:00 and 18:00 is 03:00.
+    list.setContent(
+        std::vector{timedEvent(utc(2024, 3, 4, 9), utc(2024, 3, 4, 11), "b", "beta"),
+                    timedEvent(utc(2024, 3, 5, 18), utc(2024, 3, 5, 19), "a", "Alpha")});
+    ASSERT_EQ(list.arranged(0).details->title, "beta");
+    zone->change(QTimeZone("Asia/Tokyo"));
+    travellingOrder.followZoneChange();
+    list.setSorter(travellingOrder.sorter("start", SortDirection::Ascending));
+    EXPECT_EQ(list.arranged(0).details->title, "Alpha") << "at three in the morning";
+}
+
 TEST_F(EventOrderTest, RatesSortAsNumbersAndThoseThatAreNoneStandFirst) {
     settings.setObject("isSingleRate", false);
     const auto record = [](const char* identifier, int rate) {

@@ -86,6 +86,7 @@ EvolutionStore::EvolutionStore(CalendarAccess& access, Setup setup)
         observers_.notify();
     });
     accessObservation_ = access_.observeStatus([this] { startIfAllowed(); });
+    zoneObservation_ = with_.zone->observe([this](const ZoneRules&) { readAgain(); });
     startIfAllowed();
 }
 
@@ -159,8 +160,8 @@ void EvolutionStore::startIfAllowed() {
     if (thread_ || serviceBeforeStart() != ServicePicture::Service::Starting) {
         return;
     }
-    const ServiceSession::Setup setup{with_.zone, with_.limits, memoryPath(with_.stateFolder),
-                                      board_,
+    const ServiceSession::Setup setup{with_.zone->zone(), with_.limits,
+                                      memoryPath(with_.stateFolder), board_,
                                       [this, queue = mainQueue_, life = std::weak_ptr(life_)] {
                                           queue->async([this, life] {
                                               if (!life.expired()) {
@@ -170,6 +171,12 @@ void EvolutionStore::startIfAllowed() {
                                       }};
     thread_ = std::make_unique<LoopThread>(
         [setup]() -> std::shared_ptr<void> { return std::make_shared<ServiceSession>(setup); });
+}
+
+void EvolutionStore::readAgain() {
+    thread_.reset();
+    startIfAllowed();
+    announce();
 }
 
 void EvolutionStore::announce() {

@@ -5,8 +5,8 @@
 #include "platform/EventStore.h"
 #include "platform/ObserverList.h"
 #include "platform/SerialQueue.h"
+#include "platform/UserTimeZone.h"
 
-#include <QTimeZone>
 #include <QTimer>
 
 #include <atomic>
@@ -29,8 +29,9 @@ public:
         QString stateFolder;
         /// Tells times to the user. Called on the main thread.
         std::function<QString(Instant)> shortTime;
-        /// Floating times and whole days are those of this zone.
-        QTimeZone zone = QTimeZone::systemTimeZone();
+        /// Floating times and whole days are those of this zone, whose changes are followed:
+        /// everything is asked for again.
+        std::shared_ptr<const UserTimeZone> zone;
         ServiceLimits limits = {};
     };
 
@@ -52,6 +53,7 @@ public:
 
 private:
     void startIfAllowed();
+    void readAgain();
     void announce();
     [[nodiscard]] bool isQueryRecent() const;
 
@@ -72,6 +74,7 @@ private:
     std::shared_ptr<bool> life_ = std::make_shared<bool>(true);
     std::unique_ptr<LoopThread> thread_;
     Observation accessObservation_;
+    Observation zoneObservation_;
 };
 
 } // namespace quillet

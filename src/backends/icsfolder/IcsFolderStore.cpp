@@ -10,6 +10,8 @@
 
 #include <unistd.h>
 
+#include <utility>
+
 namespace quillet {
 
 namespace {
@@ -26,11 +28,16 @@ bool canReach(const QString& path) {
 
 IcsFolderStore::IcsFolderStore(const QString& rootPath, CalendarAccess& access,
                                const QTimeZone& zone, const QString& memoryPath)
+    : IcsFolderStore(rootPath, access, std::make_shared<const UserTimeZone>(zone), memoryPath) {}
+
+IcsFolderStore::IcsFolderStore(const QString& rootPath, CalendarAccess& access,
+                               std::shared_ptr<const UserTimeZone> zone, const QString& memoryPath)
     : rootPath_(QDir::cleanPath(rootPath))
     , access_(access)
-    , zone_(zone)
+    , zone_(std::move(zone))
     , memory_(memoryPath) {
     accessObservation_ = access_.observeStatus([this] { (void)loader(); });
+    zoneObservation_ = zone_->observe([this](const ZoneRules&) { readAgain(); });
     (void)loader();
 }
 
@@ -46,12 +53,12 @@ void IcsFolderStore::requestAccess(AccessCompletion completion) {
 }
 
 CalendarList IcsFolderStore::calendars() const {
-    const FolderLoader* running = loader();
+    const auto running = loader();
     return running != nullptr ? running->calendars() : CalendarList();
 }
 
 EventList IcsFolderStore::events(const CalendarList& calendars, Instant from, Instant to) const {
-    const FolderLoader* running = loader();
+    const auto running = loader();
     return running != nullptr ? running->events(calendars, from, to) : EventList();
 }
 
@@ -60,7 +67,7 @@ Observation IcsFolderStore::observeChanges(std::function<void()> callback) {
 }
 
 std::vector<StoreProblem> IcsFolderStore::problems() const {
-    if (const FolderLoader* running = loader()) {
+    if (const auto running = loader()) {
         return running->problems();
     }
     if (access_.status() == AuthorizationStatus::Authorized) {
@@ -70,7 +77,7 @@ std::vector<StoreProblem> IcsFolderStore::problems() const {
 }
 
 bool IcsFolderStore::isLoading() const {
-    const FolderLoader* running = loader();
+    const auto running = loader();
     return running != nullptr && running->isLoading();
 }
 
@@ -85,23 +92,34 @@ QString IcsFolderStore::fileOf(const QString& calendarIdentifier,
                                const QString& eventIdentifier) const {
     return access_.status() == AuthorizationStatus::Authorized
                ? findEventFile(QFile::encodeName(rootPath_).toStdString(), calendarIdentifier,
-                               eventIdentifier, zone_)
+                               eventIdentifier, zone_->zone())
                : QString();
 }
 
-FolderLoader* IcsFolderStore::loader() const {
+std::shared_ptr<FolderLoader> IcsFolderStore::loader() const {
     const std::scoped_lock lock(loaderMutex_);
     if (!loader_ && access_.status() == AuthorizationStatus::Authorized &&
         (canReach(rootPath_) || !memory_.calendars().empty())) {
-        loader_ = std::make_unique<FolderLoader>(
-            QFile::encodeName(rootPath_).toStdString(), zone_, memory_,
+        loader_ = std::make_shared<FolderLoader>(
+            QFile::encodeName(rootPath_).toStdString(), zone_->zone(), memory_,
             [this] { mainQueue_->async([this] { observers_.notify(); }); });
     }
-    return loader_.get();
+    return loader_;
+}
+
+void IcsFolderStore::readAgain() {
+    std::shared_ptr<FolderLoader> former;
+    {
+        const std::scoped_lock lock(loaderMutex_);
+        former = std::exchange(loader_, nullptr);
+    }
+    former.reset();
+    (void)loader();
+    observers_.notify();
 }
 
 bool IcsFolderStore::knowsCalendars() const {
-    const FolderLoader* running = loader();
+    const auto running = loader();
     return running != nullptr ? !running->calendars().empty() : !memory_.calendars().empty();
 }
 

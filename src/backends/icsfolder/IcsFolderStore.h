@@ -5,8 +5,7 @@
 #include "platform/EventStore.h"
 #include "platform/ObserverList.h"
 #include "platform/SerialQueue.h"
-
-#include <QTimeZone>
+#include "platform/UserTimeZone.h"
 
 #include <expected>
 #include <memory>
@@ -22,8 +21,12 @@ class FolderLoader;
 class IcsFolderStore final : public EventStore {
 public:
     /// The root folder is created when it is missing. Floating times and whole days are those of
-    /// the zone. The file at `memoryPath` keeps which calendars there are, for times when the root
-    /// folder is out of reach; without one nothing is kept. `access` must outlive the store.
+    /// the zone, whose changes are followed: everything is read again. The file at `memoryPath`
+    /// keeps which calendars there are, for times when the root folder is out of reach; without one
+    /// nothing is kept. `access` must outlive the store.
+    IcsFolderStore(const QString& rootPath, CalendarAccess& access,
+                   std::shared_ptr<const UserTimeZone> zone, const QString& memoryPath = {});
+    /// In a zone that stays.
     IcsFolderStore(const QString& rootPath, CalendarAccess& access,
                    const QTimeZone& zone = QTimeZone::systemTimeZone(),
                    const QString& memoryPath = {});
@@ -55,19 +58,22 @@ public:
 
 private:
     /// The loader, which starts as soon as it may; null before. Any thread.
-    [[nodiscard]] FolderLoader* loader() const;
+    [[nodiscard]] std::shared_ptr<FolderLoader> loader() const;
+    void readAgain();
     [[nodiscard]] bool knowsCalendars() const;
 
     QString rootPath_;
     CalendarAccess& access_;
-    QTimeZone zone_;
+    std::shared_ptr<const UserTimeZone> zone_;
     CalendarMemory memory_;
     ObserverList<> observers_;
     /// Receives the loader's notices on the main thread.
     std::unique_ptr<SerialQueue> mainQueue_ = makeMainQueue();
     mutable std::mutex loaderMutex_;
-    mutable std::unique_ptr<FolderLoader> loader_;
+    /// Shared with queries that are under way when another one takes its place.
+    mutable std::shared_ptr<FolderLoader> loader_;
     Observation accessObservation_;
+    Observation zoneObservation_;
 };
 
 } // namespace quillet

@@ -203,7 +203,7 @@ EvolutionStore& ServiceFixture::open() {
         access, EvolutionStore::Setup{
                     .stateFolder = folder.filePath(QStringLiteral("state")),
                     .shortTime = [](Instant) { return QStringLiteral("14:02"); },
-                    .zone = QTimeZone("Europe/Berlin"),
+                    .zone = UserTimeZone::named(QStringLiteral("Europe/Berlin")),
                     .limits = limits,
                 });
     observation = store->observeChanges([this] { ++notices; });

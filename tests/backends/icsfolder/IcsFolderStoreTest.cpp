@@ -177,4 +177,27 @@ TEST_F(IcsFolderStoreTest, namesItsCalendarsWhileEventsAreStillLoading) {
 
 } // namespace
 
+TEST_F(IcsFolderStoreTest, readsFloatingTimesAndWholeDaysAnewInAnotherZone) {
+    write(QStringLiteral("a.ics"), eventFile("DTSTART:20240701T120000"));
+    write(QStringLiteral("b.ics"), eventFile("DTSTART;VALUE=DATE:20240702"));
+    write(QStringLiteral("c.ics"), eventFile("DTSTART:20240703T120000Z"));
+    const auto travelling = std::make_shared<UserTimeZone>(QTimeZone("Europe/Berlin"));
+    store = std::make_unique<IcsFolderStore>(rootPath(), access, travelling);
+    const auto before =
+        std::vector<Instant>({utc(2024, 7, 1, 10), utc(2024, 7, 1, 22), utc(2024, 7, 3, 12)});
+    ASSERT_EQ(starts(), before);
+    const CalendarList calendars = store->calendars();
+    observation = store->observeChanges([this] { ++notices; });
+
+    travelling->change(QTimeZone("America/New_York"));
+    EXPECT_GT(notices, 0);
+    EXPECT_EQ(starts(),
+              std::vector<Instant>({utc(2024, 7, 1, 16), utc(2024, 7, 2, 4), utc(2024, 7, 3, 12)}));
+    ASSERT_EQ(store->calendars().size(), calendars.size());
+    for (std::size_t index = 0; index < calendars.size(); ++index) {
+        EXPECT_EQ(store->calendars()[index]->calendarIdentifier,
+                  calendars[index]->calendarIdentifier);
+    }
+}
+
 } // namespace quillet::test
