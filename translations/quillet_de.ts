@@ -24,6 +24,14 @@
         <translation>%1 min</translation>
     </message>
     <message>
+        <source>%1 more lines cannot be read</source>
+        <translation>%1 weitere Zeilen sind nicht lesbar</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 vom %2</translation>
+    </message>
+    <message>
         <source>%1 of “%2”</source>
         <translation>%1 von „%2“</translation>
     </message>
@@ -34,6 +42,14 @@
     <message>
         <source>%1%</source>
         <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, Zeile %2</translation>
+    </message>
+    <message>
+        <source>%1: %2. Please correct it in your calendar program.</source>
+        <translation>%1: %2. Bitte im Kalenderprogramm berichtigen.</translation>
     </message>
     <message>
         <source>(no location)</source>
@@ -66,10 +82,6 @@
     <message>
         <source>A preset holds the switches and texts of the text report. Applying one sets them all; a new one takes them as they are now.</source>
         <translation>Eine Vorlage enthält die Schalter und Texte des Textberichts. Beim Anwenden werden alle gesetzt; eine neue übernimmt sie, wie sie jetzt sind.</translation>
-    </message>
-    <message>
-        <source>a repetition that cannot be followed; only its first event is shown</source>
-        <translation>eine unverständliche Wiederholung; nur ihr erster Termin wird gezeigt</translation>
     </message>
     <message>
         <source>a spreadsheet would take the title “%1” for a formula</source>
@@ -528,6 +540,10 @@
         <translation>Terminnotizen</translation>
     </message>
     <message>
+        <source>event without a title</source>
+        <translation>Termin ohne Titel</translation>
+    </message>
+    <message>
         <source>Events</source>
         <translation>Termine</translation>
     </message>
@@ -948,6 +964,10 @@
         <translation>ein Termin ohne Anfang</translation>
     </message>
     <message>
+        <source>one more line cannot be read</source>
+        <translation>eine weitere Zeile ist nicht lesbar</translation>
+    </message>
+    <message>
         <source>&amp;One rate for all calendars</source>
         <translation>&amp;Ein Stundensatz für alle Kalender</translation>
     </message>
@@ -1100,10 +1120,6 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     <message>
         <source>Reminders</source>
         <translation>Erinnerungen</translation>
-    </message>
-    <message>
-        <source>repetitions too many to count</source>
-        <translation>zu viele Wiederholungen, um sie zu zählen</translation>
     </message>
     <message>
         <source>repetitions too many to show them all</source>
@@ -1354,6 +1370,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Texte, die länger als ihre Spalte sind, gehen in der nächsten Zeile weiter; sonst werden sie abgeschnitten</translation>
     </message>
     <message>
+        <source>the additional date “%1” cannot be read and is left out</source>
+        <translation>der zusätzliche Tag „%1“ ist nicht lesbar und entfällt</translation>
+    </message>
+    <message>
         <source>The calendar could not be added</source>
         <translation>Der Kalender konnte nicht hinzugefügt werden</translation>
     </message>
@@ -1378,8 +1398,20 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>während „%1“ wird die Uhr umgestellt; %2 zählen</translation>
     </message>
     <message>
+        <source>the end “%1” cannot be read and does not count</source>
+        <translation>das Ende „%1“ ist nicht lesbar und zählt nicht</translation>
+    </message>
+    <message>
+        <source>the end “%1” is before the start; no time is counted to it</source>
+        <translation>das Ende „%1“ liegt vor dem Anfang; bis dahin zählt keine Zeit</translation>
+    </message>
+    <message>
         <source>the event ends before it begins, or lies outside the period</source>
         <translation>der Termin endet vor seinem Anfang oder liegt außerhalb des Zeitraums</translation>
+    </message>
+    <message>
+        <source>the exceptions “%1” cannot be followed; what they leave out is shown</source>
+        <translation>die Ausnahmen „%1“ sind nicht zu befolgen; was sie auslassen, wird gezeigt</translation>
     </message>
     <message>
         <source>The first column is the calendar's own identifier of the event</source>
@@ -1404,6 +1436,22 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     <message>
         <source>The last day of the period</source>
         <translation>Der letzte Tag des Zeitraums</translation>
+    </message>
+    <message>
+        <source>the left-out date “%1” cannot be read; what is on it is shown</source>
+        <translation>der ausgelassene Tag „%1“ ist nicht lesbar; was auf ihn fällt, wird gezeigt</translation>
+    </message>
+    <message>
+        <source>the length “%1” cannot be read and does not count</source>
+        <translation>die Dauer „%1“ ist nicht lesbar und zählt nicht</translation>
+    </message>
+    <message>
+        <source>the length “%1” is below zero and counts as none</source>
+        <translation>die Dauer „%1“ ist kleiner als null und zählt als keine</translation>
+    </message>
+    <message>
+        <source>the length “%1” is over a hundred years and is cut to that</source>
+        <translation>die Dauer „%1“ ist länger als hundert Jahre und wird darauf gekürzt</translation>
     </message>
     <message>
         <source>The list of versions cannot be reached. Are you connected to the Internet?</source>
@@ -1450,12 +1498,24 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>der Satz des Kalenders „%1“</translation>
     </message>
     <message>
+        <source>the repetition “%1” cannot be followed; only the first event is shown</source>
+        <translation>die Wiederholung „%1“ ist nicht zu befolgen; nur der erste Termin wird gezeigt</translation>
+    </message>
+    <message>
+        <source>the repetitions are too many to count; only the first event is shown</source>
+        <translation>die Wiederholungen sind zu viele zum Zählen; nur der erste Termin wird gezeigt</translation>
+    </message>
+    <message>
         <source>The settings file %2 could not be read (%1) nor moved aside. Quillet starts with its first-run settings.</source>
         <translation>Die Einstellungsdatei %2 konnte weder gelesen (%1) noch beiseitegelegt werden. Quillet startet mit den Einstellungen des ersten Starts.</translation>
     </message>
     <message>
         <source>The settings file could not be read (%1). It was kept as %2, and Quillet starts with its first-run settings.</source>
         <translation>Die Einstellungsdatei konnte nicht gelesen werden (%1). Sie wurde als %2 aufbewahrt, und Quillet startet mit den Einstellungen des ersten Starts.</translation>
+    </message>
+    <message>
+        <source>the start “%1” cannot be read; the event is left out</source>
+        <translation>der Anfang „%1“ ist nicht lesbar; der Termin entfällt</translation>
     </message>
     <message>
         <source>The sum in hours, minutes or as a duration</source>
@@ -1656,6 +1716,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     <message>
         <source>Whether there is a newer version could not be found out</source>
         <translation>Ob es eine neuere Version gibt, ließ sich nicht feststellen</translation>
+    </message>
+    <message>
+        <source>which occurrence it replaces cannot be read (“%1”); the series is shown without this change</source>
+        <translation>welchen Termin der Serie er ersetzt, ist nicht lesbar („%1“); die Serie wird ohne diese Änderung gezeigt</translation>
     </message>
     <message>
         <source>Which time column the table, the results and reports show</source>

@@ -24,6 +24,14 @@
         <translation>%1 min</translation>
     </message>
     <message>
+        <source>%1 more lines cannot be read</source>
+        <translation>no se pueden leer %1 líneas más</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 del %2</translation>
+    </message>
+    <message>
         <source>%1 of “%2”</source>
         <translation>%1 de «%2»</translation>
     </message>
@@ -34,6 +42,14 @@
     <message>
         <source>%1%</source>
         <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, línea %2</translation>
+    </message>
+    <message>
+        <source>%1: %2. Please correct it in your calendar program.</source>
+        <translation>%1: %2. Corríjalo en su programa de calendario.</translation>
     </message>
     <message>
         <source>(no location)</source>
@@ -66,10 +82,6 @@
     <message>
         <source>A preset holds the switches and texts of the text report. Applying one sets them all; a new one takes them as they are now.</source>
         <translation>Un preajuste contiene las opciones y los textos del informe de texto. Al aplicarlo se establecen todos; uno nuevo los toma tal como están ahora.</translation>
-    </message>
-    <message>
-        <source>a repetition that cannot be followed; only its first event is shown</source>
-        <translation>una repetición incomprensible; solo se muestra su primer evento</translation>
     </message>
     <message>
         <source>a spreadsheet would take the title “%1” for a formula</source>
@@ -528,6 +540,10 @@
         <translation>Notas de los eventos</translation>
     </message>
     <message>
+        <source>event without a title</source>
+        <translation>evento sin título</translation>
+    </message>
+    <message>
         <source>Events</source>
         <translation>Eventos</translation>
     </message>
@@ -948,6 +964,10 @@
         <translation>un evento sin inicio</translation>
     </message>
     <message>
+        <source>one more line cannot be read</source>
+        <translation>no se puede leer una línea más</translation>
+    </message>
+    <message>
         <source>&amp;One rate for all calendars</source>
         <translation>U&amp;na tarifa para todos los calendarios</translation>
     </message>
@@ -1100,10 +1120,6 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>Reminders</source>
         <translation>Recordatorios</translation>
-    </message>
-    <message>
-        <source>repetitions too many to count</source>
-        <translation>demasiadas repeticiones para contarlas</translation>
     </message>
     <message>
         <source>repetitions too many to show them all</source>
@@ -1354,6 +1370,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Los textos más largos que su columna siguen en la línea siguiente; si no, se recortan</translation>
     </message>
     <message>
+        <source>the additional date “%1” cannot be read and is left out</source>
+        <translation>la fecha adicional «%1» no se puede leer y se omite</translation>
+    </message>
+    <message>
         <source>The calendar could not be added</source>
         <translation>No se ha podido añadir el calendario</translation>
     </message>
@@ -1378,8 +1398,20 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>durante «%1» cambia la hora; cuentan %2</translation>
     </message>
     <message>
+        <source>the end “%1” cannot be read and does not count</source>
+        <translation>el final «%1» no se puede leer y no cuenta</translation>
+    </message>
+    <message>
+        <source>the end “%1” is before the start; no time is counted to it</source>
+        <translation>el final «%1» es anterior al inicio; no se cuenta tiempo</translation>
+    </message>
+    <message>
         <source>the event ends before it begins, or lies outside the period</source>
         <translation>el evento termina antes de empezar o está fuera del periodo</translation>
+    </message>
+    <message>
+        <source>the exceptions “%1” cannot be followed; what they leave out is shown</source>
+        <translation>las excepciones «%1» no se pueden seguir; se muestra lo que omiten</translation>
     </message>
     <message>
         <source>The first column is the calendar's own identifier of the event</source>
@@ -1404,6 +1436,22 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>The last day of the period</source>
         <translation>El último día del periodo</translation>
+    </message>
+    <message>
+        <source>the left-out date “%1” cannot be read; what is on it is shown</source>
+        <translation>la fecha omitida «%1» no se puede leer; se muestra lo que hay en ella</translation>
+    </message>
+    <message>
+        <source>the length “%1” cannot be read and does not count</source>
+        <translation>la duración «%1» no se puede leer y no cuenta</translation>
+    </message>
+    <message>
+        <source>the length “%1” is below zero and counts as none</source>
+        <translation>la duración «%1» es menor que cero y cuenta como ninguna</translation>
+    </message>
+    <message>
+        <source>the length “%1” is over a hundred years and is cut to that</source>
+        <translation>la duración «%1» supera los cien años y se recorta a ellos</translation>
     </message>
     <message>
         <source>The list of versions cannot be reached. Are you connected to the Internet?</source>
@@ -1450,12 +1498,24 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>la tarifa del calendario «%1»</translation>
     </message>
     <message>
+        <source>the repetition “%1” cannot be followed; only the first event is shown</source>
+        <translation>la repetición «%1» no se puede seguir; solo se muestra el primer evento</translation>
+    </message>
+    <message>
+        <source>the repetitions are too many to count; only the first event is shown</source>
+        <translation>las repeticiones son demasiadas para contarlas; solo se muestra el primer evento</translation>
+    </message>
+    <message>
         <source>The settings file %2 could not be read (%1) nor moved aside. Quillet starts with its first-run settings.</source>
         <translation>El archivo de ajustes %2 no se ha podido leer (%1) ni apartar. Quillet se inicia con los ajustes del primer inicio.</translation>
     </message>
     <message>
         <source>The settings file could not be read (%1). It was kept as %2, and Quillet starts with its first-run settings.</source>
         <translation>El archivo de ajustes no se ha podido leer (%1). Se ha conservado como %2, y Quillet se inicia con los ajustes del primer inicio.</translation>
+    </message>
+    <message>
+        <source>the start “%1” cannot be read; the event is left out</source>
+        <translation>el inicio «%1» no se puede leer; el evento se omite</translation>
     </message>
     <message>
         <source>The sum in hours, minutes or as a duration</source>
@@ -1656,6 +1716,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>Whether there is a newer version could not be found out</source>
         <translation>No se pudo averiguar si hay una versión más reciente</translation>
+    </message>
+    <message>
+        <source>which occurrence it replaces cannot be read (“%1”); the series is shown without this change</source>
+        <translation>no se puede leer qué repetición sustituye («%1»); la serie se muestra sin este cambio</translation>
     </message>
     <message>
         <source>Which time column the table, the results and reports show</source>

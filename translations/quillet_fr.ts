@@ -24,6 +24,14 @@
         <translation>%1 min</translation>
     </message>
     <message>
+        <source>%1 more lines cannot be read</source>
+        <translation>%1 autres lignes sont illisibles</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 du %2</translation>
+    </message>
+    <message>
         <source>%1 of “%2”</source>
         <translation>%1 de « %2 »</translation>
     </message>
@@ -34,6 +42,14 @@
     <message>
         <source>%1%</source>
         <translation>%1 %</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, ligne %2</translation>
+    </message>
+    <message>
+        <source>%1: %2. Please correct it in your calendar program.</source>
+        <translation>%1 : %2. Corrigez-le dans votre logiciel de calendrier.</translation>
     </message>
     <message>
         <source>(no location)</source>
@@ -66,10 +82,6 @@
     <message>
         <source>A preset holds the switches and texts of the text report. Applying one sets them all; a new one takes them as they are now.</source>
         <translation>Un préréglage contient les options et les textes du rapport. L’appliquer les définit tous ; un nouveau les reprend tels qu’ils sont.</translation>
-    </message>
-    <message>
-        <source>a repetition that cannot be followed; only its first event is shown</source>
-        <translation>une répétition incompréhensible ; seul son premier événement est affiché</translation>
     </message>
     <message>
         <source>a spreadsheet would take the title “%1” for a formula</source>
@@ -528,6 +540,10 @@
         <translation>Notes des événements</translation>
     </message>
     <message>
+        <source>event without a title</source>
+        <translation>événement sans titre</translation>
+    </message>
+    <message>
         <source>Events</source>
         <translation>Événements</translation>
     </message>
@@ -948,6 +964,10 @@
         <translation>un événement sans début</translation>
     </message>
     <message>
+        <source>one more line cannot be read</source>
+        <translation>une autre ligne est illisible</translation>
+    </message>
+    <message>
         <source>&amp;One rate for all calendars</source>
         <translation>&amp;Un seul taux pour tous les calendriers</translation>
     </message>
@@ -1100,10 +1120,6 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>Reminders</source>
         <translation>Rappels</translation>
-    </message>
-    <message>
-        <source>repetitions too many to count</source>
-        <translation>trop de répétitions pour les compter</translation>
     </message>
     <message>
         <source>repetitions too many to show them all</source>
@@ -1354,6 +1370,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Les textes plus longs que leur colonne continuent à la ligne suivante ; sinon, ils sont coupés</translation>
     </message>
     <message>
+        <source>the additional date “%1” cannot be read and is left out</source>
+        <translation>la date supplémentaire « %1 » est illisible et est ignorée</translation>
+    </message>
+    <message>
         <source>The calendar could not be added</source>
         <translation>Le calendrier n’a pas pu être ajouté</translation>
     </message>
@@ -1378,8 +1398,20 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>l’heure change pendant « %1 » ; %2 comptent</translation>
     </message>
     <message>
+        <source>the end “%1” cannot be read and does not count</source>
+        <translation>la fin « %1 » est illisible et ne compte pas</translation>
+    </message>
+    <message>
+        <source>the end “%1” is before the start; no time is counted to it</source>
+        <translation>la fin « %1 » précède le début ; aucun temps n’est compté</translation>
+    </message>
+    <message>
         <source>the event ends before it begins, or lies outside the period</source>
         <translation>l’événement finit avant de commencer ou se trouve hors de la période</translation>
+    </message>
+    <message>
+        <source>the exceptions “%1” cannot be followed; what they leave out is shown</source>
+        <translation>les exceptions « %1 » ne peuvent pas être suivies ; ce qu’elles excluent est affiché</translation>
     </message>
     <message>
         <source>The first column is the calendar's own identifier of the event</source>
@@ -1404,6 +1436,22 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>The last day of the period</source>
         <translation>Le dernier jour de la période</translation>
+    </message>
+    <message>
+        <source>the left-out date “%1” cannot be read; what is on it is shown</source>
+        <translation>la date exclue « %1 » est illisible ; ce qui y tombe est affiché</translation>
+    </message>
+    <message>
+        <source>the length “%1” cannot be read and does not count</source>
+        <translation>la durée « %1 » est illisible et ne compte pas</translation>
+    </message>
+    <message>
+        <source>the length “%1” is below zero and counts as none</source>
+        <translation>la durée « %1 » est négative et compte pour zéro</translation>
+    </message>
+    <message>
+        <source>the length “%1” is over a hundred years and is cut to that</source>
+        <translation>la durée « %1 » dépasse cent ans et y est ramenée</translation>
     </message>
     <message>
         <source>The list of versions cannot be reached. Are you connected to the Internet?</source>
@@ -1450,12 +1498,24 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>le taux du calendrier « %1 »</translation>
     </message>
     <message>
+        <source>the repetition “%1” cannot be followed; only the first event is shown</source>
+        <translation>la répétition « %1 » ne peut pas être suivie ; seul le premier événement est affiché</translation>
+    </message>
+    <message>
+        <source>the repetitions are too many to count; only the first event is shown</source>
+        <translation>les répétitions sont trop nombreuses pour être comptées ; seul le premier événement est affiché</translation>
+    </message>
+    <message>
         <source>The settings file %2 could not be read (%1) nor moved aside. Quillet starts with its first-run settings.</source>
         <translation>Le fichier de réglages %2 n’a pu être ni lu (%1) ni mis de côté. Quillet démarre avec les réglages du premier lancement.</translation>
     </message>
     <message>
         <source>The settings file could not be read (%1). It was kept as %2, and Quillet starts with its first-run settings.</source>
         <translation>Le fichier de réglages n’a pas pu être lu (%1). Il a été conservé sous %2, et Quillet démarre avec les réglages du premier lancement.</translation>
+    </message>
+    <message>
+        <source>the start “%1” cannot be read; the event is left out</source>
+        <translation>le début « %1 » est illisible ; l’événement est ignoré</translation>
     </message>
     <message>
         <source>The sum in hours, minutes or as a duration</source>
@@ -1656,6 +1716,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>Whether there is a newer version could not be found out</source>
         <translation>Impossible de savoir s’il existe une nouvelle version</translation>
+    </message>
+    <message>
+        <source>which occurrence it replaces cannot be read (“%1”); the series is shown without this change</source>
+        <translation>l’occurrence remplacée est illisible (« %1 ») ; la série est affichée sans cette modification</translation>
     </message>
     <message>
         <source>Which time column the table, the results and reports show</source>

@@ -24,6 +24,14 @@
         <translation>%1分</translation>
     </message>
     <message>
+        <source>%1 more lines cannot be read</source>
+        <translation>ほか %1 行を読み取れません</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2 の%1</translation>
+    </message>
+    <message>
         <source>%1 of “%2”</source>
         <translation>「%2」の%1</translation>
     </message>
@@ -34,6 +42,14 @@
     <message>
         <source>%1%</source>
         <translation>%1%</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1、%2 行目</translation>
+    </message>
+    <message>
+        <source>%1: %2. Please correct it in your calendar program.</source>
+        <translation>%1: %2。カレンダーのプログラムで修正してください。</translation>
     </message>
     <message>
         <source>(no location)</source>
@@ -66,10 +82,6 @@
     <message>
         <source>A preset holds the switches and texts of the text report. Applying one sets them all; a new one takes them as they are now.</source>
         <translation>プリセットはテキストレポートの設定と文章を保持します。適用するとすべて設定され、新しいプリセットは現在の内容を保存します。</translation>
-    </message>
-    <message>
-        <source>a repetition that cannot be followed; only its first event is shown</source>
-        <translation>解釈できない繰り返しがあり、最初の予定だけを表示します</translation>
     </message>
     <message>
         <source>a spreadsheet would take the title “%1” for a formula</source>
@@ -528,6 +540,10 @@
         <translation>予定のメモ</translation>
     </message>
     <message>
+        <source>event without a title</source>
+        <translation>タイトルのない予定</translation>
+    </message>
+    <message>
         <source>Events</source>
         <translation>予定</translation>
     </message>
@@ -948,6 +964,10 @@
         <translation>開始のない予定が 1 件</translation>
     </message>
     <message>
+        <source>one more line cannot be read</source>
+        <translation>ほか 1 行を読み取れません</translation>
+    </message>
+    <message>
         <source>&amp;One rate for all calendars</source>
         <translation>すべてのカレンダーで同じ単価を使う(&amp;O)</translation>
     </message>
@@ -1100,10 +1120,6 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>Reminders</source>
         <translation>リマインダー</translation>
-    </message>
-    <message>
-        <source>repetitions too many to count</source>
-        <translation>繰り返しが多すぎて数えられません</translation>
     </message>
     <message>
         <source>repetitions too many to show them all</source>
@@ -1354,6 +1370,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>列より長い文章は次の行に続きます。オフのときは切り詰められます</translation>
     </message>
     <message>
+        <source>the additional date “%1” cannot be read and is left out</source>
+        <translation>追加の日付「%1」を読み取れないため除外しました</translation>
+    </message>
+    <message>
         <source>The calendar could not be added</source>
         <translation>カレンダーを追加できませんでした</translation>
     </message>
@@ -1378,8 +1398,20 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>「%1」の間に時刻が切り替わります。計算に入るのは%2です</translation>
     </message>
     <message>
+        <source>the end “%1” cannot be read and does not count</source>
+        <translation>終了「%1」を読み取れないため無視しました</translation>
+    </message>
+    <message>
+        <source>the end “%1” is before the start; no time is counted to it</source>
+        <translation>終了「%1」が開始より前のため、時間に数えません</translation>
+    </message>
+    <message>
         <source>the event ends before it begins, or lies outside the period</source>
         <translation>予定が開始より前に終わるか、期間の外にあります</translation>
+    </message>
+    <message>
+        <source>the exceptions “%1” cannot be followed; what they leave out is shown</source>
+        <translation>例外「%1」を解釈できないため、除外される予定も表示します</translation>
     </message>
     <message>
         <source>The first column is the calendar's own identifier of the event</source>
@@ -1404,6 +1436,22 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>The last day of the period</source>
         <translation>期間の最後の日</translation>
+    </message>
+    <message>
+        <source>the left-out date “%1” cannot be read; what is on it is shown</source>
+        <translation>除外する日付「%1」を読み取れないため、その日の予定も表示します</translation>
+    </message>
+    <message>
+        <source>the length “%1” cannot be read and does not count</source>
+        <translation>所要時間「%1」を読み取れないため無視しました</translation>
+    </message>
+    <message>
+        <source>the length “%1” is below zero and counts as none</source>
+        <translation>所要時間「%1」が負のため、0 として扱います</translation>
+    </message>
+    <message>
+        <source>the length “%1” is over a hundred years and is cut to that</source>
+        <translation>所要時間「%1」が 100 年を超えるため、100 年に切り詰めました</translation>
     </message>
     <message>
         <source>The list of versions cannot be reached. Are you connected to the Internet?</source>
@@ -1450,12 +1498,24 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>カレンダー「%1」の単価</translation>
     </message>
     <message>
+        <source>the repetition “%1” cannot be followed; only the first event is shown</source>
+        <translation>繰り返し「%1」を解釈できないため、最初の予定だけを表示します</translation>
+    </message>
+    <message>
+        <source>the repetitions are too many to count; only the first event is shown</source>
+        <translation>繰り返しが多すぎて数えられないため、最初の予定だけを表示します</translation>
+    </message>
+    <message>
         <source>The settings file %2 could not be read (%1) nor moved aside. Quillet starts with its first-run settings.</source>
         <translation>設定ファイル %2 を読み取ることも (%1)、移動することもできませんでした。Quillet は初回起動時の設定で起動します。</translation>
     </message>
     <message>
         <source>The settings file could not be read (%1). It was kept as %2, and Quillet starts with its first-run settings.</source>
         <translation>設定ファイルを読み取れませんでした (%1)。%2 として残し、Quillet は初回起動時の設定で起動します。</translation>
+    </message>
+    <message>
+        <source>the start “%1” cannot be read; the event is left out</source>
+        <translation>開始「%1」を読み取れないため、この予定を除外しました</translation>
     </message>
     <message>
         <source>The sum in hours, minutes or as a duration</source>
@@ -1656,6 +1716,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>Whether there is a newer version could not be found out</source>
         <translation>新しいバージョンがあるかどうかを確認できませんでした</translation>
+    </message>
+    <message>
+        <source>which occurrence it replaces cannot be read (“%1”); the series is shown without this change</source>
+        <translation>どの回を置き換えるのか読み取れません（「%1」）。この変更なしで表示します</translation>
     </message>
     <message>
         <source>Which time column the table, the results and reports show</source>

@@ -37,7 +37,7 @@ bool standsAlone(const RawEvent& event) {
 
 SourceContents::SourceContents(std::shared_ptr<const StoreCalendar> calendar, ZoneCatalog& zones)
     : calendar_(std::move(calendar))
-    , context_{zones, {}, {}}
+    , context_{zones, {}, {}, std::make_shared<ZoneLookups>()}
     , contents_(std::make_shared<const CalendarContents>()) {}
 
 void SourceContents::setCalendar(std::shared_ptr<const StoreCalendar> calendar) {

@@ -1,64 +1,16 @@
 #include "backends/icsfolder/IcalValues.h"
 
+#include "backends/icsfolder/WrittenLength.h"
+#include "backends/icsfolder/WrittenRule.h"
+
 #include <QStringDecoder>
+
+#include <algorithm>
 
 namespace quillet {
 
-using std::chrono::sys_seconds;
-
-namespace {
-
-template <std::size_t Size>
-std::vector<int> valuesOf(const short (&list)[Size]) {
-    std::vector<int> values;
-    for (const short value : list) {
-        if (value == ICAL_RECURRENCE_ARRAY_MAX) {
-            break;
-        }
-        values.push_back(value);
-    }
-    return values;
-}
-
-std::optional<RecurrenceRule::Frequency> frequencyFrom(icalrecurrencetype_frequency frequency) {
-    switch (frequency) {
-    case ICAL_HOURLY_RECURRENCE:
-        return RecurrenceRule::Frequency::Hourly;
-    case ICAL_DAILY_RECURRENCE:
-        return RecurrenceRule::Frequency::Daily;
-    case ICAL_WEEKLY_RECURRENCE:
-        return RecurrenceRule::Frequency::Weekly;
-    case ICAL_MONTHLY_RECURRENCE:
-        return RecurrenceRule::Frequency::Monthly;
-    case ICAL_YEARLY_RECURRENCE:
-        return RecurrenceRule::Frequency::Yearly;
-    default:
-        return std::nullopt;
-    }
-}
-
-std::optional<LocalSeconds> untilFrom(const icaltimetype& until, const ZoneRules& zone,
-                                      bool isAllDay) {
-    const auto local = localSecondsFrom(until);
-    if (!local) {
-        return std::nullopt;
-    }
-    const auto endOfDay = [](LocalSeconds time) {
-        return std::chrono::floor<std::chrono::days>(time) + std::chrono::seconds(86399);
-    };
-    // A date includes its whole day, also for an event that has a time.
-    if (until.is_date != 0) {
-        return endOfDay(*local);
-    }
-    const bool isMidnight = *local == std::chrono::floor<std::chrono::days>(*local);
-    if (icaltime_is_utc(until) == 0 || (isAllDay && isMidnight)) {
-        return isAllDay ? endOfDay(*local) : *local;
-    }
-    const LocalSeconds inZone = zone.toLocal(sys_seconds(local->time_since_epoch()));
-    return isAllDay ? endOfDay(inZone) : inZone;
-}
-
-} // namespace
+using std::chrono::days;
+using std::chrono::seconds;
 
 std::optional<LocalSeconds> localSecondsFrom(const icaltimetype& time) {
     using namespace std::chrono;
@@ -99,43 +51,50 @@ QString textFrom(const icalproperty* property) {
     return decoder.hasError() ? QString::fromLatin1(text) : decoded;
 }
 
+EventLength lengthFrom(const icaldurationtype& duration) {
+    if (duration.is_neg != 0 || icaldurationtype_is_bad_duration(duration) != 0) {
+        return {};
+    }
+    const auto wholeDays = std::int64_t(duration.weeks) * 7 + duration.days;
+    const auto clock = std::int64_t(duration.hours) * 3600 + std::int64_t(duration.minutes) * 60 +
+                       duration.seconds;
+    constexpr std::int64_t mostDays = longestEvent.count();
+    return {days(std::min(wholeDays, mostDays)), seconds(std::min(clock, mostDays * 86400))};
+}
+
+std::string writtenForm(const icalproperty* property) {
+    char* const text = icalproperty_get_value_as_string_r(property);
+    std::string form = text == nullptr ? std::string() : std::string(text);
+    icalmemory_free_buffer(text);
+    return form;
+}
+
+UnreadProperty unreadFrom(std::string_view error) {
+    static constexpr std::string_view before = " value in ";
+    static constexpr std::string_view behind = " property. Removing entire property: ";
+    const std::size_t first = error.find(before);
+    const std::size_t last = error.find(behind);
+    if (first == std::string_view::npos || last == std::string_view::npos ||
+        last < first + before.size()) {
+        return {};
+    }
+    UnreadProperty unread{error.substr(first + before.size(), last - first - before.size()),
+                          std::string(error.substr(last + behind.size()))};
+    std::erase(unread.value, '\\');
+    return unread;
+}
+
+std::string ruleTextFrom(const icalrecurrencetype& recurrence) {
+    icalrecurrencetype copy = recurrence;
+    char* const written = icalrecurrencetype_as_string_r(&copy);
+    std::string text = written == nullptr ? std::string() : std::string(written);
+    icalmemory_free_buffer(written);
+    return text;
+}
+
 std::optional<RecurrenceRule> ruleFrom(const icalrecurrencetype& recurrence, const ZoneRules& zone,
                                        bool isAllDay) {
-    const auto frequency = frequencyFrom(recurrence.freq);
-    const bool hasUntil = icaltime_is_null_time(recurrence.until) == 0;
-    if (!frequency || recurrence.interval < 1 || recurrence.count < 0 ||
-        (hasUntil && recurrence.count > 0) || recurrence.rscale != nullptr) {
-        return std::nullopt;
-    }
-    RecurrenceRule rule;
-    rule.frequency = *frequency;
-    rule.interval = recurrence.interval;
-    if (recurrence.count > 0) {
-        rule.count = recurrence.count;
-    }
-    if (hasUntil) {
-        rule.until = untilFrom(recurrence.until, zone, isAllDay);
-        if (!rule.until) {
-            return std::nullopt;
-        }
-    }
-    rule.weekStart = recurrence.week_start == ICAL_NO_WEEKDAY
-                         ? 1U
-                         : static_cast<unsigned>(recurrence.week_start - ICAL_SUNDAY_WEEKDAY);
-    rule.seconds = valuesOf(recurrence.by_second);
-    rule.minutes = valuesOf(recurrence.by_minute);
-    rule.hours = valuesOf(recurrence.by_hour);
-    for (const int day : valuesOf(recurrence.by_day)) {
-        const auto weekday = icalrecurrencetype_day_day_of_week(static_cast<short>(day));
-        rule.weekdays.push_back({icalrecurrencetype_day_position(static_cast<short>(day)),
-                                 static_cast<unsigned>(weekday - ICAL_SUNDAY_WEEKDAY)});
-    }
-    rule.monthDays = valuesOf(recurrence.by_month_day);
-    rule.yearDays = valuesOf(recurrence.by_year_day);
-    rule.weekNumbers = valuesOf(recurrence.by_week_no);
-    rule.months = valuesOf(recurrence.by_month);
-    rule.setPositions = valuesOf(recurrence.by_set_pos);
-    return rule;
+    return writtenRuleFrom(ruleTextFrom(recurrence), zone, isAllDay);
 }
 
 } // namespace quillet

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "backends/icsfolder/RecurrenceRule.h"
+#include "backends/icsfolder/Series.h"
 #include "platform/ZoneRules.h"
 
 #include <QString>
@@ -9,6 +10,8 @@
 
 #include <memory>
 #include <optional>
+#include <string>
+#include <string_view>
 
 namespace quillet {
 
@@ -24,8 +27,24 @@ using ComponentPointer = std::unique_ptr<icalcomponent, ComponentDeleter>;
 /// read as Latin-1.
 [[nodiscard]] QString textFrom(const icalproperty* property);
 
-/// A rule in the wall-clock time of the zone. Nothing when it cannot be followed: one that is
-/// malformed, never advances, or repeats by the minute or second.
+/// Nothing where it is below zero.
+[[nodiscard]] EventLength lengthFrom(const icaldurationtype& duration);
+
+/// A value as a file would write it.
+[[nodiscard]] std::string writtenForm(const icalproperty* property);
+
+/// A property that the parser could not read: its name, empty when it is not known, and its value.
+struct UnreadProperty {
+    std::string_view name;
+    std::string value;
+};
+/// What the parser says of an error. Refers to the text of the error.
+[[nodiscard]] UnreadProperty unreadFrom(std::string_view error);
+
+/// A rule as a file would write it.
+[[nodiscard]] std::string ruleTextFrom(const icalrecurrencetype& recurrence);
+
+/// A rule in the wall-clock time of the zone. Nothing when it cannot be followed.
 [[nodiscard]] std::optional<RecurrenceRule> ruleFrom(const icalrecurrencetype& recurrence,
                                                      const ZoneRules& zone, bool isAllDay);
 

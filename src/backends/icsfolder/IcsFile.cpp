@@ -4,7 +4,6 @@
 #include "texts/Localized.h"
 
 #include <future>
-#include <span>
 
 namespace quillet {
 
@@ -25,7 +24,7 @@ struct ReadEvents {
 std::vector<ReadingContext> contextsOf(const IcsBlocks& blocks, ZoneCatalog& zones) {
     std::vector<ReadingContext> contexts;
     for (const auto& calendar : blocks.calendars) {
-        ReadingContext context{zones, {}, {}};
+        ReadingContext context{zones, {}, {}, {}};
         for (const std::size_t offset : calendar.zones) {
             const auto definition = zones.defined(blocks.text.data() + offset);
             if (definition.rules) {
@@ -37,17 +36,26 @@ std::vector<ReadingContext> contextsOf(const IcsBlocks& blocks, ZoneCatalog& zon
     return contexts;
 }
 
-ReadEvents readBlocks(const IcsBlocks& blocks, std::span<const IcsBlocks::EventBlock> some,
+/// The events from one index up to another, which is not included.
+ReadEvents readBlocks(const IcsBlocks& blocks, std::size_t first, std::size_t last,
                       std::vector<ReadingContext> contexts) {
     ReadEvents read;
-    read.events.reserve(some.size());
-    for (const auto& block : some) {
-        auto event = readEvent(blocks.text.data() + block.offset, contexts[block.calendar]);
+    read.events.reserve(last - first);
+    // Each thread has its own.
+    const auto lookups = std::make_shared<ZoneLookups>();
+    for (ReadingContext& context : contexts) {
+        context.lookups = lookups;
+    }
+    for (std::size_t index = first; index < last; ++index) {
+        auto event = readEvent(blocks, index, contexts[blocks.events[index].calendar]);
         if (!event) {
             ++read.unreadable;
-        } else if (!event->start) {
-            ++read.withoutStart;
-        } else {
+            continue;
+        }
+        const bool hasStart = event->start.has_value();
+        // A start that cannot be read is complained of by name.
+        read.withoutStart += hasStart || !event->complaints.empty() ? 0 : 1;
+        if (hasStart || !event->complaints.empty()) {
             read.events.push_back(*std::move(event));
         }
     }
@@ -58,15 +66,15 @@ ReadEvents readBlocks(const IcsBlocks& blocks, std::span<const IcsBlocks::EventB
 }
 
 ReadEvents readAll(const IcsBlocks& blocks, ZoneCatalog& zones) {
-    const std::span all(blocks.events);
+    const std::size_t count = blocks.events.size();
     const auto contexts = contextsOf(blocks, zones);
-    if (all.size() < eventsWorthASecondThread) {
-        return readBlocks(blocks, all, contexts);
+    if (count < eventsWorthASecondThread) {
+        return readBlocks(blocks, 0, count, contexts);
     }
-    const std::size_t half = all.size() / 2;
-    auto second = std::async(std::launch::async,
-                             [&] { return readBlocks(blocks, all.subspan(half), contexts); });
-    ReadEvents read = readBlocks(blocks, all.first(half), contexts);
+    const std::size_t half = count / 2;
+    auto second =
+        std::async(std::launch::async, [&] { return readBlocks(blocks, half, count, contexts); });
+    ReadEvents read = readBlocks(blocks, 0, half, contexts);
     ReadEvents rest = second.get();
     std::ranges::move(rest.events, std::back_inserter(read.events));
     std::ranges::move(rest.unknownZones, std::back_inserter(read.unknownZones));
@@ -115,6 +123,26 @@ void noteProblems(const IcsBlocks& blocks, const ReadEvents& read, QStringList& 
 
 } // namespace
 
+void IcsFile::complain(const QString& problem) {
+    if (problems.contains(problem)) {
+        return;
+    }
+    if (problems.size() < qsizetype(mostComplaintsInFile)) {
+        problems.append(problem);
+    } else {
+        ++unnamedProblems;
+    }
+}
+
+void IcsFile::closeProblems() {
+    if (unnamedProblems > 0) {
+        problems.append(unnamedProblems == 1
+                            ? localized("one more line cannot be read")
+                            : localized("%1 more lines cannot be read").arg(unnamedProblems));
+        unnamedProblems = 0;
+    }
+}
+
 IcsFile readIcs(std::string bytes, const std::shared_ptr<const StoreCalendar>& calendar,
                 ZoneCatalog& zones) {
     IcsFile file;
@@ -125,9 +153,11 @@ IcsFile readIcs(std::string bytes, const std::shared_ptr<const StoreCalendar>& c
     IcsBlocks blocks = takeApart(asUtf8(std::move(bytes)));
     ReadEvents read = readAll(blocks, zones);
     noteProblems(blocks, read, file.problems);
+    file.unnamedProblems = blocks.unnamedComplaints;
     blocks = {};
     WorkBudget budget(fileBudget);
     assembleEvents(std::move(read.events), calendar, budget, file);
+    file.closeProblems();
     return file;
 }
 

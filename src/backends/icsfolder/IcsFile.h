@@ -20,6 +20,13 @@ struct IcsFile {
     std::vector<std::shared_ptr<const Series>> series;
     /// What could not be read, each in a sentence fragment.
     QStringList problems;
+    /// How many more there are than can be shown.
+    std::size_t unnamedProblems = 0;
+
+    /// Once for each that is the same.
+    void complain(const QString& problem);
+    /// Says how many there are beside those that are shown. After the last one.
+    void closeProblems();
 };
 
 /// Reads the content of a calendar file, whatever it is. Callable from any thread.

@@ -1,9 +1,14 @@
 #pragma once
 
+#include "backends/icsfolder/EventComplaint.h"
+
 #include <QString>
 #include <QStringList>
 
+#include <cstdint>
 #include <expected>
+#include <limits>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -17,7 +22,11 @@ constexpr std::int64_t largestFileBytes = std::int64_t(128) * 1024 * 1024;
 constexpr std::size_t longestLineBytes = std::size_t(256) * 1024;
 /// What is kept of one event; the rest of its lines is dropped.
 constexpr std::size_t largestEventBytes = std::size_t(1024) * 1024;
+/// A longer repetition rule is none.
+constexpr std::size_t longestRuleBytes = std::size_t(8) * 1024;
 constexpr std::size_t mostEventsInFile = 300'000;
+/// So many lines of a file are named that cannot be read; the others are counted.
+constexpr std::size_t mostComplaintsInFile = 20;
 constexpr std::size_t mostZonesInFile = 500;
 
 /// Stands at both ends of a title, place or note that begins or ends with a blank: the parser
@@ -34,14 +43,36 @@ constexpr char textGuard = '\x01';
 /// by its mark.
 [[nodiscard]] std::string asUtf8(std::string bytes);
 
-/// One file taken apart: what matters of each event and time zone, lines unfolded, everything else
-/// left out, so that the parser behind never sees attachments, alarms or endless lines.
+/// An RRULE or EXRULE.
+struct RuleLine {
+    enum class Kind { Rule, ExceptionRule };
+
+    Kind kind = Kind::Rule;
+    std::string text;
+    std::size_t line = 0;
+};
+
+/// One file taken apart: what matters of each event and time zone, lines unfolded, values in the
+/// form that the standard prescribes, everything else left out, so that the parser behind never
+/// sees attachments, alarms, endless lines or what it would drop without a word.
 struct IcsBlocks {
     struct EventBlock {
         /// Offset into `text`, where a null character ends the block.
         std::size_t offset = 0;
         /// Index into `calendars`.
         std::size_t calendar = 0;
+        /// Indices into `rules` and `complaints`: its own go up to those of the next event.
+        std::size_t firstRule = 0;
+        std::size_t firstComplaint = 0;
+        /// LAST-MODIFIED and DTSTAMP, in seconds since 1970; the earliest number where there is
+        /// none.
+        std::int64_t lastModified = std::numeric_limits<std::int64_t>::min();
+        std::int64_t stamp = std::numeric_limits<std::int64_t>::min();
+        /// Whether a program that has no dates marks it as whole days.
+        bool isMarkedAllDay = false;
+        bool hasUnreadableRecurrenceId = false;
+        /// Where its end stands, counted from 1; 0 where it has none.
+        std::size_t endLine = 0;
     };
     struct CalendarBlock {
         /// Offsets into `text` of the time zones of this calendar.
@@ -51,6 +82,11 @@ struct IcsBlocks {
     std::string text;
     std::vector<EventBlock> events;
     std::vector<CalendarBlock> calendars;
+    /// In the order of their events.
+    std::vector<RuleLine> rules;
+    std::vector<EventComplaint> complaints;
+    /// How many more there would be.
+    std::size_t unnamedComplaints = 0;
     /// Of the first calendar in the file that has one; null when none has.
     QString name;
     QString color;
@@ -60,6 +96,9 @@ struct IcsBlocks {
     bool hasUnendedPart = false;
     bool hasCutText = false;
     bool hasTooManyEvents = false;
+
+    [[nodiscard]] std::span<const RuleLine> rulesOf(std::size_t event) const;
+    [[nodiscard]] std::span<const EventComplaint> complaintsOf(std::size_t event) const;
 };
 
 [[nodiscard]] IcsBlocks takeApart(std::string_view utf8);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "backends/icsfolder/EventComplaint.h"
+#include "backends/icsfolder/IcsText.h"
 #include "backends/icsfolder/RecurrenceRule.h"
 #include "backends/icsfolder/Series.h"
 #include "backends/icsfolder/ZoneCatalog.h"
@@ -29,6 +31,16 @@ struct RawTime {
     [[nodiscard]] std::chrono::sys_seconds instant() const { return zone->toInstant(local); }
 };
 
+/// Tells the versions of an event apart, the newest being the greatest.
+struct EventVersion {
+    int sequence = 0;
+    /// LAST-MODIFIED and DTSTAMP, in seconds since 1970.
+    std::int64_t lastModified = std::numeric_limits<std::int64_t>::min();
+    std::int64_t stamp = std::numeric_limits<std::int64_t>::min();
+
+    friend auto operator<=>(const EventVersion&, const EventVersion&) = default;
+};
+
 /// One VEVENT, read but not yet put together with its exceptions.
 struct RawEvent {
     struct Extra {
@@ -42,11 +54,11 @@ struct RawEvent {
     QString location;
     QString notes;
     QString url;
-    int sequence = 0;
+    EventVersion version;
     bool isCancelled = false;
     bool isThisAndFuture = false;
-    /// Whether it names a rule that cannot be followed.
-    bool hasUnusableRule = false;
+    /// Whether it is an exception that does not say of what.
+    bool hasUnreadableRecurrenceId = false;
     /// Whether it names a time zone that means nothing here, and is taken as local time.
     bool hasUnknownZone = false;
     std::optional<RawTime> start;
@@ -59,9 +71,21 @@ struct RawEvent {
     std::vector<RecurrenceRule> exceptionRules;
     std::vector<Extra> extras;
     std::vector<RawTime> exceptions;
+    std::vector<EventComplaint> complaints;
 
     [[nodiscard]] bool isAllDay() const { return start->kind == RawTime::Kind::Date; }
     [[nodiscard]] EventLength length() const;
+};
+
+/// The zones that the events of one reading named so far. Looking up a name that means nothing is
+/// dear, so there is a bound to their number.
+class ZoneLookups {
+public:
+    [[nodiscard]] ZoneCatalog::Rules find(std::string_view name, ZoneCatalog& zones);
+
+private:
+    std::map<std::string, ZoneCatalog::Rules, std::less<>> found_;
+    std::size_t unknown_ = 0;
 };
 
 /// What reading events needs to know of their file.
@@ -71,12 +95,15 @@ struct ReadingContext {
     std::map<std::string, ZoneCatalog::Rules, std::less<>> definedZones;
     /// Zone names that mean nothing here.
     std::vector<std::string> unknownZones;
+    /// Belongs to one thread.
+    std::shared_ptr<ZoneLookups> lookups;
 };
 
-/// One null-terminated event block. Nothing when the parser makes nothing of it. An event without
-/// a usable start has none.
-[[nodiscard]] std::optional<RawEvent> readEvent(const char* block, ReadingContext& context);
-/// The same for a VEVENT that was parsed already.
+/// One event of a file. Nothing when the parser makes nothing of it. An event without a usable
+/// start has none.
+[[nodiscard]] std::optional<RawEvent> readEvent(const IcsBlocks& blocks, std::size_t event,
+                                                ReadingContext& context);
+/// The same for a VEVENT that was parsed elsewhere.
 [[nodiscard]] RawEvent readEvent(icalcomponent_impl& component, ReadingContext& context);
 
 } // namespace quillet

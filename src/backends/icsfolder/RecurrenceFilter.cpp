@@ -66,6 +66,7 @@ void RecurrenceFilter::takeMissingDayPartsFrom(const year_month_day& date, unsig
             rule_.yearDays.empty()) {
             rule_.weekdays = {{0, weekday}};
         }
+        takeMissingMonthFrom(date);
         return;
     }
     if (rule_.frequency == Frequency::Weekly) {
@@ -78,15 +79,29 @@ void RecurrenceFilter::takeMissingDayPartsFrom(const year_month_day& date, unsig
     }
 }
 
+void RecurrenceFilter::takeMissingMonthFrom(const year_month_day& date) {
+    // The standard means the day of every month by "yearly on the 15th". Nobody who writes it does:
+    // the calendar programs of desktops and phones write it for birthdays and show it in the month
+    // of the start, and hours that no such program shows must not be billed.
+    if (rule_.frequency == Frequency::Yearly && !rule_.monthDays.empty() && rule_.months.empty() &&
+        rule_.yearDays.empty() && rule_.weekNumbers.empty()) {
+        rule_.months = {static_cast<int>(static_cast<unsigned>(date.month()))};
+    }
+}
+
 void RecurrenceFilter::buildTimes(LocalSeconds start) {
     const std::chrono::hh_mm_ss clock(start - std::chrono::floor<std::chrono::days>(start));
-    const bool isHourly = rule_.frequency == Frequency::Hourly;
-    const std::vector<int> hours =
-        isHourly ? std::vector<int>{0} : orElse(rule_.hours, clock.hours().count());
+    const std::vector<int> zero{0};
+    const bool hasHours = rule_.frequency > Frequency::Hourly;
+    const bool hasMinutes = rule_.frequency > Frequency::Minutely;
+    const bool hasSeconds = rule_.frequency > Frequency::Secondly;
+    const auto hours = hasHours ? orElse(rule_.hours, clock.hours().count()) : zero;
+    const auto minutes = hasMinutes ? orElse(rule_.minutes, clock.minutes().count()) : zero;
+    const auto seconds = hasSeconds ? orElse(rule_.seconds, clock.seconds().count()) : zero;
     std::set<std::chrono::seconds> times;
     for (const int hour : hours) {
-        for (const int minute : orElse(rule_.minutes, clock.minutes().count())) {
-            for (const int second : orElse(rule_.seconds, clock.seconds().count())) {
+        for (const int minute : minutes) {
+            for (const int second : seconds) {
                 times.insert(std::chrono::hours(hour) + std::chrono::minutes(minute) +
                              std::chrono::seconds(second));
             }
@@ -97,6 +112,16 @@ void RecurrenceFilter::buildTimes(LocalSeconds start) {
 
 bool RecurrenceFilter::admitsHour(int hour) const {
     return rule_.hours.empty() || contains(rule_.hours, hour);
+}
+
+bool RecurrenceFilter::admitsMinute(int minute) const {
+    return rule_.frequency == Frequency::Hourly || rule_.minutes.empty() ||
+           contains(rule_.minutes, minute);
+}
+
+bool RecurrenceFilter::admitsSecond(int second) const {
+    return rule_.frequency != Frequency::Secondly || rule_.seconds.empty() ||
+           contains(rule_.seconds, second);
 }
 
 bool RecurrenceFilter::admitsDay(local_days day) const {

@@ -14,8 +14,13 @@ public:
     RecurrenceFilter(const RecurrenceRule& rule, LocalSeconds start);
 
     [[nodiscard]] bool admitsDay(std::chrono::local_days day) const;
+    /// For rules that count in hours or less: whether one may begin in such an hour, minute or
+    /// second.
     [[nodiscard]] bool admitsHour(int hour) const;
-    /// Offsets from midnight, or from the full hour for an hourly rule; ascending.
+    [[nodiscard]] bool admitsMinute(int minute) const;
+    [[nodiscard]] bool admitsSecond(int second) const;
+    /// Offsets from midnight, or from the beginning of the hour, minute or second that the rule
+    /// counts by; ascending.
     [[nodiscard]] const std::vector<std::chrono::seconds>& times() const { return times_; }
 
 private:
@@ -26,6 +31,7 @@ private:
     [[nodiscard]] bool admitsWeekNumber(const std::chrono::year_month_day& date,
                                         std::chrono::local_days day) const;
     void takeMissingDayPartsFrom(const std::chrono::year_month_day& date, unsigned weekday);
+    void takeMissingMonthFrom(const std::chrono::year_month_day& date);
     void buildTimes(LocalSeconds start);
 
     RecurrenceRule rule_;

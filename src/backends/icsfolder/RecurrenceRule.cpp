@@ -118,36 +118,82 @@ void appendWithin(const std::vector<LocalSeconds>& some, LocalSeconds from, Loca
                          [&](LocalSeconds time) { return time >= from && time < to; });
 }
 
-void expandHourly(const RecurrenceRule& rule, LocalSeconds start, LocalSeconds from,
-                  LocalSeconds to, WorkBudget& budget, std::vector<LocalSeconds>& times) {
+bool countsByTheClock(Frequency frequency) {
+    return frequency == Frequency::Hourly || frequency == Frequency::Minutely ||
+           frequency == Frequency::Secondly;
+}
+
+/// The hour, minute or second that a rule counts by.
+std::chrono::seconds clockUnit(Frequency frequency) {
+    switch (frequency) {
+    case Frequency::Hourly:
+        return std::chrono::hours(1);
+    case Frequency::Minutely:
+        return std::chrono::minutes(1);
+    default:
+        return std::chrono::seconds(1);
+    }
+}
+
+/// The first time of the steps that is not before the other.
+LocalSeconds nextStep(LocalSeconds time, std::chrono::seconds step, LocalSeconds notBefore) {
+    return time + (notBefore - time + step - std::chrono::seconds(1)) / step * step;
+}
+
+/// Where to look next when nothing begins at the unit that starts then; nothing when something may.
+std::optional<LocalSeconds> skipTarget(const RecurrenceFilter& filter, LocalSeconds unit) {
+    const local_days day = floor<days>(unit);
+    if (!filter.admitsDay(day)) {
+        return day + days(1);
+    }
+    const LocalSeconds hour = floor<std::chrono::hours>(unit);
+    if (!filter.admitsHour(static_cast<int>((hour - day) / std::chrono::hours(1)))) {
+        return hour + std::chrono::hours(1);
+    }
+    const LocalSeconds minute = floor<std::chrono::minutes>(unit);
+    if (!filter.admitsMinute(static_cast<int>((minute - hour) / std::chrono::minutes(1)))) {
+        return minute + std::chrono::minutes(1);
+    }
+    const auto second = static_cast<int>((unit - minute).count());
+    return filter.admitsSecond(second) ? std::nullopt
+                                       : std::optional(unit + std::chrono::seconds(1));
+}
+
+void expandByTheClock(const RecurrenceRule& rule, LocalSeconds start, LocalSeconds from,
+                      LocalSeconds to, WorkBudget& budget, std::vector<LocalSeconds>& times) {
     const RecurrenceFilter filter(rule, start);
-    const auto step = std::chrono::hours(rule.interval);
-    const LocalSeconds firstHour = floor<std::chrono::hours>(start);
-    const auto skipped = std::max<std::int64_t>(0, (from - firstHour) / step - 1);
-    std::vector<LocalSeconds> inHour;
-    for (LocalSeconds hour = firstHour + skipped * step; hour < to;) {
-        const local_days day = floor<days>(hour);
+    const std::chrono::seconds unit = clockUnit(rule.frequency);
+    const std::chrono::seconds step = unit * std::int64_t(rule.interval);
+    const LocalSeconds first = start - (start.time_since_epoch() % unit + unit) % unit;
+    const auto skipped = std::max<std::int64_t>(0, (from - first) / step - 1);
+    std::vector<LocalSeconds> inUnit;
+    for (LocalSeconds current = first + skipped * step; current < to;) {
         if (!budget.spend(1)) {
             return;
         }
-        if (!filter.admitsDay(day)) {
-            const auto rest = LocalSeconds(day + days(1)) - hour;
-            hour += (rest + step - std::chrono::seconds(1)) / step * step;
+        if (const auto target = skipTarget(filter, current)) {
+            current = nextStep(current, step, *target);
             continue;
         }
-        inHour.clear();
-        if (filter.admitsHour(static_cast<int>((hour - day) / std::chrono::hours(1)))) {
-            for (const std::chrono::seconds offset : filter.times()) {
-                inHour.push_back(hour + offset);
-            }
+        inUnit.clear();
+        for (const std::chrono::seconds offset : filter.times()) {
+            inUnit.push_back(current + offset);
         }
-        if (!budget.spendOnTimes(inHour.size())) {
+        if (!budget.spendOnTimes(inUnit.size())) {
             return;
         }
-        keepPositions(rule.setPositions, inHour);
-        appendWithin(inHour, from, to, times);
-        hour += step;
+        keepPositions(rule.setPositions, inUnit);
+        appendWithin(inUnit, from, to, times);
+        current += step;
     }
+}
+
+/// How far to look at first for the times that a count counts.
+std::chrono::seconds firstSpan(const RecurrenceRule& rule) {
+    constexpr std::int64_t unitsAtOnce = 3600;
+    return rule.frequency == Frequency::Minutely || rule.frequency == Frequency::Secondly
+               ? clockUnit(rule.frequency) * unitsAtOnce * rule.interval
+               : days(400) * std::int64_t(rule.interval);
 }
 
 } // namespace
@@ -159,8 +205,8 @@ void expandRule(const RecurrenceRule& rule, LocalSeconds start, LocalSeconds fro
     if (from >= to || !budget.spendOnTimes(1)) {
         return;
     }
-    if (rule.frequency == Frequency::Hourly) {
-        expandHourly(rule, start, from, to, budget, times);
+    if (countsByTheClock(rule.frequency)) {
+        expandByTheClock(rule, start, from, to, budget, times);
         return;
     }
     const RecurrenceFilter filter(rule, start);
@@ -203,7 +249,7 @@ std::optional<RecurrenceRule> ruleWithoutCount(const RecurrenceRule& rule, Local
     endless.until.reset();
     const LocalSeconds horizon = local_days(std::chrono::year(2300) / 1 / 1);
     LocalSeconds from = start + std::chrono::seconds(1);
-    std::chrono::seconds span = days(400) * std::int64_t(rule.interval);
+    std::chrono::seconds span = firstSpan(rule);
     while (awaited > 0 && from < horizon) {
         const LocalSeconds to = std::min(horizon, from + span);
         std::vector<LocalSeconds> times;
@@ -218,6 +264,9 @@ std::optional<RecurrenceRule> ruleWithoutCount(const RecurrenceRule& rule, Local
         awaited -= taken;
         from = to;
         span = std::min<std::chrono::seconds>(span * 2, days(36500));
+    }
+    if (rule.until) {
+        bounded.until = std::min(*bounded.until, *rule.until);
     }
     return bounded;
 }

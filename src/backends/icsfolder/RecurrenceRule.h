@@ -32,7 +32,7 @@ private:
 
 /// One RRULE or EXRULE, in the wall-clock time of its event.
 struct RecurrenceRule {
-    enum class Frequency { Hourly, Daily, Weekly, Monthly, Yearly };
+    enum class Frequency { Secondly, Minutely, Hourly, Daily, Weekly, Monthly, Yearly };
     /// 0 is Sunday. An ordinal of 0 means every such weekday; -1 the last one of the month or year.
     struct WeekdayPosition {
         int ordinal = 0;
@@ -45,7 +45,7 @@ struct RecurrenceRule {
     /// Inclusive.
     std::optional<LocalSeconds> until;
     /// How many occurrences there are, the event's own start included; turned into `until` when the
-    /// series is built.
+    /// series is built. Where there is an `until` as well, the earlier end holds.
     std::optional<int> count;
     unsigned weekStart = 1;
     std::vector<int> seconds;

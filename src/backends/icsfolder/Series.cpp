@@ -107,9 +107,8 @@ public:
 
 private:
     [[nodiscard]] bool isExcluded(LocalSeconds local, sys_seconds original) const {
-        return std::ranges::binary_search(series_.excludedInstants, original) ||
-               (!series_.excludedDays.empty() &&
-                std::ranges::binary_search(series_.excludedDays, std::chrono::floor<days>(local)));
+        return series_.excluded.contain(local, original) ||
+               (series_.replaced && series_.replaced->contain(local, original));
     }
 
     const Series& series_;
@@ -120,6 +119,17 @@ private:
 };
 
 } // namespace
+
+void Exclusions::sort() {
+    std::ranges::sort(instants);
+    std::ranges::sort(days);
+}
+
+bool Exclusions::contain(LocalSeconds local, sys_seconds instant) const {
+    return std::ranges::binary_search(instants, instant) ||
+           (!days.empty() &&
+            std::ranges::binary_search(days, std::chrono::floor<std::chrono::days>(local)));
+}
 
 Instant endOf(LocalSeconds start, const EventLength& length, const ZoneRules& zone) {
     return zone.toInstant(start + length.days) + length.seconds;

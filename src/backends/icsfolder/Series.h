@@ -14,6 +14,16 @@ struct EventLength {
     std::chrono::seconds seconds{0};
 };
 
+/// Occurrences that do not take place, or that stand elsewhere as events of their own. Sorted.
+struct Exclusions {
+    std::vector<std::chrono::sys_seconds> instants;
+    std::vector<std::chrono::local_days> days;
+
+    void sort();
+    /// Whether the occurrence is among them that starts then.
+    [[nodiscard]] bool contain(LocalSeconds local, std::chrono::sys_seconds instant) const;
+};
+
 /// An event that recurs. Immutable once built; its occurrences are worked out for each query.
 struct Series {
     /// A date that a list adds, with a length of its own where the list gives one.
@@ -41,9 +51,10 @@ struct Series {
     std::vector<RecurrenceRule> rules;
     std::vector<RecurrenceRule> exceptionRules;
     std::vector<ExtraOccurrence> extras;
-    /// Occurrences that do not take place or that stand elsewhere as events of their own; sorted.
-    std::vector<std::chrono::sys_seconds> excludedInstants;
-    std::vector<std::chrono::local_days> excludedDays;
+    /// What the series itself leaves out.
+    Exclusions excluded;
+    /// What its exceptions replace; null where it has none. Several series may share it.
+    std::shared_ptr<const Exclusions> replaced;
     /// By `from`.
     std::vector<Variation> variations;
 };

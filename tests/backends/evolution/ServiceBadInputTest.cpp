@@ -132,16 +132,19 @@ TEST_F(ServiceBadInputTest, readsWhatItCanOfAFileThatIsGarbage) {
 TEST_F(ServiceBadInputTest, keepsRunningWithRulesThatNeverEnd) {
     ESource* work = addCalendar(QStringLiteral("Work"));
     addEvent(work, event("1", "Hourly") + "\r\nRRULE:FREQ=HOURLY;BYMONTH=2;BYMONTHDAY=30");
-    addEvent(work, event("2", "Secondly") + "\r\nRRULE:FREQ=SECONDLY");
+    addEvent(work, event("2", "Secondly") + "\r\nRRULE:FREQ=SECONDLY;BYMONTH=2;BYMONTHDAY=30");
     addEvent(work, event("3", "Ends early") + "\r\nRRULE:FREQ=DAILY;UNTIL=20230101T000000Z");
+    addEvent(work, event("4", "By the moon") + "\r\nRRULE:RSCALE=HEBREW;FREQ=DAILY");
     QElapsedTimer timer;
     timer.start();
     open();
-    ASSERT_TRUE(waitForTitles({"Ends early", "Hourly", "Secondly"}));
+    ASSERT_TRUE(waitForTitles({"By the moon", "Hourly", "Secondly"}));
     EXPECT_LT(timer.elapsed(), 5000);
     EXPECT_EQ(
         problemOf(QStringLiteral("Work")),
-        QStringLiteral("a repetition that cannot be followed; only its first event is shown"));
+        QStringLiteral("“By the moon” of 2024-03-01: the repetition “RSCALE=HEBREW;FREQ=DAILY” "
+                       "cannot be followed; only the first event is shown. Please correct it in "
+                       "your calendar program."));
 }
 
 TEST_F(ServiceBadInputTest, namesATimeZoneThatNobodyKnows) {

@@ -160,6 +160,65 @@ TEST_F(SourceContentsTest, anEventThatHasExceptionsIsReadWholeWhateverOfItChange
     EXPECT_TRUE(starts().empty());
 }
 
+/// Events as the service's own parser leaves them: what it could not read stands in errors.
+class ServiceFormsTest : public SourceContentsTest {
+protected:
+    void show(const QByteArray& lines) {
+        const QByteArray text =
+            "BEGIN:VEVENT\r\nUID:one\r\nSUMMARY:One\r\n" + lines + "\r\nEND:VEVENT\r\n";
+        const ComponentPointer component(icalparser_parse_string(text.constData()));
+        contents.replace("one", {component.get()});
+    }
+    [[nodiscard]] std::chrono::minutes length() {
+        (void)contents.apply();
+        const EventList events =
+            eventsOf({contents.contents()}, utc(2024, 1, 1), utc(2025, 1, 1)).events;
+        return events.size() != 1 ? std::chrono::minutes(-1)
+                                  : std::chrono::floor<std::chrono::minutes>(events[0].endDate -
+                                                                             events[0].startDate);
+    }
+};
+
+TEST_F(ServiceFormsTest, readsLengthsAndTimesThatTheServiceCouldNot) {
+    show("DTSTART:20240304T090000Z\r\nDURATION:P1H");
+    EXPECT_EQ(length(), std::chrono::minutes(60));
+    show("DTSTART:20240304T0900Z\r\nDTEND:20240304t100000z");
+    EXPECT_EQ(starts(), std::vector<Instant>{utc(2024, 3, 4, 9)});
+    EXPECT_EQ(length(), std::chrono::minutes(60));
+    show("DTSTART;TZID=America/New_York:20240304T090000\r\nDTEND:20240304T100000");
+    EXPECT_EQ(length(), std::chrono::minutes(60));
+    EXPECT_EQ(contents.problems(), QStringList());
+}
+
+TEST_F(ServiceFormsTest, followsRulesThatTheServiceCouldNot) {
+    show("DTSTART:20240304T090000Z\r\nRRULE:FREQ=DAILY;COUNT=2;UNTIL=20240310T000000Z");
+    EXPECT_EQ(starts(), (std::vector<Instant>{utc(2024, 3, 4, 9), utc(2024, 3, 5, 9)}));
+    show("DTSTART:20240304T090000Z\r\nRRULE:FREQ=DAILY;INTERVAL=0;COUNT=2");
+    EXPECT_EQ(starts(), (std::vector<Instant>{utc(2024, 3, 4, 9), utc(2024, 3, 5, 9)}));
+    show("DTSTART:20240304T090000Z\r\nRRULE:FREQ=DAILY;UNTIL=20240303T000000Z");
+    EXPECT_EQ(starts(), std::vector<Instant>());
+    EXPECT_EQ(contents.problems(), QStringList());
+}
+
+TEST_F(ServiceFormsTest, takesMarkedMidnightsForDaysAndKnowsCancelledEvents) {
+    show("X-MICROSOFT-CDO-ALLDAYEVENT:TRUE\r\nDTSTART:20240303T230000Z\r\nDTEND:20240304T230000Z");
+    (void)contents.apply();
+    const EventList events =
+        eventsOf({contents.contents()}, utc(2024, 1, 1), utc(2025, 1, 1)).events;
+    ASSERT_EQ(events.size(), 1U);
+    EXPECT_TRUE(events[0].details->isAllDay);
+    show("DTSTART:20240304T090000Z\r\nSTATUS:CANCELED");
+    EXPECT_EQ(starts(), std::vector<Instant>());
+}
+
+TEST_F(ServiceFormsTest, tellsOfWhatNobodyCanRead) {
+    show("DTSTART:20240304T090000Z\r\nDTEND:soon");
+    EXPECT_EQ(starts(), std::vector<Instant>{utc(2024, 3, 4, 9)});
+    EXPECT_EQ(contents.problems(),
+              QStringList{"“One” of 2024-03-04: the end “soon” cannot be read and does not count. "
+                          "Please correct it in your calendar program."});
+}
+
 } // namespace
 
 } // namespace quillet::test

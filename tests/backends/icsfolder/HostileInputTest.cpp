@@ -10,6 +10,27 @@ namespace quillet::test {
 
 namespace {
 
+/// The most memory that the program held since this was made, beyond what it held then.
+class PeakMemory {
+public:
+    PeakMemory() {
+        QFile peak(QStringLiteral("/proc/self/clear_refs"));
+        EXPECT_TRUE(peak.open(QIODevice::WriteOnly) && peak.write("5") == 1);
+    }
+    [[nodiscard]] qint64 grownBytes() const { return bytes("VmHWM:") - before_; }
+
+private:
+    static qint64 bytes(const char* name) {
+        QFile status(QStringLiteral("/proc/self/status"));
+        EXPECT_TRUE(status.open(QIODevice::ReadOnly));
+        const QByteArray text = status.readAll();
+        const QByteArray line = text.mid(text.indexOf(name)).split('\n').at(0);
+        return line.simplified().split(' ').at(1).toLongLong() * 1024;
+    }
+
+    qint64 before_ = bytes("VmRSS:");
+};
+
 class HostileInputTest : public StoreFixture {
 protected:
     HostileInputTest() {
@@ -245,6 +266,64 @@ TEST_F(HostileInputTest, survivesDeepNesting) {
     write(QStringLiteral("deep.ics"), QByteArray("BEGIN:VCALENDAR\nBEGIN:VTIMEZONE\nTZID:a\n") +
                                           QByteArray("BEGIN:STANDARD\n").repeated(100'000));
     EXPECT_EQ(allEvents().size(), 1U);
+}
+
+TEST_F(HostileInputTest, readsManySeriesAndExceptionsOfOneNameInProportion) {
+    QByteArray text = "BEGIN:VCALENDAR\n";
+    const QDateTime first(QDate(2024, 3, 2), QTime(0, 0), Qt::UTC);
+    const QString format = QStringLiteral("yyyyMMdd'T'HHmmss'Z'");
+    for (int number = 0; number < 15'000; ++number) {
+        const QByteArray start = first.addSecs(number).toString(format).toLatin1();
+        text +=
+            "BEGIN:VEVENT\nUID:a\nSUMMARY:M\nDTSTART:" + start +
+            "\nRRULE:FREQ=YEARLY;COUNT=1\nEND:VEVENT\nBEGIN:VEVENT\nUID:a\nRECURRENCE-ID:" + start +
+            "\nDTSTART:" + start + "\nEND:VEVENT\n";
+    }
+    ASSERT_GT(text.size(), 2'000'000);
+    write(QStringLiteral("many.ics"), text + "END:VCALENDAR\n");
+    PeakMemory memory;
+    EXPECT_EQ(allEvents().size(), 15'001U);
+    EXPECT_LT(memory.grownBytes(), 500'000'000);
+    expectInTime(10000);
+}
+
+TEST_F(HostileInputTest, boundsTheFuturesOfManySeriesOfOneName) {
+    QByteArray text = "BEGIN:VCALENDAR\n";
+    const QDateTime first(QDate(2024, 3, 2), QTime(0, 0), Qt::UTC);
+    const QString format = QStringLiteral("yyyyMMdd'T'HHmmss'Z'");
+    for (int number = 0; number < 5'000; ++number) {
+        const QByteArray start = first.addSecs(number).toString(format).toLatin1();
+        text += "BEGIN:VEVENT\nUID:a\nDTSTART:" + start +
+                "\nRRULE:FREQ=YEARLY\nEND:VEVENT\n"
+                "BEGIN:VEVENT\nUID:a\nRECURRENCE-ID;RANGE=THISANDFUTURE:" +
+                start + "\nDTSTART:" + start + "\nEND:VEVENT\n";
+    }
+    write(QStringLiteral("many.ics"), text + "END:VCALENDAR\n");
+    PeakMemory memory;
+    EXPECT_TRUE(titles().contains(QStringLiteral("Good")));
+    EXPECT_LT(memory.grownBytes(), 500'000'000);
+    expectInTime(20000);
+}
+
+TEST_F(HostileInputTest, readsALineWithThousandsOfParameters) {
+    write(QStringLiteral("many.ics"),
+          eventFile("SUMMARY" + QByteArray(";X-A=1").repeated(60'000) + ":Many\r\nDTSTART" +
+                    QByteArray(";X-B=\"1\"").repeated(60'000) + ";VALUE=DATE:20240302"));
+    EXPECT_EQ(titles(), QStringList({"Good", "Many"}));
+    EXPECT_TRUE(store->problems().empty());
+    expectInTime(2000);
+}
+
+TEST_F(HostileInputTest, looksUpNoMoreThanSomeInventedZones) {
+    QByteArray text = "BEGIN:VCALENDAR\n";
+    for (int number = 0; number < 10'000; ++number) {
+        text += "BEGIN:VEVENT\nUID:" + QByteArray::number(number) + "\nDTSTART;TZID=Moon/Crater" +
+                QByteArray::number(number) + ":20240302T110000\nEND:VEVENT\n";
+    }
+    write(QStringLiteral("moon.ics"), text + "END:VCALENDAR\n");
+    EXPECT_EQ(allEvents().size(), 10'001U);
+    EXPECT_EQ(store->problems().size(), 10U);
+    expectInTime(5000);
 }
 
 /// Whatever happens to a file's bytes, reading it ends, and the other calendar is there.

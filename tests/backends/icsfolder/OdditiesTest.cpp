@@ -247,11 +247,6 @@ TEST_F(OdditiesTest, readsEscapedAndEmptyTexts) {
     EXPECT_TRUE(details.url.isEmpty());
 }
 
-TEST_F(OdditiesTest, readsAnUntilThatIsEarlierThanTheStartAsTheStartAlone) {
-    writeEvents({"DTSTART:20240304T090000Z\r\nRRULE:FREQ=DAILY;UNTIL=20240101T000000Z"});
-    EXPECT_EQ(starts(), march({4}));
-}
-
 TEST_F(OdditiesTest, showsNothingOfASeriesWhoseOccurrencesAreAllExcluded) {
     writeEvents({fourDays + "\r\nEXDATE:20240304T090000Z,20240305T090000Z\r\n"
                             "EXDATE:20240306T090000Z\r\nEXDATE;VALUE=DATE:20240307"});

@@ -72,15 +72,18 @@ TEST_F(RecurrenceTest, includesAStartThatDoesNotFitItsRule) {
 }
 
 TEST_F(RecurrenceTest, showsTheStartAloneWhereTheRuleCannotBeFollowed) {
-    for (const char* rule : {"FREQ=DAILY;COUNT=3;UNTIL=20240310T000000Z", "FREQ=DAILY;COUNT=0",
-                             "FREQ=DAILY;INTERVAL=0", "FREQ=SECONDLY", "FREQ=MINUTELY",
-                             "FREQ=SOMETIMES", "FREQ=DAILY;BYMONTHDAY=99", "INTERVAL=2"}) {
+    for (const char* rule : {"FREQ=DAILY;COUNT=0", "FREQ=DAILY;INTERVAL=-1", "FREQ=SOMETIMES",
+                             "FREQ=DAILY;BYMONTHDAY=99", "INTERVAL=2", "FREQ=DAILY;BYHOUR=24",
+                             "FREQ=DAILY;BYDAY=XX", "FREQ=DAILY;UNTIL=someday", "FREQ=DAILY;NO=1",
+                             "RSCALE=HEBREW;FREQ=DAILY", "FREQ=MONTHLY;SKIP=FORWARD", "DAILY"}) {
         EXPECT_EQ(startsOf(QByteArray("DTSTART:20240304T090000Z\r\nRRULE:") + rule), march({4}))
             << rule;
         ASSERT_EQ(store->problems().size(), 1U) << rule;
-        EXPECT_EQ(
-            store->problems()[0].reason,
-            QStringLiteral("a repetition that cannot be followed; only its first event is shown"));
+        EXPECT_EQ(store->problems()[0].reason,
+                  QStringLiteral("event without a title of 2024-03-04, line 6: the repetition “%1” "
+                                 "cannot be followed; only the first event is shown. Please "
+                                 "correct it in your calendar program.")
+                      .arg(QLatin1String(rule)));
         store.reset();
     }
 }
