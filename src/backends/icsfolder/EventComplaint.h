@@ -1,6 +1,6 @@
 #pragma once
 
-#include "backends/icsfolder/ZoneRules.h"
+#include "platform/ZoneRules.h"
 
 #include <QString>
 
