@@ -53,7 +53,7 @@ struct Sample {
             table.columns.push_back(std::make_unique<test::FakeColumn>(
                 QString::fromLatin1(column.identifier), QString(), 100.0));
             columns.push_back(
-                {QString::fromLatin1(column.identifier), QString::fromLatin1(column.defaultTitle)});
+                {QString::fromLatin1(column.identifier), column.title.firstRunValue().toString()});
         }
     }
     [[nodiscard]] QString text(QChar separator) const {

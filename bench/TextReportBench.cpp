@@ -47,7 +47,7 @@ struct Sample {
              {"calendar", "title", "date", "start", "end", "hours", "notes", "cost"}) {
             const EventColumn& column = eventColumn(QString::fromLatin1(identifier));
             content.columns.push_back({.identifier = QString::fromLatin1(identifier),
-                                       .title = QString::fromLatin1(column.defaultTitle),
+                                       .title = column.title.firstRunValue().toString(),
                                        .length = reportColumnLength(100)});
         }
         std::vector<std::size_t> rows(eventCount);

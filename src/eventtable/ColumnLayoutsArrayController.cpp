@@ -2,15 +2,12 @@
 
 #include "eventtable/EventColumns.h"
 #include "eventtable/StoredColumnLayout.h"
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 
 namespace quillet {
 
 namespace {
-
-const QString usesNamesKey = QStringLiteral("isColumnLayoutUsesNames");
-const QString isDefaultCreatedKey = QStringLiteral("isDefaultColumnLayoutsCreated");
-const QString isApplyingKey = QStringLiteral("isApplyColumnLayoutOn");
 
 /// The key that a layout's column name goes to: made of the stem. For the start-weekday column that
 /// is not its title key, so a layout never brings that title back.
@@ -22,7 +19,7 @@ QString layoutTitleKey(const ColumnPlacement& placement) {
 
 ColumnLayoutsArrayController::ColumnLayoutsArrayController(const Collaborators& collaborators)
     : NamedRecordsController(collaborators.settings, collaborators.alerts,
-                             {.listKey = QStringLiteral("columnLayouts"),
+                             {.listKey = settings::columnLayouts.name(),
                               .nameMember = QStringLiteral("columnLayoutName"),
                               .firstStaysMessage = localizable("Cannot delete Default layout"),
                               .firstStaysReason = localizable("Default layout cannot be deleted.")})
@@ -30,12 +27,12 @@ ColumnLayoutsArrayController::ColumnLayoutsArrayController(const Collaborators& 
 
 void ColumnLayoutsArrayController::awakeFromNib() {
     followStoredList();
-    setIfAbsent(settings(), usesNamesKey, true);
-    if (!hasKey(settings(), isDefaultCreatedKey)) {
+    settings::isColumnLayoutUsesNames.writeIfAbsent(settings());
+    if (!settings::isDefaultColumnLayoutsCreated.isStored(settings())) {
         createDefaultColumnLayouts();
-        settings().setObject(isDefaultCreatedKey, true);
+        settings::isDefaultColumnLayoutsCreated.write(settings(), true);
     }
-    settings().setObject(isApplyingKey, false);
+    settings::isApplyColumnLayoutOn.write(settings(), false);
     updateDefaultColumnLayoutsName();
     selectFirstUnlessSelected();
 }
@@ -72,31 +69,31 @@ void ColumnLayoutsArrayController::applyColumnLayout() {
     }
     const std::vector<ColumnPlacement> placements =
         placementsFromMembers(arranged(selectedRows().front()).members);
-    settings().setObject(isApplyingKey, true);
+    settings::isApplyColumnLayoutOn.write(settings(), true);
     // One column after the other: each write of a visibility key may move the time columns.
     for (const ColumnPlacement& placement : placements) {
-        if (boolForKey(settings(), usesNamesKey) && !placement.title.isNull()) {
+        if (settings::isColumnLayoutUsesNames.read(settings()) && !placement.title.isNull()) {
             settings().setObject(layoutTitleKey(placement), placement.title);
         }
         applyPlacements({placement}, eventsTableView_);
         applyVisibility(placement);
     }
-    settings().setObject(isApplyingKey, false);
+    settings::isApplyColumnLayoutOn.write(settings(), false);
 }
 
 void ColumnLayoutsArrayController::applyVisibility(const ColumnPlacement& placement) {
-    const QString key = QString::fromLatin1(eventColumn(placement.identifier).visibilityKey);
+    const EventColumn& column = eventColumn(placement.identifier);
     const bool isVisible = !placement.isHidden;
     // The three time columns share one key: it ends up on when any of them was visible.
-    if (placement.identifier == u"hours") {
-        settings().setObject(key, false);
+    if (column.timeType == TimeType::Hours) {
+        column.visibility.write(settings(), false);
         if (isVisible) {
-            settings().setObject(key, true);
+            column.visibility.write(settings(), true);
         }
     }
-    const bool isRival = placement.identifier == u"duration" || placement.identifier == u"minutes";
+    const bool isRival = column.timeType && column.timeType != TimeType::Hours;
     if (isVisible || !isRival) {
-        settings().setObject(key, isVisible);
+        column.visibility.write(settings(), isVisible);
     }
 }
 

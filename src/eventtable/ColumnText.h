@@ -1,6 +1,6 @@
 #pragma once
 
-#include "eventtable/EventTexts.h"
+#include "eventtable/EventColumns.h"
 #include "platform/Event.h"
 
 #include <QString>
@@ -8,26 +8,21 @@
 
 namespace quillet {
 
-/// What one column shows of events in the text report and in copied rows. In calendar, title, notes
-/// and location every "%" is doubled; nothing else is changed.
+/// What one column shows of events in the text report and in copied rows. In free texts every "%"
+/// is doubled; nothing else is changed.
 class ColumnText {
 public:
-    /// Whether it shows anything of an event: whether the identifier is one of the event table's.
-    [[nodiscard]] static bool shows(const QString& identifier);
-
-    /// Of an identifier that it shows.
-    explicit ColumnText(const QString& identifier);
+    explicit ColumnText(const EventColumn& column)
+        : column_(&column) {}
 
     /// Null for a missing value. Valid until the next call, and while the event lives, which the
     /// texts must have been set to.
-    [[nodiscard]] QStringView of(const EventDetails& details, EventTexts& texts);
+    [[nodiscard]] QStringView of(const Event& event, EventTexts& texts);
 
 private:
     [[nodiscard]] QStringView cleaned(const QString& text);
 
-    EventTexts::Field field_ = nullptr;
-    QString EventDetails::* detail_ = nullptr;
-    bool isCleaned_ = true;
+    const EventColumn* column_;
     QString made_;
 };
 

@@ -1,31 +1,22 @@
 #include "eventtable/EventItemViewController.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 
 #include <QSet>
+
+#include <algorithm>
 
 namespace quillet {
 
 namespace {
 
-const QString timeTypeKey = QStringLiteral("timeTypeSelection");
-const QString moneyKey = QStringLiteral("isDollarsOn");
-
 QString key(const char* name) {
     return QString::fromLatin1(name);
 }
 
-/// The time columns: the chosen one first, then its rivals in the order in which they give way.
-std::array<const char*, 3> timeColumns(TimeType chosen) {
-    switch (chosen) {
-    case TimeType::Hours:
-        return {"hours", "duration", "minutes"};
-    case TimeType::Minutes:
-        return {"minutes", "hours", "duration"};
-    case TimeType::Duration:
-        break;
-    }
-    return {"duration", "hours", "minutes"};
+const EventColumn& timeColumn(TimeType timeType) {
+    return *std::ranges::find(eventColumns(), timeType, &EventColumn::timeType);
 }
 
 } // namespace
@@ -36,25 +27,22 @@ EventItemViewController::EventItemViewController(const Collaborators& collaborat
 EventItemViewController::~EventItemViewController() = default;
 
 void EventItemViewController::awakeFromNib() {
-    setIfAbsent(with_.settings, QStringLiteral("isProgressIndicatorOn"), false);
-    for (const char* identifier :
-         {"title", "hours", "minutes", "duration", "date", "endDate", "notes", "location", "url",
-          "start", "end", "weekday", "endWeekday", "calendar", "rate", "cost"}) {
-        const EventColumn& titled = eventColumn(key(identifier));
-        setIfAbsent(with_.settings, key(titled.titleKey), localized(titled.defaultTitle));
+    settings::isProgressIndicatorOn.writeIfAbsent(with_.settings);
+    for (const EventColumn* titled : columnsInOrderOfTitles()) {
+        titled->title.writeIfAbsent(with_.settings);
     }
-    QSet<QString> observed;
+    QSet<const SettingKey*> observed;
     for (const EventColumn& each : eventColumns()) {
-        if (!observed.contains(key(each.visibilityKey))) {
-            observed.insert(key(each.visibilityKey));
-            observe(each.visibilityKey, [this] { visibilityChanged(); });
+        if (!observed.contains(&each.visibility)) {
+            observed.insert(&each.visibility);
+            observe(each.visibility, [this] { visibilityChanged(); });
         }
     }
-    observe("isDollarsOn", [this] { visibilityChanged(); });
-    observe("calendars", [this] { setHourlyRateLabelString(); });
+    observe(settings::isDollarsOn, [this] { visibilityChanged(); });
+    observe(settings::calendars, [this] { setHourlyRateLabelString(); });
     connect(&with_.calendarsArrayController, &ListControllerNotices::selectedObjectsChanged, this,
             [this] { setHourlyRateLabelString(); });
-    observe("timeTypeSelection", [this] { visibilityChanged(); });
+    observe(settings::timeTypeSelection, [this] { visibilityChanged(); });
 
     currencySymbol_ = with_.formats.currencySymbol();
     setPeriodLabel();
@@ -63,8 +51,8 @@ void EventItemViewController::awakeFromNib() {
     setHourlyRateLabelString();
 }
 
-void EventItemViewController::observe(const char* settingsKey, std::function<void()> reaction) {
-    observations_.push_back(with_.settings.observe(key(settingsKey), std::move(reaction)));
+void EventItemViewController::observe(const SettingKey& setting, std::function<void()> reaction) {
+    observations_.push_back(setting.observe(with_.settings, std::move(reaction)));
 }
 
 void EventItemViewController::visibilityChanged() {
@@ -74,70 +62,65 @@ void EventItemViewController::visibilityChanged() {
     }
 }
 
-TableColumn& EventItemViewController::column(const char* identifier) {
-    return with_.eventsTableView.columnAt(with_.eventsTableView.positionOf(key(identifier)));
+TableColumn& EventItemViewController::shown(const EventColumn& column) {
+    return with_.eventsTableView.columnAt(with_.eventsTableView.positionOf(key(column.identifier)));
 }
 
 void EventItemViewController::setHiddenEventColumns() {
     isPassRunning_ = true;
-    setHiddenByKey(eventColumn(QStringLiteral("date")));
-    setHiddenTimeColumns();
-    for (const char* identifier : {"title", "notes", "url", "location", "weekday"}) {
-        setHiddenByKey(eventColumn(key(identifier)));
-    }
-    setHiddenMoneyColumns();
-    for (const char* identifier : {"start", "end", "endDate", "calendar", "endWeekday"}) {
-        setHiddenByKey(eventColumn(key(identifier)));
+    for (const EventColumn* column : columnsInOrderOfVisibility()) {
+        if (column->timeType == TimeType::Hours) {
+            setHiddenTimeColumns(*column);
+        } else if (!column->timeType) {
+            setHiddenByKey(*column);
+        }
     }
     isPassRunning_ = false;
-    flipBool(with_.settings, QStringLiteral("hiddenColumnsChangedTrigger"));
+    settings::hiddenColumnsChangedTrigger.flip(with_.settings);
 }
 
-void EventItemViewController::setHiddenByKey(const EventColumn& shown) {
-    setIfAbsent(with_.settings, key(shown.visibilityKey), shown.isVisibleByDefault);
-    column(shown.identifier).setHidden(!boolForKey(with_.settings, key(shown.visibilityKey)));
+void EventItemViewController::setHiddenByKey(const EventColumn& column) {
+    column.visibility.writeIfAbsent(with_.settings);
+    const bool isVisible =
+        column.visibility.read(with_.settings) &&
+        (column.kind != ColumnKind::Money || settings::isDollarsOn.read(with_.settings));
+    shown(column).setHidden(!isVisible);
 }
 
-void EventItemViewController::setHiddenTimeColumns() {
-    const EventColumn& hours = eventColumn(QStringLiteral("hours"));
-    setIfAbsent(with_.settings, key(hours.visibilityKey), hours.isVisibleByDefault);
-    const qint64 selection = integerForKey(with_.settings, timeTypeKey);
+void EventItemViewController::setHiddenTimeColumns(const EventColumn& hours) {
+    hours.visibility.writeIfAbsent(with_.settings);
+    const qint64 selection = settings::timeTypeSelection.read(with_.settings);
     if (selection < static_cast<qint64>(TimeType::Hours) ||
         selection > static_cast<qint64>(TimeType::Duration)) {
         return;
     }
     const auto timeType = static_cast<TimeType>(selection);
-    const auto [chosen, firstRival, secondRival] = timeColumns(timeType);
-    column(chosen).setHidden(!boolForKey(with_.settings, key(hours.visibilityKey)));
+    const EventColumn& chosen = timeColumn(timeType);
+    shown(chosen).setHidden(!chosen.visibility.read(with_.settings));
     shownTimeMenuItem_ = timeType;
     Q_EMIT shownTimeMenuItemChanged();
-    replaceRival(chosen, firstRival);
-    replaceRival(chosen, secondRival);
-}
-
-void EventItemViewController::replaceRival(const char* chosen, const char* rival) {
-    TableColumn& rivalColumn = column(rival);
-    if (rivalColumn.isHidden()) {
-        return;
-    }
-    rivalColumn.setHidden(true);
-    column(chosen).setWidthPoints(rivalColumn.widthPoints());
-    ColumnTable& table = with_.eventsTableView;
-    table.moveColumn(table.positionOf(key(chosen)), table.positionOf(key(rival)));
-}
-
-void EventItemViewController::setHiddenMoneyColumns() {
-    for (const char* identifier : {"cost", "rate"}) {
-        setHiddenByKey(eventColumn(key(identifier)));
-        if (!boolForKey(with_.settings, moneyKey)) {
-            column(identifier).setHidden(true);
+    for (const EventColumn& rival : eventColumns()) {
+        if (rival.timeType && rival.timeType != timeType) {
+            replaceRival(chosen, rival);
         }
     }
 }
 
+void EventItemViewController::replaceRival(const EventColumn& chosen, const EventColumn& rival) {
+    TableColumn& rivalColumn = shown(rival);
+    if (rivalColumn.isHidden()) {
+        return;
+    }
+    rivalColumn.setHidden(true);
+    shown(chosen).setWidthPoints(rivalColumn.widthPoints());
+    ColumnTable& table = with_.eventsTableView;
+    table.moveColumn(table.positionOf(key(chosen.identifier)),
+                     table.positionOf(key(rival.identifier)));
+}
+
 void EventItemViewController::resetAllColumnTitles() {
     for (const EventColumn& each : eventColumns()) {
-        with_.settings.setObject(key(each.titleKey), localized(each.defaultTitle));
+        each.title.reset(with_.settings);
     }
 }
 
@@ -155,7 +138,7 @@ void EventItemViewController::setHourlyRateLabelString() {
 }
 
 void EventItemViewController::setPeriodLabel() {
-    switch (integerForKey(with_.settings, QStringLiteral("quickDatePeriodIndex"))) {
+    switch (settings::quickDatePeriodIndex.read(with_.settings)) {
     case 0:
         periodLabel_ = localized("Day");
         break;
@@ -169,7 +152,7 @@ void EventItemViewController::setPeriodLabel() {
         periodLabel_ = localized("Year");
         break;
     case 4:
-        periodLabel_ = boolForKey(with_.settings, QStringLiteral("isCustomDateOn"))
+        periodLabel_ = settings::isCustomDateOn.read(with_.settings)
                            ? localized("Custom")
                            : QStringLiteral("%1 %2").arg(totalDays()).arg(localized("Days"));
         break;
@@ -180,8 +163,8 @@ void EventItemViewController::setPeriodLabel() {
 }
 
 void EventItemViewController::setDateRangeLabel() {
-    const auto start = dateForKey(with_.settings, QStringLiteral("eventStartDate"));
-    const auto end = dateForKey(with_.settings, QStringLiteral("eventEndDate"));
+    const auto start = settings::eventStartDate.read(with_.settings);
+    const auto end = settings::eventEndDate.read(with_.settings);
     const auto text = [&](const std::optional<Instant>& date) {
         return date ? with_.formats.longDate(*date) : QString();
     };
@@ -190,8 +173,8 @@ void EventItemViewController::setDateRangeLabel() {
 }
 
 int EventItemViewController::totalDays() const {
-    const auto start = dateForKey(with_.settings, QStringLiteral("eventStartDate"));
-    const auto end = dateForKey(with_.settings, QStringLiteral("eventEndDate"));
+    const auto start = settings::eventStartDate.read(with_.settings);
+    const auto end = settings::eventEndDate.read(with_.settings);
     if (!start || !end) {
         return 0;
     }

@@ -60,13 +60,13 @@ Q_SIGNALS:
     void shownTimeMenuItemChanged();
 
 private:
-    void observe(const char* settingsKey, std::function<void()> reaction);
+    void observe(const SettingKey& setting, std::function<void()> reaction);
     void visibilityChanged();
-    [[nodiscard]] TableColumn& column(const char* identifier);
-    void setHiddenByKey(const EventColumn& shown);
-    void setHiddenTimeColumns();
-    void replaceRival(const char* chosen, const char* rival);
-    void setHiddenMoneyColumns();
+    [[nodiscard]] TableColumn& shown(const EventColumn& column);
+    void setHiddenByKey(const EventColumn& column);
+    void setHiddenTimeColumns(const EventColumn& hours);
+    /// Puts the chosen time column where a visible rival is.
+    void replaceRival(const EventColumn& chosen, const EventColumn& rival);
 
     Collaborators with_;
     QString currencySymbol_;

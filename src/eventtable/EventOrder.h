@@ -21,14 +21,15 @@ public:
     ~EventOrder();
     Q_DISABLE_COPY_MOVE(EventOrder)
 
+    /// Of an identifier that is one of eventColumns().
     [[nodiscard]] ListController<Event>::Sorter sorter(const QString& columnIdentifier,
                                                        SortDirection direction);
     /// The time zone of the calendar is another one.
     void followZoneChange();
 
 private:
-    struct Keys;
-    std::unique_ptr<Keys> keys_;
+    struct Known;
+    std::unique_ptr<Known> known_;
 };
 
 } // namespace quillet

@@ -15,26 +15,12 @@ constexpr std::size_t minutesOfADay = 1440;
 } // namespace
 
 EventTexts::EventTexts(const BillingSettings& billing, const LocaleFormats& formats,
-                       const CalendarArithmetic& calendar)
+                       const CalendarArithmetic& calendar, TextReuse reuse)
     : billing_(billing)
     , formats_(formats)
     , calendar_(calendar)
-    , times_(minutesOfADay) {}
-
-EventTexts::Field EventTexts::fieldNamed(const QString& identifier) {
-    static const QHash<QString, Field> fields{{"date", &EventTexts::startDate},
-                                              {"endDate", &EventTexts::adjustedEndDate},
-                                              {"start", &EventTexts::startTime},
-                                              {"end", &EventTexts::endTime},
-                                              {"weekday", &EventTexts::startWeekday},
-                                              {"endWeekday", &EventTexts::endWeekday},
-                                              {"hours", &EventTexts::hours},
-                                              {"minutes", &EventTexts::minutes},
-                                              {"duration", &EventTexts::duration},
-                                              {"cost", &EventTexts::cost},
-                                              {"rate", &EventTexts::rate}};
-    return fields.value(identifier, nullptr);
-}
+    , reuse_(reuse)
+    , times_(reuse == TextReuse::WithinList ? minutesOfADay : 0) {}
 
 void EventTexts::setEvent(const Event& event) {
     event_ = &event;
@@ -42,6 +28,10 @@ void EventTexts::setEvent(const Event& event) {
 }
 
 const EventTexts::Days::value_type& EventTexts::dayOf(Instant instant) {
+    static const Days::value_type notPlain;
+    if (reuse_ == TextReuse::None) {
+        return notPlain;
+    }
     const auto holds = [&](const Days::value_type& day) {
         return day.first <= instant && instant < day.second.end;
     };
@@ -55,8 +45,7 @@ const EventTexts::Days::value_type& EventTexts::dayOf(Instant instant) {
         const Instant end = calendar_.startOfDay(calendar_.add(start, {.days = 1}));
         if (instant >= end) {
             // Clocks went back over midnight: the date returned after the next had begun.
-            static const Days::value_type returned;
-            return returned;
+            return notPlain;
         }
         const Day day{.end = end,
                       .isPlain = end - start == 24h,

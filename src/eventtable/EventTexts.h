@@ -15,18 +15,23 @@
 
 namespace quillet {
 
-/// The texts of the derived fields of many events, each formatted once: dates once a day, times
-/// once a minute of the day, figures once for each number of minutes and calendar. For one run over
-/// a list, while settings, locale and zone stay as they are.
+/// What becomes of a text that was made.
+enum class TextReuse {
+    None,       ///< It is forgotten: right for a cell here and there.
+    WithinList, ///< It serves all events of one list.
+};
+
+/// The texts of the derived fields of events. Of a list each is formatted once: dates once a day,
+/// times once a minute of the day, figures once for each number of minutes and calendar. For one
+/// run over the list, while settings, locale and zone stay as they are.
 class EventTexts {
 public:
     /// All must outlive this. The calendar is the Gregorian one in the zone of the formats.
     EventTexts(const BillingSettings& billing, const LocaleFormats& formats,
-               const CalendarArithmetic& calendar);
+               const CalendarArithmetic& calendar, TextReuse reuse = TextReuse::WithinList);
 
+    /// One of the fields below.
     using Field = QString (EventTexts::*)();
-    /// The field that a column of this identifier shows; null when it is none of those below.
-    [[nodiscard]] static Field fieldNamed(const QString& identifier);
 
     /// The event that the fields below belong to; it must live until the next one is set.
     void setEvent(const Event& event);
@@ -46,6 +51,7 @@ public:
     [[nodiscard]] QString rate() { return calendarTexts().rateText; }
     /// Currency format; null with money off.
     [[nodiscard]] QString cost();
+    [[nodiscard]] QString calendarTitle() { return event_->details->calendar->title; }
 
 private:
     struct Day {
@@ -81,6 +87,7 @@ private:
     const BillingSettings& billing_;
     const LocaleFormats& formats_;
     const CalendarArithmetic& calendar_;
+    TextReuse reuse_;
     const Event* event_ = nullptr;
     std::optional<std::int64_t> minutes_;
     /// By their starts.

@@ -21,10 +21,9 @@ std::vector<VisibleField> visibleFields(ColumnTable& table) {
     for (int position = 0; position < table.columnCount(); ++position) {
         const TableColumn& column = table.columnAt(position);
         if (!column.isHidden()) {
-            const QString identifier = column.identifier();
-            fields.push_back({position > 0, ColumnText::shows(identifier)
-                                                ? std::optional(ColumnText(identifier))
-                                                : std::nullopt});
+            const EventColumn* const known = findEventColumn(column.identifier());
+            fields.push_back({position > 0,
+                              known != nullptr ? std::optional(ColumnText(*known)) : std::nullopt});
         }
     }
     return fields;
@@ -43,7 +42,7 @@ QString rowsText(const EventList& events, ColumnTable& table, const EventFields&
                 text += u'\t';
             }
             if (field.text) {
-                const QStringView value = field.text->of(*event.details, texts);
+                const QStringView value = field.text->of(event, texts);
                 text += value.isNull() ? QStringView(u"(null)") : value;
             }
         }

@@ -11,12 +11,18 @@ namespace quillet {
 
 namespace {
 
-std::vector<ExportColumn> visibleColumns(ColumnTable& table) {
+bool isQuoted(const QString& identifier, const SettingsStore& settings) {
+    const EventColumn* const known = findEventColumn(identifier);
+    return known == nullptr || known->quotes == nullptr || known->quotes->read(settings);
+}
+
+std::vector<ExportColumn> visibleColumns(ColumnTable& table, const SettingsStore& settings) {
     std::vector<ExportColumn> columns;
     for (int position = 0; position < table.columnCount(); ++position) {
         const TableColumn& column = table.columnAt(position);
         if (!column.isHidden()) {
-            columns.push_back({column.identifier(), column.headerTitle()});
+            columns.push_back({column.identifier(), column.headerTitle(),
+                               isQuoted(column.identifier(), settings)});
         }
     }
     return columns;
@@ -26,10 +32,6 @@ std::vector<ExportColumn> visibleColumns(ColumnTable& table) {
 DelimitedSettings storedSettings(const SettingsStore& settings) {
     return {.hasHeader = settings::isCSVHeader.read(settings),
             .includesIdentifier = settings::isCSVIncludeUID.read(settings),
-            .quotesTitle = settings::isCSVQuotesForTitle.read(settings),
-            .quotesNotes = settings::isCSVQuotesForNote.read(settings),
-            .quotesLocation = settings::isCSVQuotesForLocation.read(settings),
-            .quotesCalendar = settings::isCSVQuotesForCalendar.read(settings),
             .removesReturns = settings::isCSVRemoveReturns.read(settings)};
 }
 
@@ -37,8 +39,8 @@ DelimitedSettings storedSettings(const SettingsStore& settings) {
 
 std::optional<QString> DelimitedExport::text(const ExportProgress& progress) const {
     const DelimitedSettings settings = storedSettings(with_.settings);
-    DelimitedText text(visibleColumns(with_.eventListTableView), settings, with_.fields,
-                       format_.separator);
+    DelimitedText text(visibleColumns(with_.eventListTableView, with_.settings), settings,
+                       with_.fields, format_.separator);
     if (settings.hasHeader) {
         text.appendHeader();
     }

@@ -18,8 +18,8 @@ DelimitedText::DelimitedText(std::vector<ExportColumn> columns, const DelimitedS
     , texts_(billing_, fields.formats(), fields.gregorian())
     , separator_(separator) {
     for (const ExportColumn& column : columns_) {
-        if (auto appender = appenderFor(column.identifier)) {
-            appenders_.push_back(std::move(appender));
+        if (const EventColumn* known = findEventColumn(column.identifier)) {
+            fields_.push_back({*known, column.isQuoted});
         }
     }
 }
@@ -39,53 +39,31 @@ void DelimitedText::appendEvent(const Event& event) {
     if (settings_.includesIdentifier) {
         appendQuoted(presentText(event.details->eventIdentifier));
     }
-    for (const Append& append : appenders_) {
-        append(*event.details);
+    for (const Field& field : fields_) {
+        appendField(field, event);
     }
     endRecord();
 }
 
-DelimitedText::Append DelimitedText::freeText(bool isQuoted, QString EventDetails::* text) {
-    return [this, isQuoted, text](const EventDetails& details) {
-        const QString& value = details.*text;
-        if (value.isNull()) {
-            text_ += separator_;
-        } else {
-            appendFree(value, isQuoted);
-        }
-    };
+void DelimitedText::appendField(const Field& field, const Event& event) {
+    if (const auto* derived = std::get_if<EventTexts::Field>(&field.column.text)) {
+        appendValue(field, presentText((texts_.**derived)()));
+        return;
+    }
+    const QString& own = std::get<StoredText>(field.column.text)(event);
+    if (own.isNull()) {
+        text_ += separator_;
+    } else {
+        appendValue(field, own);
+    }
 }
 
-DelimitedText::Append DelimitedText::appenderFor(const QString& identifier) {
-    if (identifier == u"title") {
-        return freeText(settings_.quotesTitle, &EventDetails::title);
+void DelimitedText::appendValue(const Field& field, const QString& value) {
+    if (field.column.kind == ColumnKind::Text) {
+        appendFree(value, field.isQuoted);
+    } else {
+        appendQuoted(value);
     }
-    if (identifier == u"notes") {
-        return freeText(settings_.quotesNotes, &EventDetails::notes);
-    }
-    if (identifier == u"location") {
-        return freeText(settings_.quotesLocation, &EventDetails::location);
-    }
-    if (identifier == u"calendar") {
-        return [this](const EventDetails& details) {
-            appendFree(presentText(details.calendar->title), settings_.quotesCalendar);
-        };
-    }
-    if (identifier == u"url") {
-        return [this](const EventDetails& details) {
-            if (details.url.isNull()) {
-                text_ += separator_;
-            } else {
-                appendQuoted(details.url);
-            }
-        };
-    }
-    if (const EventTexts::Field derived = EventTexts::fieldNamed(identifier)) {
-        return [this, derived](const EventDetails&) {
-            appendQuoted(presentText((texts_.*derived)()));
-        };
-    }
-    return {};
 }
 
 void DelimitedText::appendQuoted(const QString& value) {

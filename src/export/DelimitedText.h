@@ -1,13 +1,12 @@
 #pragma once
 
 #include "eventdata/EventFields.h"
-#include "eventtable/EventTexts.h"
+#include "eventtable/EventColumns.h"
 #include "platform/Event.h"
 #include "platform/LocaleFormats.h"
 
 #include <QString>
 
-#include <functional>
 #include <vector>
 
 namespace quillet {
@@ -16,24 +15,21 @@ namespace quillet {
 struct ExportColumn {
     QString identifier;
     QString title;
+    /// Whether its field is quoted; columns without EventColumn::quotes always are.
+    bool isQuoted = true;
 };
 
 /// The switches of the CSV and TSV files.
 struct DelimitedSettings {
     bool hasHeader = true;
     bool includesIdentifier = false;
-    bool quotesTitle = true;
-    bool quotesNotes = true;
-    bool quotesLocation = true;
-    bool quotesCalendar = true;
     bool removesReturns = false;
 };
 
 /// Writes events as separated values: an optional header record, then one record an event, each
-/// ended by a line feed. Only the four free texts (title, notes, location, calendar) are ever
-/// escaped or lose their line feeds; every other value is quoted as it is. A separator inside a
-/// value stays as it is. A missing title, note, location or address is an empty field, any other
-/// missing value is "(null)".
+/// ended by a line feed. Only free texts are ever escaped or lose their line feeds; every other
+/// value is quoted as it is. A separator inside a value stays as it is. A text of the event's own
+/// that is missing is an empty field, any other missing value is "(null)".
 class DelimitedText {
 public:
     /// Billing settings are those of now. The locale must outlive this.
@@ -46,10 +42,13 @@ public:
     [[nodiscard]] const QString& text() const { return text_; }
 
 private:
-    using Append = std::function<void(const EventDetails&)>;
+    struct Field {
+        const EventColumn& column;
+        bool isQuoted;
+    };
 
-    [[nodiscard]] Append appenderFor(const QString& identifier);
-    [[nodiscard]] Append freeText(bool isQuoted, QString EventDetails::* text);
+    void appendField(const Field& field, const Event& event);
+    void appendValue(const Field& field, const QString& value);
     void appendQuoted(const QString& value);
     void appendFree(const QString& value, bool isQuoted);
     void endRecord();
@@ -60,7 +59,7 @@ private:
     BillingSettings billing_;
     EventTexts texts_;
     QChar separator_;
-    std::vector<Append> appenders_;
+    std::vector<Field> fields_;
     QString text_;
 };
 

@@ -12,15 +12,6 @@ namespace quillet {
 
 namespace {
 
-/// The settings key of a column's title; null for an unknown column.
-const char* titleKeyOf(const QString& identifier) {
-    const auto columns = eventColumns();
-    const auto found = std::ranges::find_if(columns, [&](const EventColumn& column) {
-        return identifier == QLatin1StringView(column.identifier);
-    });
-    return found == columns.end() ? nullptr : found->titleKey;
-}
-
 QString duration(const std::optional<Decimal>& minutes) {
     return makeDurationFromMinutes(minutes.value_or(Decimal()).toInteger());
 }
@@ -39,12 +30,10 @@ std::vector<ReportColumn> ExportTxtViewController::visibleColumns() const {
     for (int position = 0; position < with_.eventItemTableView.columnCount(); ++position) {
         const TableColumn& column = with_.eventItemTableView.columnAt(position);
         if (!column.isHidden()) {
-            const char* const titleKey = titleKeyOf(column.identifier());
+            const EventColumn* const known = findEventColumn(column.identifier());
             columns.push_back(
                 {.identifier = column.identifier(),
-                 .title = titleKey == nullptr
-                              ? QString()
-                              : stringForKey(with_.settings, QString::fromLatin1(titleKey)),
+                 .title = known == nullptr ? QString() : known->title.read(with_.settings),
                  .length = reportColumnLength(column.widthPoints())});
         }
     }

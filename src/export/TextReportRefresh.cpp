@@ -16,7 +16,7 @@ QStringList observedKeys() {
     QStringList keys{isApplyTXTSettingsOn.name(), isApplyColumnLayoutOn.name(),
                      hiddenColumnsChangedTrigger.name()};
     for (const EventColumn& column : eventColumns()) {
-        keys << QString::fromLatin1(column.titleKey);
+        keys << column.title.name();
     }
     keys << isDollarsOn.name() << isSingleRate.name();
     for (const TXTSwitch& each : txtSwitches()) {

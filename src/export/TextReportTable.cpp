@@ -1,6 +1,5 @@
 #include "export/TextReportTable.h"
 
-#include "eventdata/Duration.h"
 #include "eventtable/ColumnText.h"
 
 namespace quillet {
@@ -10,7 +9,7 @@ namespace {
 QString titleLine(const std::vector<ReportColumn>& columns) {
     QString line;
     for (const ReportColumn& column : columns) {
-        const bool isKnown = ColumnText::shows(column.identifier);
+        const bool isKnown = findEventColumn(column.identifier) != nullptr;
         line += paddedCell(isKnown ? column.title : QString(), column.length);
     }
     return line + u'\n';
@@ -33,8 +32,8 @@ public:
         , text_(text) {
         qsizetype width = 0;
         for (const ReportColumn& column : content.columns) {
-            if (ColumnText::shows(column.identifier)) {
-                columns_.push_back({ColumnText(column.identifier), width, column.length});
+            if (const EventColumn* known = findEventColumn(column.identifier)) {
+                columns_.push_back({ColumnText(*known), width, column.length});
                 width += column.length + 1;
             }
         }
@@ -48,7 +47,7 @@ public:
         texts_.setEvent(event);
         cells_.clear();
         for (Column& column : columns_) {
-            cells_.emplace_back(column.text.of(*event.details, texts_), column.length, wrapping_);
+            cells_.emplace_back(column.text.of(event, texts_), column.length, wrapping_);
         }
         while (appendLine()) {
         }
@@ -84,21 +83,11 @@ private:
     QString blankLine_;
 };
 
-QString summary(const QString& identifier, const TextReportContent& content,
+QString summary(const ReportColumn& column, const TextReportContent& content,
                 const EventTotals& totals) {
-    if (identifier == u"cost") {
-        return content.formats->currency(totals.sumCost().value_or(Decimal()));
-    }
-    if (identifier == u"hours") {
-        return content.formats->number(totals.sumHours());
-    }
-    if (identifier == u"minutes") {
-        return content.formats->number(totals.sumMinutes());
-    }
-    if (identifier == u"duration") {
-        return makeDurationFromMinutes(totals.sumMinutes().toInteger());
-    }
-    return {};
+    const EventColumn* const known = findEventColumn(column.identifier);
+    return known != nullptr && known->sum != nullptr ? known->sum(totals, *content.formats)
+                                                     : QString();
 }
 
 } // namespace
@@ -120,8 +109,7 @@ std::optional<QString> reportTable(const TextReportContent& content,
 QString reportSummaryRow(const TextReportContent& content, const EventTotals& totals) {
     QString text = separatorLine(content.columns);
     for (const ReportColumn& column : content.columns) {
-        text += reportCell(summary(column.identifier, content, totals), column.length, 0,
-                           content.wrapping);
+        text += reportCell(summary(column, content, totals), column.length, 0, content.wrapping);
     }
     return text;
 }

@@ -11,8 +11,8 @@ namespace quillet {
 [[nodiscard]] std::optional<QString> reportTable(const TextReportContent& content,
                                                  const ExportProgress& progress = {});
 
-/// A line of dashes, and below it the sums under "hours", "minutes", "duration" and "cost"; no line
-/// feed at the end. The totals are those of the report's events.
+/// A line of dashes, and below it the sums under the columns that have one; no line feed at the
+/// end. The totals are those of the report's events.
 [[nodiscard]] QString reportSummaryRow(const TextReportContent& content, const EventTotals& totals);
 
 } // namespace quillet

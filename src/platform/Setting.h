@@ -24,6 +24,11 @@ public:
     /// What a first run stores, as it is stored, texts in the user's language; invalid where the
     /// value depends on more than the setting, or where nothing is stored.
     [[nodiscard]] QVariant firstRunValue() const;
+    /// The same in English; null where it is no text.
+    [[nodiscard]] constexpr const char* englishFirstRunText() const {
+        const auto* const text = std::get_if<const char*>(&firstRun_);
+        return text == nullptr ? nullptr : *text;
+    }
 
     [[nodiscard]] bool isStored(const SettingsStore& store) const;
     /// Stores the first-run value, which the setting must have, where the setting is absent.

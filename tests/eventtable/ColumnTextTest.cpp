@@ -25,8 +25,8 @@ protected:
         EventTexts texts(billing, formats, calendar);
         const Event event{start, end, Instant(), std::make_shared<const EventDetails>(details)};
         texts.setEvent(event);
-        ColumnText column(QString::fromLatin1(identifier));
-        return column.of(*event.details, texts).toString();
+        ColumnText column(eventColumn(QString::fromLatin1(identifier)));
+        return column.of(event, texts).toString();
     }
 
     IcuCalendarArithmetic calendar{"en_US", "UTC", CalendarSystem::Gregorian};
@@ -94,15 +94,6 @@ TEST_F(ColumnTextTest, OfAMissingValueIsNullAndOfAnEmptyOneEmpty) {
     details.title = "";
     EXPECT_TRUE(shown("title").isEmpty());
     EXPECT_FALSE(shown("title").isNull());
-}
-
-TEST_F(ColumnTextTest, ShowsTheColumnsOfTheEventTableAndNoOther) {
-    for (const EventColumn& column : eventColumns()) {
-        EXPECT_TRUE(ColumnText::shows(QString::fromLatin1(column.identifier))) << column.identifier;
-    }
-    for (const char* identifier : {"", "colour", "Title", "URL", "startDate"}) {
-        EXPECT_FALSE(ColumnText::shows(QString::fromLatin1(identifier))) << identifier;
-    }
 }
 
 } // namespace quillet

@@ -39,10 +39,9 @@ protected:
 TEST_F(EventItemViewControllerTest, TheFirstStartWritesTitlesAndVisibilities) {
     controller.awakeFromNib();
     for (const EventColumn& column : eventColumns()) {
-        EXPECT_EQ(settings.object(QString::fromLatin1(column.titleKey)),
-                  QVariant(QString::fromLatin1(column.defaultTitle)));
-        EXPECT_EQ(settings.object(QString::fromLatin1(column.visibilityKey)),
-                  QVariant(column.isVisibleByDefault));
+        EXPECT_EQ(settings.object(column.title.name()),
+                  QVariant(column.title.firstRunValue().toString()));
+        EXPECT_EQ(settings.object(column.visibility.name()), column.visibility.firstRunValue());
     }
     EXPECT_EQ(settings.object("startWeekdayColumnTitle"), QVariant("Start Weekday"));
     EXPECT_FALSE(settings.object("weekdayColumnTitle").isValid());
@@ -173,12 +172,12 @@ TEST_F(EventItemViewControllerTest, ResettingOverwritesTheUsersTitles) {
     settings.setObject("startWeekdayColumnTitle", "Mine");
     settings.setObject("titleColumnTitle", "Mine");
     for (const EventColumn& column : eventColumns()) {
-        settings.setObject(QString::fromLatin1(column.titleKey), "Mine");
+        settings.setObject(column.title.name(), "Mine");
     }
     controller.resetAllColumnTitles();
     for (const EventColumn& column : eventColumns()) {
-        EXPECT_EQ(settings.object(QString::fromLatin1(column.titleKey)),
-                  QVariant(QString::fromLatin1(column.defaultTitle)));
+        EXPECT_EQ(settings.object(column.title.name()),
+                  QVariant(column.title.firstRunValue().toString()));
     }
     EXPECT_EQ(settings.object("startWeekdayColumnTitle"), QVariant("Start Weekday"));
     EXPECT_EQ(settings.object("titleColumnTitle"), QVariant("Title"));

@@ -85,7 +85,10 @@ TEST_P(EventTextsTest, EveryQuarterHourAroundAClockChangeIsTold) {
         EventTexts texts(fields.billing(), formats, calendar);
         for (auto instant = change - std::chrono::hours(30);
              instant < change + std::chrono::hours(30); instant += std::chrono::minutes(15)) {
-            expectSameAsFields(texts, timedEvent(instant, instant + std::chrono::minutes(50)));
+            const Event event = timedEvent(instant, instant + std::chrono::minutes(50));
+            expectSameAsFields(texts, event);
+            EventTexts cell(fields.billing(), formats, calendar, TextReuse::None);
+            expectSameAsFields(cell, event);
         }
     }
 }

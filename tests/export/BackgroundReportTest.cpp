@@ -36,8 +36,7 @@ class BackgroundReportTest : public testing::Test {
 protected:
     BackgroundReportTest() {
         for (const EventColumn& column : eventColumns()) {
-            settings.setObject(QString::fromLatin1(column.titleKey),
-                               QString::fromLatin1(column.defaultTitle));
+            settings.setObject(column.title.name(), column.title.firstRunValue().toString());
         }
         for (const char* key : {"isDollarsOn", "isSingleRate", "isTXTDollars", "isTXTTotalHours",
                                 "isTXTSummaryRow", "isTXTWrapping", "isTXTTotalEvents"}) {

@@ -20,8 +20,7 @@ class ExportTxtViewControllerTest : public testing::Test {
 protected:
     ExportTxtViewControllerTest() {
         for (const EventColumn& column : eventColumns()) {
-            settings.setObject(QString::fromLatin1(column.titleKey),
-                               QString::fromLatin1(column.defaultTitle));
+            settings.setObject(column.title.name(), column.title.firstRunValue().toString());
         }
         settings.setObject("filterStartDate", QVariant::fromValue(utc(2024, 3, 1)));
         settings.setObject("filterEndDate", QVariant::fromValue(utc(2024, 3, 31, 23, 59, 59)));

@@ -199,7 +199,7 @@ TEST_F(TextReportTableTest, EveryLineHasTheSameLength) {
             if (*rc::gen::arbitrary<bool>()) {
                 const auto length = *rc::gen::inRange<qsizetype>(2, 20);
                 content.columns.push_back({QString::fromLatin1(column.identifier),
-                                           QString::fromLatin1(column.defaultTitle), length});
+                                           column.title.firstRunValue().toString(), length});
                 width += length + 1;
             }
         }

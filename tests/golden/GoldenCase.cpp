@@ -48,8 +48,7 @@ QVariantMap settingsValues(const QJsonObject& values) {
 QJsonObject defaultTitles() {
     QJsonObject titles;
     for (const EventColumn& column : eventColumns()) {
-        titles.insert(QString::fromLatin1(column.titleKey),
-                      QString::fromLatin1(column.defaultTitle));
+        titles.insert(column.title.name(), column.title.firstRunValue().toString());
     }
     return titles;
 }

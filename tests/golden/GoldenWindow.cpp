@@ -63,7 +63,7 @@ void GoldenWindow::fillTable() {
             });
         const QString title = known == eventColumns().end()
                                   ? QString()
-                                  : stringForKey(settings_, QString::fromLatin1(known->titleKey));
+                                  : stringForKey(settings_, known->title.name());
         columns.push_back(
             std::make_unique<test::FakeColumn>(column.identifier, title, column.widthPoints));
         columns.back()->hidden = column.isHidden;

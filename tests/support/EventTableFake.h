@@ -11,7 +11,7 @@ namespace quillet::test {
     for (const EventColumn& column : eventColumns()) {
         table.columns.push_back(
             std::make_unique<FakeColumn>(QString::fromLatin1(column.identifier),
-                                         QString::fromLatin1(column.defaultTitle), 100.0));
+                                         column.title.firstRunValue().toString(), 100.0));
     }
     return table;
 }

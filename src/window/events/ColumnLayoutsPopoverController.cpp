@@ -1,5 +1,6 @@
 #include "window/events/ColumnLayoutsPopoverController.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 #include "window/main/NameListEditor.h"
 #include "window/preferences/SettingsBinding.h"
@@ -47,7 +48,7 @@ void ColumnLayoutsPopoverController::build(QWidget& window) {
     columnLayoutsPopover_->setFocusProxy(list);
     auto* names = new QCheckBox(localized("Bring column titles back, too"), columnLayoutsPopover_);
     names->setToolTip(localized("When off, applying a layout leaves the titles as they are"));
-    bindCheckBox(*names, settings_, QStringLiteral("isColumnLayoutUsesNames"));
+    bindCheckBox(*names, settings_, settings::isColumnLayoutUsesNames);
     auto* layout = new QVBoxLayout(columnLayoutsPopover_);
     layout->addWidget(title);
     layout->addWidget(list, 1);

@@ -10,19 +10,25 @@ namespace quillet {
 
 namespace {
 
-QAction* addEntry(QMenu& menu, const QString& identifier, TimeColumnActions& timeColumns) {
-    QAction* action = nullptr;
-    if (identifier == u"hours") {
-        action = &timeColumns.hours;
-    } else if (identifier == u"minutes") {
-        action = &timeColumns.minutes;
-    } else if (identifier == u"duration") {
-        action = &timeColumns.duration;
-    } else {
+QAction& timeAction(TimeType timeType, TimeColumnActions& actions) {
+    switch (timeType) {
+    case TimeType::Hours:
+        return actions.hours;
+    case TimeType::Minutes:
+        return actions.minutes;
+    case TimeType::Duration:
+        break;
+    }
+    return actions.duration;
+}
+
+QAction* addEntry(QMenu& menu, const EventColumn& column, TimeColumnActions& timeColumns) {
+    if (!column.timeType) {
         return menu.addAction(QString());
     }
-    menu.addAction(action);
-    return action;
+    QAction& action = timeAction(*column.timeType, timeColumns);
+    menu.addAction(&action);
+    return &action;
 }
 
 } // namespace
@@ -44,11 +50,10 @@ void followTimeMenuItem(TimeColumnActions& timeColumns,
 
 void fillColumnsMenu(QMenu& menu, SettingsStore& settings, TimeColumnActions& timeColumns) {
     for (const EventColumn& column : eventColumns()) {
-        QAction* action = addEntry(menu, QString::fromLatin1(column.identifier), timeColumns);
-        const QString title = stringForKey(settings, QString::fromLatin1(column.titleKey));
-        action->setText(menuText(title, menu.fontMetrics()));
+        QAction* action = addEntry(menu, column, timeColumns);
+        action->setText(menuText(column.title.read(settings), menu.fontMetrics()));
         if (action->objectName().isEmpty()) {
-            bindAction(*action, settings, QString::fromLatin1(column.visibilityKey));
+            bindAction(*action, settings, column.visibility);
         }
     }
 }

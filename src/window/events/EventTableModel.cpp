@@ -1,7 +1,7 @@
 #include "window/events/EventTableModel.h"
 
-#include "eventdata/EventFigures.h"
 #include "eventtable/EventColumns.h"
+#include "platform/Settings.h"
 #include "window/preferences/SettingsBinding.h"
 #include "window/widgets/ColorDot.h"
 
@@ -9,13 +9,13 @@ namespace quillet {
 
 namespace {
 
-bool isNumeric(const QString& identifier) {
-    static const QStringList numeric{"hours", "minutes", "duration", "cost", "rate"};
-    return numeric.contains(identifier);
+const EventColumn& columnOf(int section) {
+    return eventColumns()[static_cast<std::size_t>(section)];
 }
 
-QString columnIdentifier(int column) {
-    return QString::fromLatin1(eventColumns()[static_cast<std::size_t>(column)].identifier);
+QVariant alignmentOf(const EventColumn& column) {
+    return QVariant::fromValue(isNumeric(column.kind) ? Qt::AlignRight | Qt::AlignVCenter
+                                                      : Qt::AlignLeft | Qt::AlignVCenter);
 }
 
 /// One line for a cell, the first that says something; the text itself stays as it is.
@@ -32,15 +32,12 @@ EventTableModel::EventTableModel(ListController<Event>& events, const EventField
     , fields_(fields)
     , settings_(settings) {
     for (int column = 0; column < columnCount(); ++column) {
-        cellTexts_.push_back(cellText(columnIdentifier(column)));
-        observeWhileAlive(
-            *this, settings_,
-            QString::fromLatin1(eventColumns()[static_cast<std::size_t>(column)].titleKey),
-            [this, column] { Q_EMIT headerDataChanged(Qt::Horizontal, column, column); });
+        observeWhileAlive(*this, settings_, columnOf(column).title, [this, column] {
+            Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
+        });
     }
-    for (const char* key : {"isDollarsOn", "timeTypeSelection", "hourlyRate", "isSingleRate",
-                            "calendars", "allDayHours", "filterStartDate", "filterEndDate"}) {
-        observeWhileAlive(*this, settings_, QString::fromLatin1(key), [this] { figuresChanged(); });
+    for (const SettingKey* setting : settings::ofBilling) {
+        observeWhileAlive(*this, settings_, *setting, [this] { figuresChanged(); });
     }
     connect(&events_, &ListControllerNotices::arrangedObjectsWillChange, this,
             [this] { beginResetModel(); });
@@ -63,20 +60,19 @@ QVariant EventTableModel::data(const QModelIndex& index, int role) const {
         return {};
     }
     const Event& event = events_.arranged(static_cast<std::size_t>(index.row()));
-    const QString identifier = columnIdentifier(index.column());
+    const EventColumn& column = columnOf(index.column());
     switch (role) {
     case Qt::DisplayRole:
-        return firstLine(cellTexts_[static_cast<std::size_t>(index.column())](event));
+        return firstLine(cellText(column, event));
     case Qt::ToolTipRole: {
-        const QString text = cellTexts_[static_cast<std::size_t>(index.column())](event);
+        const QString text = cellText(column, event);
         // Plain, whatever a calendar's text looks like.
         return text.isEmpty() ? QVariant() : QVariant(text.toHtmlEscaped().replace(u'\n', "<br>"));
     }
     case Qt::TextAlignmentRole:
-        return QVariant::fromValue(isNumeric(identifier) ? Qt::AlignRight | Qt::AlignVCenter
-                                                         : Qt::AlignLeft | Qt::AlignVCenter);
+        return alignmentOf(column);
     case Qt::DecorationRole:
-        return identifier == u"calendar"
+        return column.hasCalendarDot
                    ? QVariant(colorDot(QColor(event.details->calendar->colorName)))
                    : QVariant();
     default:
@@ -88,58 +84,23 @@ QVariant EventTableModel::headerData(int section, Qt::Orientation orientation, i
     if (orientation != Qt::Horizontal || section < 0 || section >= columnCount()) {
         return {};
     }
-    const EventColumn& column = eventColumns()[static_cast<std::size_t>(section)];
+    const EventColumn& column = columnOf(section);
     if (role == Qt::DisplayRole) {
-        return stringForKey(settings_, QString::fromLatin1(column.titleKey));
+        return column.title.read(settings_);
     }
     if (role == Qt::TextAlignmentRole) {
-        return QVariant::fromValue(isNumeric(QString::fromLatin1(column.identifier))
-                                       ? Qt::AlignRight | Qt::AlignVCenter
-                                       : Qt::AlignLeft | Qt::AlignVCenter);
+        return alignmentOf(column);
     }
     return {};
 }
 
-EventTableModel::CellText EventTableModel::cellText(const QString& identifier) const {
-    const EventFields& fields = fields_;
-    const LocaleFormats& formats = fields.formats();
-    if (identifier == u"date") {
-        return [&formats](const Event& event) { return formats.shortDate(event.startDate); };
+QString EventTableModel::cellText(const EventColumn& column, const Event& event) const {
+    if (const auto* stored = std::get_if<StoredText>(&column.text)) {
+        return (*stored)(event);
     }
-    if (identifier == u"endDate") {
-        return [&fields, &formats](const Event& event) {
-            return formats.shortDate(fields.adjustedEndDate(event));
-        };
-    }
-    if (identifier == u"hours") {
-        return [&fields, &formats](const Event& event) {
-            return formats.number(figures(event, fields.billing()).hours);
-        };
-    }
-    if (identifier == u"minutes") {
-        return [&fields, &formats](const Event& event) {
-            return formats.number(Decimal::fromInteger(billableMinutes(event, fields.billing())));
-        };
-    }
-    if (identifier == u"cost") {
-        return [&fields, &formats](const Event& event) {
-            const auto cost = figures(event, fields.billing()).cost;
-            return cost ? formats.currency(*cost) : QString();
-        };
-    }
-    if (identifier == u"rate") {
-        return [&fields, &formats](const Event& event) {
-            return formats.currency(billableRate(event, fields.billing()));
-        };
-    }
-    static const QHash<QString, QString> keys{
-        {"title", "title"},       {"notes", "notes"},          {"url", "URL"},
-        {"location", "location"}, {"weekday", "startWeekday"}, {"endWeekday", "endWeekday"},
-        {"start", "startTime"},   {"end", "endTime"},          {"calendar", "calendarTitle"},
-        {"duration", "duration"}};
-    return [&fields, key = keys.value(identifier)](const Event& event) {
-        return fields.valueForKey(event, key).toString();
-    };
+    EventTexts texts(fields_.billing(), fields_.formats(), fields_.gregorian(), TextReuse::None);
+    texts.setEvent(event);
+    return (texts.*std::get<EventTexts::Field>(column.text))();
 }
 
 void EventTableModel::figuresChanged() {

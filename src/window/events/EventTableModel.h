@@ -5,12 +5,11 @@
 
 #include <QAbstractTableModel>
 
-#include <functional>
-#include <vector>
-
 namespace quillet {
 
-/// Shows the arranged events of a list controller in the sixteen columns, in their declared order.
+struct EventColumn;
+
+/// Shows the arranged events of a list controller in the columns, in their declared order.
 /// It copies nothing: cells are made when a view asks for them.
 class EventTableModel : public QAbstractTableModel {
     Q_OBJECT
@@ -28,15 +27,12 @@ public:
                                       int role) const override;
 
 private:
-    using CellText = std::function<QString(const Event&)>;
-
-    [[nodiscard]] CellText cellText(const QString& identifier) const;
+    [[nodiscard]] QString cellText(const EventColumn& column, const Event& event) const;
     void figuresChanged();
 
     ListController<Event>& events_;
     const EventFields& fields_;
     SettingsStore& settings_;
-    std::vector<CellText> cellTexts_;
 };
 
 } // namespace quillet

@@ -1,5 +1,6 @@
 #include "window/events/ResultsPane.h"
 
+#include "platform/Settings.h"
 #include "texts/Localized.h"
 #include "window/preferences/SettingsBinding.h"
 
@@ -10,13 +11,6 @@
 #include <QVBoxLayout>
 
 namespace quillet {
-
-namespace {
-
-const QString tabKey = QStringLiteral("totalsTabViewSelection");
-const QString moneyKey = QStringLiteral("isDollarsOn");
-
-} // namespace
 
 ResultsPane::ResultsPane(SettingsStore& settings, QWidget* parent)
     : QWidget(parent)
@@ -58,12 +52,13 @@ void ResultsPane::makeTabs() {
     tabs_->addTab(localized("All Events"));
     tabs_->addTab(localized("Selected Events"));
     connect(tabs_, &QTabBar::currentChanged, this, [this](int tab) {
-        if (tab != integerForKey(settings_, tabKey)) {
-            settings_.setObject(tabKey, QVariant::fromValue<qint64>(tab));
+        if (tab != settings::totalsTabViewSelection.read(settings_)) {
+            settings::totalsTabViewSelection.write(settings_, tab);
         }
     });
-    for (const QString& key : {tabKey, moneyKey}) {
-        observeWhileAlive(*this, settings_, key, [this] { scheduleRefresh(); });
+    for (const SettingKey* setting :
+         settingGroup(settings::totalsTabViewSelection, settings::isDollarsOn)) {
+        observeWhileAlive(*this, settings_, *setting, [this] { scheduleRefresh(); });
     }
 }
 
@@ -106,8 +101,8 @@ void ResultsPane::scheduleRefresh() {
 }
 
 ResultsTab ResultsPane::shownTab() const {
-    return integerForKey(settings_, tabKey) == 1 ? ResultsTab::SelectedEvents
-                                                 : ResultsTab::AllEvents;
+    return settings::totalsTabViewSelection.read(settings_) == 1 ? ResultsTab::SelectedEvents
+                                                                 : ResultsTab::AllEvents;
 }
 
 std::array<ResultField, ResultsPane::PositionCount> ResultsPane::shownFields() const {
@@ -131,7 +126,7 @@ void ResultsPane::refresh() {
     for (std::size_t position = 0; position < fields.size(); ++position) {
         values_.at(position)->setText(controller_->text(shownTab(), fields.at(position)));
     }
-    const bool isMoneyOn = boolForKey(settings_, moneyKey);
+    const bool isMoneyOn = settings::isDollarsOn.read(settings_);
     names_.at(Cost)->setVisible(isMoneyOn);
     values_.at(Cost)->setVisible(isMoneyOn);
 }

@@ -21,28 +21,20 @@ namespace {
 using TimeColumns = PreferencesColumnsViewController;
 
 struct HiddenFlag {
-    bool (TimeColumns::*isHidden)() const = nullptr;
-    void (TimeColumns::*changed)() = nullptr;
+    bool (TimeColumns::*isHidden)() const;
+    void (TimeColumns::*changed)();
 };
 
-/// Null for a column that belongs to every time type.
-HiddenFlag hiddenFlagOf(const EventColumn& column) {
-    const QLatin1StringView identifier(column.identifier);
-    if (identifier == "hours") {
+HiddenFlag hiddenFlagOf(TimeType timeType) {
+    switch (timeType) {
+    case TimeType::Hours:
         return {&TimeColumns::isHoursHidden, &TimeColumns::isHoursHiddenChanged};
-    }
-    if (identifier == "minutes") {
+    case TimeType::Minutes:
         return {&TimeColumns::isMinutesHidden, &TimeColumns::isMinutesHiddenChanged};
+    case TimeType::Duration:
+        break;
     }
-    if (identifier == "duration") {
-        return {&TimeColumns::isDurationHidden, &TimeColumns::isDurationHiddenChanged};
-    }
-    return {};
-}
-
-bool isMoneyColumn(const EventColumn& column) {
-    const QLatin1StringView identifier(column.identifier);
-    return identifier == "cost" || identifier == "rate";
+    return {&TimeColumns::isDurationHidden, &TimeColumns::isDurationHiddenChanged};
 }
 
 constexpr int gapColumn = 2;
@@ -95,7 +87,7 @@ void PreferencesColumnsPage::addColumns(QGridLayout& grid) {
     int timePlace = -1;
     int nextPlace = 0;
     for (const EventColumn& column : eventColumns()) {
-        const bool isTime = hiddenFlagOf(column).isHidden != nullptr;
+        const bool isTime = column.timeType.has_value();
         const int place = isTime && timePlace >= 0 ? timePlace : nextPlace++;
         timePlace = isTime ? place : timePlace;
         addColumn(grid, column, place);
@@ -103,19 +95,22 @@ void PreferencesColumnsPage::addColumns(QGridLayout& grid) {
 }
 
 void PreferencesColumnsPage::addColumn(QGridLayout& grid, const EventColumn& column, int place) {
-    const int rows = (static_cast<int>(eventColumns().size()) - 2) / 2;
-    auto* box = makeCheckBox(
-        QString::fromLatin1(column.visibilityKey), column.defaultTitle,
-        isMoneyColumn(column) ? localizable("The table has this column only while money is shown")
-                              : nullptr);
+    // Two columns of places; the time columns have one place among them.
+    const int rows = (static_cast<int>(eventColumns().size()) - 1) / 2;
+    auto* box =
+        makeCheckBox({&column.visibility, column.title.englishFirstRunText(),
+                      column.kind == ColumnKind::Money
+                          ? localizable("The table has this column only while money is shown")
+                          : nullptr});
     auto* title = new QLineEdit(&body());
-    title->setAccessibleName(localized("Title of “%1”").arg(localized(column.defaultTitle)));
-    bindLineEdit(*title, settings(), QString::fromLatin1(column.titleKey));
+    title->setAccessibleName(
+        localized("Title of “%1”").arg(column.title.firstRunValue().toString()));
+    bindLineEdit(*title, settings(), column.title);
     const int left = place / rows == 0 ? 0 : gapColumn + 1;
     grid.addWidget(box, place % rows, left);
     grid.addWidget(title, place % rows, left + 1);
-    const auto [isHidden, changed] = hiddenFlagOf(column);
-    if (isHidden != nullptr) {
+    if (column.timeType) {
+        const auto [isHidden, changed] = hiddenFlagOf(*column.timeType);
         connect(&timeColumns_, changed, this, [this, box, title, flag = isHidden] {
             box->setHidden((timeColumns_.*flag)());
             title->setHidden((timeColumns_.*flag)());

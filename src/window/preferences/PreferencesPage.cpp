@@ -28,16 +28,11 @@ QSize PreferencesPage::sizeHint() const {
 }
 
 QCheckBox* PreferencesPage::makeCheckBox(const PreferencesSwitch& each) {
-    return makeCheckBox(each.setting->name(), each.label, each.toolTip);
-}
-
-QCheckBox* PreferencesPage::makeCheckBox(const QString& key, const char* label,
-                                         const char* toolTip) {
-    auto* box = new QCheckBox(localized(label), &body());
-    if (toolTip != nullptr) {
-        box->setToolTip(localized(toolTip));
+    auto* box = new QCheckBox(localized(each.label), &body());
+    if (each.toolTip != nullptr) {
+        box->setToolTip(localized(each.toolTip));
     }
-    bindCheckBox(*box, settings_, key);
+    bindCheckBox(*box, settings_, *each.setting);
     return box;
 }
 

@@ -33,9 +33,6 @@ protected:
     /// The parent of the controls.
     [[nodiscard]] QWidget& body() const { return *widget(); }
     [[nodiscard]] QCheckBox* makeCheckBox(const PreferencesSwitch& each);
-    /// The same by the key of the setting.
-    [[nodiscard]] QCheckBox* makeCheckBox(const QString& key, const char* label,
-                                          const char* toolTip);
     /// A titled box of switches in columns, filled from the top and then from the left.
     [[nodiscard]] QWidget* makeGroup(const QString& title,
                                      std::span<const PreferencesSwitch> switches, int columns);
