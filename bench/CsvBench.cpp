@@ -6,7 +6,7 @@
 
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"
-#include "eventtable/EventColumns.h"
+#include "eventtable/ColumnTable.h"
 #include "eventtable/RowsText.h"
 #include "export/DelimitedText.h"
 #include "support/EventSamples.h"
@@ -50,8 +50,6 @@ struct Sample {
         settings.setObject("isSingleRate", true);
         settings.setObject("hourlyRate", 90);
         for (const EventColumn& column : eventColumns()) {
-            table.columns.push_back(std::make_unique<test::FakeColumn>(
-                QString::fromLatin1(column.identifier), QString(), 100.0));
             columns.push_back(
                 {QString::fromLatin1(column.identifier), column.title.firstRunValue().toString()});
         }
@@ -71,7 +69,7 @@ struct Sample {
     BillingSettingsSource billing{settings, calendar};
     EventFields fields{billing, formats, calendar, calendar};
     std::vector<ExportColumn> columns;
-    test::FakeTable table;
+    ColumnTable table{settings};
     EventList events = sampleEvents();
 };
 

@@ -65,7 +65,10 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
                 .openSoftwareCentre = [this] { return showInSoftwareCentre(taskLauncher_); },
                 .security = &QSslConfiguration::defaultConfiguration,
                 .limits = ReleaseListUpdater::usualLimits})
+    , columns_(settings_)
     , core_(seams())
+    , eventModel_(core_.events, core_.fields, settings_)
+    , eventTable_(makeTable())
     , reportFormats_(locales_, timeZone_)
     , reportCalendar_(locales_.time, timeZone_, CalendarSystem::Gregorian)
     , reportQueue_(makeBackgroundQueue(QStringLiteral("org.quillet.Quillet.textReport")))
@@ -93,23 +96,19 @@ CoreSeams Program::seams() {
             .taskLauncher = taskLauncher_,
             .updater = updater_,
             .releaseNotesPath = paths_.releaseNotes,
-            .makeTable = [this](const EventTableSource& source) -> ColumnTable& {
-                return makeTable(source);
-            }};
+            .eventTable = columns_};
 }
 
-ColumnTable& Program::makeTable(const EventTableSource& source) {
-    eventModel_ = std::make_unique<EventTableModel>(source.events, source.fields, source.settings);
-    eventTable_ =
-        new EventTableView(*eventModel_, source.events, source.settings,
-                           [&order = source.order](const QString& column, SortDirection direction) {
-                               return order.sorter(column, direction);
-                           });
+EventTableView* Program::makeTable() {
+    auto* table = new EventTableView(eventModel_, columns_, core_.events, settings_,
+                                     [this](const QString& column, SortDirection direction) {
+                                         return core_.eventOrder.sorter(column, direction);
+                                     });
     const QSettings state(paths_.stateFolder + windowStateFile, QSettings::IniFormat);
-    if (!eventTable_->restoreColumnState(state.value(QStringLiteral("columns")).toByteArray())) {
-        applyPlacements(defaultColumnPlacements(), *eventTable_);
+    if (!table->restoreColumnState(state.value(QStringLiteral("columns")).toByteArray())) {
+        applyPlacements(defaultColumnPlacements(), columns_);
     }
-    return *eventTable_;
+    return table;
 }
 
 Program::~Program() {

@@ -49,7 +49,7 @@ private:
     [[nodiscard]] CalendarActions calendarActions();
     [[nodiscard]] EventPlace placeOf(const EventRequest& request) const;
     [[nodiscard]] CoreSeams seams();
-    [[nodiscard]] ColumnTable& makeTable(const EventTableSource& source);
+    [[nodiscard]] EventTableView* makeTable();
     void askForAccessAgain();
     void connectNotices();
     void serveDesktop();
@@ -82,10 +82,11 @@ private:
     IcuCollator collator_;
     UpdateDialogs updateDialogs_;
     ReleaseListUpdater updater_;
-    std::unique_ptr<EventTableModel> eventModel_;
-    /// Belongs to the window once that is built.
-    EventTableView* eventTable_ = nullptr;
+    ColumnTable columns_;
     Core core_;
+    EventTableModel eventModel_;
+    /// Belongs to the window once that is built.
+    EventTableView* eventTable_;
     IcuLocaleFormats reportFormats_;
     IcuCalendarArithmetic reportCalendar_;
     std::unique_ptr<SerialQueue> reportQueue_;

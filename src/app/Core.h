@@ -28,14 +28,6 @@
 
 namespace quillet {
 
-/// What a table of events shows, and how it sorts that.
-struct EventTableSource {
-    SettingsStore& settings;
-    ListController<Event>& events;
-    const EventFields& fields;
-    EventOrder& order;
-};
-
 /// All that the controllers want of the outside. It must outlive the core.
 struct CoreSeams {
     SettingsStore& settings;
@@ -63,9 +55,8 @@ struct CoreSeams {
     SoftwareUpdater& updater;
     /// The release notes, rich text.
     QString releaseNotesPath;
-    /// Makes the table of the events, its columns as they stand when the program starts. Called
-    /// once, while the core is built.
-    std::function<ColumnTable&(const EventTableSource& source)> makeTable;
+    /// As its columns stand when the program starts.
+    ColumnTable& eventTable;
 };
 
 /// Every controller of the logic, built and woken in the one order: the members stand in the order

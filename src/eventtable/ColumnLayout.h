@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/TableColumn.h"
+#include "eventtable/ColumnTable.h"
 
 #include <QString>
 

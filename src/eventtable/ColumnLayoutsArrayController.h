@@ -1,8 +1,8 @@
 #pragma once
 
 #include "eventtable/ColumnLayout.h"
+#include "eventtable/ColumnTable.h"
 #include "platform/NamedRecordsController.h"
-#include "platform/TableColumn.h"
 
 namespace quillet {
 

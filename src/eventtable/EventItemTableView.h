@@ -1,9 +1,9 @@
 #pragma once
 
 #include "eventdata/EventFields.h"
+#include "eventtable/ColumnTable.h"
 #include "platform/ListController.h"
 #include "platform/Pasteboard.h"
-#include "platform/TableColumn.h"
 
 namespace quillet {
 
@@ -12,7 +12,7 @@ class EventItemTableView {
 public:
     struct Collaborators {
         ListController<Event>& eventsArrayController;
-        ColumnTable& table;
+        const ColumnTable& table;
         const EventFields& fields;
         Pasteboard& pasteboard;
     };

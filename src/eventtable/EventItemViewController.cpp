@@ -63,7 +63,7 @@ void EventItemViewController::visibilityChanged() {
 }
 
 TableColumn& EventItemViewController::shown(const EventColumn& column) {
-    return with_.eventsTableView.columnAt(with_.eventsTableView.positionOf(key(column.identifier)));
+    return with_.eventsTableView.column(key(column.identifier));
 }
 
 void EventItemViewController::setHiddenEventColumns() {

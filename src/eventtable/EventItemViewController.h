@@ -1,12 +1,12 @@
 #pragma once
 
 #include "eventdata/CalendarRecord.h"
+#include "eventtable/ColumnTable.h"
 #include "eventtable/EventColumns.h"
 #include "platform/CalendarArithmetic.h"
 #include "platform/ListController.h"
 #include "platform/LocaleFormats.h"
 #include "platform/SettingsStore.h"
-#include "platform/TableColumn.h"
 
 #include <QObject>
 

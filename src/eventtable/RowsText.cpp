@@ -16,12 +16,12 @@ struct VisibleField {
     std::optional<ColumnText> text;
 };
 
-std::vector<VisibleField> visibleFields(ColumnTable& table) {
+std::vector<VisibleField> visibleFields(const ColumnTable& table) {
     std::vector<VisibleField> fields;
     for (int position = 0; position < table.columnCount(); ++position) {
         const TableColumn& column = table.columnAt(position);
         if (!column.isHidden()) {
-            const EventColumn* const known = findEventColumn(column.identifier());
+            const EventColumn* const known = column.known();
             fields.push_back({position > 0,
                               known != nullptr ? std::optional(ColumnText(*known)) : std::nullopt});
         }
@@ -31,7 +31,7 @@ std::vector<VisibleField> visibleFields(ColumnTable& table) {
 
 } // namespace
 
-QString rowsText(const EventList& events, ColumnTable& table, const EventFields& fields) {
+QString rowsText(const EventList& events, const ColumnTable& table, const EventFields& fields) {
     EventTexts texts(fields.billing(), fields.formats(), fields.gregorian());
     std::vector<VisibleField> visible = visibleFields(table);
     QString text;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "eventdata/EventFields.h"
+#include "eventtable/ColumnTable.h"
 #include "platform/Event.h"
-#include "platform/TableColumn.h"
 
 #include <QString>
 
@@ -14,7 +14,7 @@ namespace quillet {
 /// leftmost column: where that column is hidden, every line begins with a tab. A column of an
 /// unknown identifier is an empty field. A missing value is "(null)". In calendar, title, duration,
 /// notes and location every "%" is doubled; tabs and line feeds in them stay as they are.
-[[nodiscard]] QString rowsText(const EventList& events, ColumnTable& table,
+[[nodiscard]] QString rowsText(const EventList& events, const ColumnTable& table,
                                const EventFields& fields);
 
 } // namespace quillet

@@ -52,7 +52,7 @@ QVariantMap membersFromPlacements(const std::vector<ColumnPlacement>& placements
     return members;
 }
 
-std::vector<ColumnPlacement> capturedPlacements(ColumnTable& table) {
+std::vector<ColumnPlacement> capturedPlacements(const ColumnTable& table) {
     std::vector<ColumnPlacement> placements;
     for (const EventColumn& column : eventColumns()) {
         const QString identifier = QString::fromLatin1(column.identifier);

@@ -14,6 +14,6 @@ namespace quillet {
 [[nodiscard]] QVariantMap membersFromPlacements(const std::vector<ColumnPlacement>& placements);
 
 /// The table as it stands, which must have all sixteen columns; widths are cut to whole points.
-[[nodiscard]] std::vector<ColumnPlacement> capturedPlacements(ColumnTable& table);
+[[nodiscard]] std::vector<ColumnPlacement> capturedPlacements(const ColumnTable& table);
 
 } // namespace quillet

@@ -11,18 +11,17 @@ namespace quillet {
 
 namespace {
 
-bool isQuoted(const QString& identifier, const SettingsStore& settings) {
-    const EventColumn* const known = findEventColumn(identifier);
+bool isQuoted(const EventColumn* known, const SettingsStore& settings) {
     return known == nullptr || known->quotes == nullptr || known->quotes->read(settings);
 }
 
-std::vector<ExportColumn> visibleColumns(ColumnTable& table, const SettingsStore& settings) {
+std::vector<ExportColumn> visibleColumns(const ColumnTable& table, const SettingsStore& settings) {
     std::vector<ExportColumn> columns;
     for (int position = 0; position < table.columnCount(); ++position) {
         const TableColumn& column = table.columnAt(position);
         if (!column.isHidden()) {
-            columns.push_back({column.identifier(), column.headerTitle(),
-                               isQuoted(column.identifier(), settings)});
+            columns.push_back(
+                {column.identifier(), column.headerTitle(), isQuoted(column.known(), settings)});
         }
     }
     return columns;

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "eventdata/EventFields.h"
+#include "eventtable/ColumnTable.h"
 #include "export/ExportFile.h"
 #include "platform/ExportProgress.h"
 #include "platform/ListController.h"
 #include "platform/ProgressPresenter.h"
 #include "platform/SavePanel.h"
 #include "platform/SettingsStore.h"
-#include "platform/TableColumn.h"
 
 #include <QString>
 
@@ -27,7 +27,7 @@ class DelimitedExport {
 public:
     struct Collaborators {
         SettingsStore& settings;
-        ColumnTable& eventListTableView;
+        const ColumnTable& eventListTableView;
         ListController<Event>& eventsArrayController;
         const EventFields& fields;
         SavePanel& savePanel;

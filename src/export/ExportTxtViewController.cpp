@@ -25,12 +25,19 @@ ExportTxtViewController::ExportTxtViewController(const Collaborators& collaborat
             &ExportTxtViewController::eventsAttributedStringChanged);
 }
 
+void ExportTxtViewController::awakeFromNib() {
+    refresh_.awakeFromNib();
+    const ColumnTable& table = with_.eventItemTableView;
+    connect(&table, &ColumnTable::columnMoved, this, &ExportTxtViewController::tableViewChanged);
+    connect(&table, &ColumnTable::columnResized, this, &ExportTxtViewController::tableViewChanged);
+}
+
 std::vector<ReportColumn> ExportTxtViewController::visibleColumns() const {
     std::vector<ReportColumn> columns;
     for (int position = 0; position < with_.eventItemTableView.columnCount(); ++position) {
         const TableColumn& column = with_.eventItemTableView.columnAt(position);
         if (!column.isHidden()) {
-            const EventColumn* const known = findEventColumn(column.identifier());
+            const EventColumn* const known = column.known();
             columns.push_back(
                 {.identifier = column.identifier(),
                  .title = known == nullptr ? QString() : known->title.read(with_.settings),

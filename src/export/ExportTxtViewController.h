@@ -2,13 +2,13 @@
 
 #include "eventdata/CalendarRecord.h"
 #include "eventdata/EventFields.h"
+#include "eventtable/ColumnTable.h"
 #include "export/TextReport.h"
 #include "export/TextReportRefresh.h"
 #include "platform/ExportProgress.h"
 #include "platform/ListController.h"
 #include "platform/SettingsStore.h"
 #include "platform/StyledText.h"
-#include "platform/TableColumn.h"
 
 #include <QObject>
 #include <QString>
@@ -27,7 +27,7 @@ class ExportTxtViewController : public QObject {
 public:
     struct Collaborators {
         SettingsStore& settings;
-        ColumnTable& eventItemTableView;
+        const ColumnTable& eventItemTableView;
         ListController<Event>& eventsArrayController;
         ListController<CalendarRecord>& calendarsArrayController;
         const EventFields& fields;
@@ -35,8 +35,8 @@ public:
 
     explicit ExportTxtViewController(const Collaborators& collaborators);
 
-    /// See TextReportRefresh::awakeFromNib().
-    void awakeFromNib() { refresh_.awakeFromNib(); }
+    /// See TextReportRefresh::awakeFromNib(). From now on the report follows the columns too.
+    void awakeFromNib();
     /// Announces the report, unless its pane is closed or a preset or layout is being applied.
     void updateEventsAttributedString() { refresh_.updateEventsAttributedString(); }
     /// A column of the event table was moved or resized.

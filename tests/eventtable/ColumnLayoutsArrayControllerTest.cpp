@@ -182,9 +182,9 @@ TEST_F(ColumnLayoutsArrayControllerTest, ALayoutThatChangesUnderTheQuestionIsNot
 TEST_F(ColumnLayoutsArrayControllerTest, SavingCapturesPlacesAndCutsWidths) {
     controller.awakeFromNib();
     table.moveColumn(table.positionOf("title"), 0);
-    table.column("title").width = 80.7;
-    table.column("notes").hidden = true;
-    table.column("cost").title = "Price";
+    table.column("title").setWidthPoints(80.7);
+    table.column("notes").setHidden(true);
+    settings.setObject("costColumnTitle", "Price");
     std::optional<std::size_t> edited;
     QObject::connect(&controller, &ColumnLayoutsArrayController::nameEditingRequested,
                      [&](std::size_t row) { edited = row; });

@@ -1,7 +1,8 @@
 #pragma once
 
 #include "eventtable/ColumnLayoutsArrayController.h"
-#include "support/EventTableFake.h"
+#include "eventtable/ColumnTable.h"
+#include "support/Fakes.h"
 #include "support/MemorySettings.h"
 
 #include <gtest/gtest.h>
@@ -31,14 +32,14 @@ protected:
     }
     [[nodiscard]] std::string order() {
         QStringList names;
-        for (const auto& column : table.columns) {
-            names.append(column->identifier());
+        for (int position = 0; position < table.columnCount(); ++position) {
+            names.append(table.columnAt(position).identifier());
         }
         return names.join(' ').toStdString();
     }
 
     MemorySettings settings;
-    FakeTable table = eventTable();
+    ColumnTable table{settings};
     FakeAlerts alerts;
     ColumnLayoutsArrayController controller{
         {.settings = settings, .eventsTableView = table, .alerts = alerts}};

@@ -1,10 +1,12 @@
 #include "eventtable/EventItemTableView.h"
+#include "eventtable/RowsText.h"
 
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"
 #include "eventdata/EventFigures.h"
+#include "eventtable/ColumnTable.h"
 #include "support/EventSamples.h"
-#include "support/EventTableFake.h"
+#include "support/Fakes.h"
 #include "support/MemorySettings.h"
 
 #include <gtest/gtest.h>
@@ -33,13 +35,13 @@ protected:
     }
     /// Shows these columns alone, as the table's leftmost ones.
     void show(std::initializer_list<const char*> identifiers) {
-        for (const auto& column : table.columns) {
-            column->hidden = true;
+        for (int position = 0; position < table.columnCount(); ++position) {
+            table.columnAt(position).setHidden(true);
         }
-        int position = 0;
+        int next = 0;
         for (const char* identifier : identifiers) {
-            table.moveColumn(table.positionOf(identifier), position++);
-            table.column(identifier).hidden = false;
+            table.moveColumn(table.positionOf(identifier), next++);
+            table.column(identifier).setHidden(false);
         }
     }
     void addEvent(EventDetails details, int minutes = 90) {
@@ -72,7 +74,7 @@ protected:
     }
 
     test::MemorySettings settings;
-    test::FakeTable table = test::eventTable();
+    ColumnTable table{settings};
     test::FakePasteboard pasteboard;
     ListController<Event> list;
     EventList events;
@@ -126,14 +128,14 @@ TEST_F(EventItemTableViewTest, AHiddenLeftmostColumnLeavesItsTab) {
     addEvent("Meeting");
     addEvent("Call");
     show({"date", "title", "hours"});
-    table.column("date").hidden = true;
+    table.column("date").setHidden(true);
     EXPECT_EQ(copied(), "\tMeeting\t1.5\n\tCall\t1.5\n");
 }
 
 TEST_F(EventItemTableViewTest, AHiddenColumnInTheMiddleLeavesNothing) {
     addEvent("Meeting");
     show({"date", "title", "hours"});
-    table.column("title").hidden = true;
+    table.column("title").setHidden(true);
     EXPECT_EQ(copied(), "3/4/24\t1.5\n");
 }
 
@@ -225,9 +227,8 @@ TEST_F(EventItemTableViewTest, ANegativeNumberLosesItsMinusSign) {
 
 TEST_F(EventItemTableViewTest, AColumnOfAnUnknownIdentifierIsItsTabAlone) {
     addEvent("T");
-    table.columns.push_back(std::make_unique<test::FakeColumn>("colour", "Colour", 10));
-    show({"title", "colour", "hours"});
-    EXPECT_EQ(copied(), "T\t\t1.5\n");
+    const ColumnTable unknown(settings, {"title", "colour", "hours"});
+    EXPECT_EQ(rowsText(events, unknown, *fields), "T\t\t1.5\n");
 }
 
 TEST_F(EventItemTableViewTest, TheSelectedRowsComeInArrangedOrder) {

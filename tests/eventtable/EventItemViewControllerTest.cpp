@@ -3,7 +3,7 @@
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"
 #include "eventtable/ColumnLayout.h"
-#include "support/EventTableFake.h"
+#include "eventtable/ColumnTable.h"
 #include "support/Fakes.h"
 #include "support/MemorySettings.h"
 
@@ -24,10 +24,10 @@ protected:
     int passes() const {
         return static_cast<int>(settings.writes.count("hiddenColumnsChangedTrigger"));
     }
-    bool isHidden(const char* identifier) { return table.column(identifier).hidden; }
+    bool isHidden(const char* identifier) { return table.column(identifier).isHidden(); }
 
     test::MemorySettings settings;
-    test::FakeTable table = test::eventTable();
+    ColumnTable table{settings};
     ListController<CalendarRecord> calendars;
     IcuCalendarArithmetic berlin{"de_DE", "Europe/Berlin", CalendarSystem::Gregorian};
     IcuLocaleFormats formats{{"en_US", "en_US", "en_US"}, "Europe/Berlin"};
@@ -75,13 +75,13 @@ TEST_F(EventItemViewControllerTest, TitlesThatAreAbsentAreWrittenInTheirOrderAnd
 TEST_F(EventItemViewControllerTest, TheChosenTimeColumnTakesThePlaceAndWidthOfTheOneShown) {
     controller.awakeFromNib();
     table.moveColumn(table.positionOf("hours"), 3);
-    table.column("hours").width = 70;
+    table.column("hours").setWidthPoints(70);
     const int before = passes();
     settings.setObject("timeTypeSelection", 2);
     EXPECT_TRUE(isHidden("hours"));
     EXPECT_FALSE(isHidden("minutes"));
     EXPECT_EQ(table.positionOf("minutes"), 3);
-    EXPECT_EQ(table.column("minutes").width, 70);
+    EXPECT_EQ(table.column("minutes").widthPoints(), 70);
     EXPECT_EQ(passes(), before + 1);
     EXPECT_EQ(controller.shownTimeMenuItem(), TimeType::Minutes);
 }
@@ -91,18 +91,18 @@ TEST_F(EventItemViewControllerTest, OfTwoRivalsTheSecondGivesThePlaceAndTheWidth
     const auto placeOfChosen = [&](int timeType, const char* chosen, const char* first,
                                    const char* second) {
         settings.setObject("timeTypeSelection", 0);
-        table.column(chosen).hidden = true;
+        table.column(chosen).setHidden(true);
         table.moveColumn(table.positionOf(chosen), 0);
-        table.column(first).hidden = false;
-        table.column(first).width = 60;
+        table.column(first).setHidden(false);
+        table.column(first).setWidthPoints(60);
         table.moveColumn(table.positionOf(first), 4);
-        table.column(second).hidden = false;
-        table.column(second).width = 80;
+        table.column(second).setHidden(false);
+        table.column(second).setWidthPoints(80);
         table.moveColumn(table.positionOf(second), 9);
         settings.setObject("timeTypeSelection", timeType);
         EXPECT_TRUE(isHidden(first) && isHidden(second));
         EXPECT_FALSE(isHidden(chosen));
-        EXPECT_EQ(table.column(chosen).width, 80) << chosen;
+        EXPECT_EQ(table.column(chosen).widthPoints(), 80) << chosen;
         EXPECT_EQ(table.positionOf(chosen), 9) << chosen;
     };
     placeOfChosen(1, "hours", "duration", "minutes");
@@ -112,7 +112,7 @@ TEST_F(EventItemViewControllerTest, OfTwoRivalsTheSecondGivesThePlaceAndTheWidth
 
 TEST_F(EventItemViewControllerTest, WithTimeOffTheChosenColumnAndItsRivalsAreHidden) {
     controller.awakeFromNib();
-    table.column("duration").hidden = false;
+    table.column("duration").setHidden(false);
     settings.setObject("isHoursColumn", false);
     EXPECT_TRUE(isHidden("hours"));
     EXPECT_TRUE(isHidden("duration"));
@@ -158,8 +158,8 @@ TEST_F(EventItemViewControllerTest, EveryWriteOfAVisibilityKeyIsOnePassAlsoAnEqu
 
 TEST_F(EventItemViewControllerTest, AnUnknownTimeTypeLeavesTheTimeColumnsAlone) {
     settings.setObject("timeTypeSelection", 0);
-    table.column("hours").hidden = true;
-    table.column("minutes").hidden = false;
+    table.column("hours").setHidden(true);
+    table.column("minutes").setHidden(false);
     controller.awakeFromNib();
     EXPECT_TRUE(isHidden("hours"));
     EXPECT_FALSE(isHidden("minutes"));
@@ -246,7 +246,8 @@ TEST_F(EventItemViewControllerTest, ThePeriodLabels) {
 }
 
 TEST(ColumnLayoutTest, TheDefaultPlacementsArePutInOneAfterTheOther) {
-    test::FakeTable table = test::eventTable();
+    const test::MemorySettings settings;
+    ColumnTable table{settings};
     applyPlacements(defaultColumnPlacements(), table);
     QStringList order;
     for (int position = 0; position < table.columnCount(); ++position) {
@@ -256,16 +257,17 @@ TEST(ColumnLayoutTest, TheDefaultPlacementsArePutInOneAfterTheOther) {
     EXPECT_EQ(order, (QStringList{"date", "calendar", "title", "hours", "minutes", "duration",
                                   "url", "cost", "location", "start", "weekday", "end", "endDate",
                                   "notes", "rate", "endWeekday"}));
-    EXPECT_EQ(table.column("title").width, 240);
+    EXPECT_EQ(table.column("title").widthPoints(), 240);
 }
 
 TEST(ColumnLayoutTest, AnIndexOutsideTheTableLeavesTheColumnWhereItIs) {
-    test::FakeTable table = test::eventTable();
+    const test::MemorySettings settings;
+    ColumnTable table{settings};
     applyPlacements({{.identifier = "title", .title = {}, .widthPoints = 50, .index = 99},
                      {.identifier = "nonsense", .title = {}, .widthPoints = 50, .index = 0}},
                     table);
     EXPECT_EQ(table.positionOf("title"), 2);
-    EXPECT_EQ(table.column("title").width, 50);
+    EXPECT_EQ(table.column("title").widthPoints(), 50);
 }
 
 } // namespace quillet

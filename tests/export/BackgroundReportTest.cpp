@@ -1,10 +1,10 @@
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"
+#include "eventtable/ColumnTable.h"
 #include "eventtable/EventColumns.h"
 #include "export/ExportTxtViewController.h"
 #include "platform/SerialQueue.h"
 #include "support/EventSamples.h"
-#include "support/EventTableFake.h"
 #include "support/MemorySettings.h"
 
 #include <gtest/gtest.h>
@@ -63,14 +63,14 @@ protected:
         });
         settings.setObject("hourlyRate", 120);
         settings.setObject("txtFooter", "Thanks");
-        table.column("title").width = 40;
+        table.column("title").setWidthPoints(40);
         list.setSelectedRows({1, 2, 3});
         (void)controller.eventsAttributedString();
         list.setContent(EventList());
     }
 
     test::MemorySettings settings;
-    test::FakeTable table = test::eventTable();
+    ColumnTable table{settings};
     ListController<Event> list;
     ListController<CalendarRecord> calendars;
     IcuCalendarArithmetic calendar{"en_US", "Europe/Berlin", CalendarSystem::Gregorian};

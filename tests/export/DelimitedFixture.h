@@ -2,10 +2,11 @@
 
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"
+#include "eventtable/ColumnTable.h"
 #include "export/DelimitedExport.h"
 #include "support/EventSamples.h"
-#include "support/EventTableFake.h"
 #include "support/ExpectedLog.h"
+#include "support/Fakes.h"
 #include "support/MemorySettings.h"
 
 #include <QFile>
@@ -36,11 +37,11 @@ protected:
     }
     /// Shows these columns alone, in the order in which the table holds them.
     void show(std::initializer_list<const char*> identifiers) {
-        for (const auto& column : table.columns) {
-            column->hidden = true;
+        for (int position = 0; position < table.columnCount(); ++position) {
+            table.columnAt(position).setHidden(true);
         }
         for (const char* identifier : identifiers) {
-            table.column(identifier).hidden = false;
+            table.column(identifier).setHidden(false);
         }
     }
     /// An event of the 4th, 9:00 to 10:30.
@@ -69,7 +70,7 @@ protected:
     }
 
     MemorySettings settings;
-    FakeTable table = eventTable();
+    ColumnTable table{settings};
     FakeSavePanel panel;
     FakeProgress progress;
     ListController<Event> list;

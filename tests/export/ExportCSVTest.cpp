@@ -1,6 +1,7 @@
 #include "export/ExportCSV.h"
 
 #include "DelimitedFixture.h"
+#include "export/DelimitedText.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -105,7 +106,7 @@ TEST_F(ExportCSVTest, WithoutHeaderAndEventsTheFileIsEmpty) {
 }
 
 TEST_F(ExportCSVTest, TitlesOfColumnsAreNotEscaped) {
-    table.column("title").title = "A \"B\"";
+    settings.setObject("titleColumnTitle", "A \"B\"");
     show({"title"});
     EXPECT_EQ(text(), "\"A \"B\"\"\n");
 }
@@ -239,10 +240,11 @@ TEST_F(ExportCSVTest, AFailedWriteLeavesTheOldFileAsItWas) {
 }
 
 TEST_F(ExportCSVTest, AColumnOfAnUnknownIdentifierHasATitleAndNoField) {
-    table.columns.push_back(std::make_unique<test::FakeColumn>("colour", "Colour", 10));
     addEvent("T");
-    show({"title", "colour"});
-    EXPECT_EQ(text(), "\"Title\",\"Colour\"\n\"T\"\n");
+    DelimitedText csv({{"title", "Title"}, {"colour", "Colour"}}, {}, *fields, u',');
+    csv.appendHeader();
+    csv.appendEvent(events.front());
+    EXPECT_EQ(csv.text(), "\"Title\",\"Colour\"\n\"T\"\n");
 }
 
 TEST_F(ExportCSVTest, TimeOutsideThePeriodIsWrittenWithoutItsMinusSign) {
@@ -299,7 +301,7 @@ TEST_F(ExportCSVTest, WhatChangesWhileALongExportRunsDoesNotShowInIt) {
     progress.answer = [this] {
         settings.setObject("hourlyRate", 1);
         settings.setObject("isCSVQuotesForTitle", false);
-        table.column("title").hidden = true;
+        table.column("title").setHidden(true);
         list.setContent(EventList());
         return true;
     };

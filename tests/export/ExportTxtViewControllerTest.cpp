@@ -2,9 +2,9 @@
 
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"
+#include "eventtable/ColumnTable.h"
 #include "eventtable/EventColumns.h"
 #include "support/EventSamples.h"
-#include "support/EventTableFake.h"
 #include "support/MemorySettings.h"
 
 #include <gtest/gtest.h>
@@ -33,14 +33,14 @@ protected:
                         timedEvent(start, start + std::chrono::minutes(45), "home", "Call")});
     }
     void show(std::initializer_list<std::pair<const char*, double>> columns) {
-        for (const auto& column : table.columns) {
-            column->hidden = true;
+        for (int position = 0; position < table.columnCount(); ++position) {
+            table.columnAt(position).setHidden(true);
         }
-        int position = 0;
+        int next = 0;
         for (const auto& [identifier, width] : columns) {
-            table.column(identifier).hidden = false;
-            table.column(identifier).width = width;
-            table.moveColumn(table.positionOf(identifier), position++);
+            table.column(identifier).setHidden(false);
+            table.column(identifier).setWidthPoints(width);
+            table.moveColumn(table.positionOf(identifier), next++);
         }
     }
     [[nodiscard]] QString headerWith(const char* key) {
@@ -51,7 +51,7 @@ protected:
     }
 
     test::MemorySettings settings;
-    test::FakeTable table = test::eventTable();
+    ColumnTable table{settings};
     ListController<Event> list;
     ListController<CalendarRecord> calendars;
     IcuCalendarArithmetic calendar{"en_US", "UTC", CalendarSystem::Gregorian};
@@ -85,9 +85,14 @@ TEST_F(ExportTxtViewControllerTest, TitlesAreThoseOfTheSettings) {
 }
 
 TEST_F(ExportTxtViewControllerTest, AColumnThatNobodyKnowsHasNoTitle) {
-    show({});
-    table.columns.push_back(std::make_unique<test::FakeColumn>("colour", "Colour", 36));
-    EXPECT_EQ(controller.tableViewString(), "      \n------\n\n\n");
+    ColumnTable unknown(settings, {"colour"});
+    unknown.column("colour").setWidthPoints(36);
+    const ExportTxtViewController other({.settings = settings,
+                                         .eventItemTableView = unknown,
+                                         .eventsArrayController = list,
+                                         .calendarsArrayController = calendars,
+                                         .fields = fields});
+    EXPECT_EQ(other.tableViewString(), "      \n------\n\n\n");
 }
 
 TEST_F(ExportTxtViewControllerTest, EachSwitchIsASettingOfItsOwn) {

@@ -1,7 +1,6 @@
 #include "golden/GoldenWindow.h"
 
 #include "backends/combined/EventOrder.h"
-#include "eventtable/EventColumns.h"
 
 #include <QTimeZone>
 
@@ -17,13 +16,21 @@ bool isShownBetween(const Event& event, Instant from, Instant to) {
            (event.startDate == event.endDate ? event.startDate >= from : event.endDate > from);
 }
 
+QStringList identifiersOf(const std::vector<CaseColumn>& columns) {
+    QStringList identifiers;
+    for (const CaseColumn& column : columns) {
+        identifiers << column.identifier;
+    }
+    return identifiers;
+}
+
 } // namespace
 
 GoldenWindow::GoldenWindow(const GoldenCase& described)
     : case_(described)
     , access_(folder_.path(), [](const CalendarAccess::Answer& answer) { answer(true); })
     , store_(dataPath() + QStringLiteral("/calendars"), access_, QTimeZone(described.zone.toUtf8()))
-    , outside_(described.locale, described.zone) {
+    , outside_(described.locale, described.zone, identifiersOf(described.columns)) {
     access_.request([](bool, const std::optional<QString>&) {});
     fillSettings();
     fillTable();
@@ -54,19 +61,10 @@ void GoldenWindow::fillSettings() {
 }
 
 void GoldenWindow::fillTable() {
-    auto& columns = outside_.table.columns;
-    columns.clear();
     for (const CaseColumn& column : case_.columns) {
-        const auto known =
-            std::ranges::find(eventColumns(), column.identifier, [](const auto& each) {
-                return QString::fromLatin1(each.identifier);
-            });
-        const QString title = known == eventColumns().end()
-                                  ? QString()
-                                  : stringForKey(settings_, known->title.name());
-        columns.push_back(
-            std::make_unique<test::FakeColumn>(column.identifier, title, column.widthPoints));
-        columns.back()->hidden = column.isHidden;
+        TableColumn& shown = outside_.columns.column(column.identifier);
+        shown.setWidthPoints(column.widthPoints);
+        shown.setHidden(column.isHidden);
     }
 }
 

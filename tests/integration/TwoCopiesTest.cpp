@@ -1,8 +1,8 @@
 #include "backends/settingsfile/SettingsFile.h"
 #include "calendars/CalendarGroupsArrayController.h"
 #include "eventtable/ColumnLayoutsArrayController.h"
+#include "eventtable/ColumnTable.h"
 #include "export/TXTSettingsArrayController.h"
-#include "support/EventTableFake.h"
 #include "support/Fakes.h"
 #include "support/WaitUntil.h"
 
@@ -47,7 +47,7 @@ struct Copy {
 
     SettingsFile settings;
     test::FakeAlerts alerts;
-    test::FakeTable table = test::eventTable();
+    ColumnTable table{settings};
     CalendarGroupsArrayController groups{settings, alerts};
     ColumnLayoutsArrayController layouts{
         {.settings = settings, .eventsTableView = table, .alerts = alerts}};

@@ -4,7 +4,7 @@
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuCollator.h"
 #include "backends/icu/IcuLocaleFormats.h"
-#include "support/EventTableFake.h"
+#include "eventtable/ColumnTable.h"
 #include "support/Fakes.h"
 #include "support/MemorySettings.h"
 
@@ -13,10 +13,12 @@ namespace quillet::test {
 /// All that a core wants of the outside, as the test sets it.
 struct FakeOutside {
     explicit FakeOutside(const QString& locale = QStringLiteral("en_US"),
-                         const QString& zone = QStringLiteral("UTC"))
+                         const QString& zone = QStringLiteral("UTC"),
+                         const QStringList& columnIdentifiers = ColumnTable::knownIdentifiers())
         : gregorian(locale, zone, CalendarSystem::Gregorian)
         , formats({locale, locale, locale}, zone)
-        , collator(locale) {}
+        , collator(locale)
+        , columns(settings, columnIdentifiers) {}
 
     [[nodiscard]] CoreSeams seams() {
         return {.settings = settings,
@@ -40,7 +42,7 @@ struct FakeOutside {
                 .taskLauncher = launcher,
                 .updater = updater,
                 .releaseNotesPath = QStringLiteral("/notes.rtf"),
-                .makeTable = [this](const EventTableSource&) -> ColumnTable& { return table; }};
+                .eventTable = columns};
     }
     /// Lets the fetch that is under way, and what follows from it, finish.
     void finish() {
@@ -67,7 +69,7 @@ struct FakeOutside {
     FakeWorkspace workspace;
     FakeTaskLauncher launcher;
     FakeUpdater updater;
-    FakeTable table = eventTable();
+    ColumnTable columns;
 };
 
 } // namespace quillet::test

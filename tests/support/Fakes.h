@@ -13,7 +13,6 @@
 #include "platform/SerialQueue.h"
 #include "platform/Sheet.h"
 #include "platform/SoftwareUpdater.h"
-#include "platform/TableColumn.h"
 #include "platform/TaskLauncher.h"
 #include "platform/TextColorSource.h"
 #include "platform/Workspace.h"
@@ -221,55 +220,6 @@ public:
 
     QStringList calls;
     QString content = QStringLiteral("something of another program");
-};
-
-class FakeColumn final : public TableColumn {
-public:
-    FakeColumn(QString name, QString headerText, double points)
-        : name_(std::move(name))
-        , title(std::move(headerText))
-        , width(points) {}
-    [[nodiscard]] QString identifier() const override { return name_; }
-    [[nodiscard]] QString headerTitle() const override { return title; }
-    [[nodiscard]] double widthPoints() const override { return width; }
-    void setWidthPoints(double points) override { width = points; }
-    [[nodiscard]] bool isHidden() const override { return hidden; }
-    void setHidden(bool isHidden) override { hidden = isHidden; }
-
-private:
-    QString name_;
-
-public:
-    QString title;
-    double width;
-    bool hidden = false;
-};
-
-class FakeTable final : public ColumnTable {
-public:
-    [[nodiscard]] int columnCount() const override { return static_cast<int>(columns.size()); }
-    [[nodiscard]] FakeColumn& columnAt(int position) override {
-        return *columns.at(static_cast<std::size_t>(position));
-    }
-    [[nodiscard]] int positionOf(const QString& identifier) const override {
-        for (std::size_t position = 0; position < columns.size(); ++position) {
-            if (columns[position]->identifier() == identifier) {
-                return static_cast<int>(position);
-            }
-        }
-        return -1;
-    }
-    void moveColumn(int from, int to) override {
-        auto column = std::move(columns.at(static_cast<std::size_t>(from)));
-        columns.erase(columns.begin() + from);
-        columns.insert(columns.begin() + to, std::move(column));
-    }
-    /// The column of that identifier, which must exist.
-    [[nodiscard]] FakeColumn& column(const QString& identifier) {
-        return columnAt(positionOf(identifier));
-    }
-
-    std::vector<std::unique_ptr<FakeColumn>> columns;
 };
 
 /// A store whose answers the test sets.

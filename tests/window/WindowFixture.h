@@ -54,6 +54,7 @@ protected:
     }
 
     void open() {
+        applyPlacements(defaultColumnPlacements(), columns);
         core.wake();
         window = std::make_unique<MainWindow>(
             core,
@@ -88,12 +89,14 @@ protected:
     }
 
     QStringList problems;
-    std::unique_ptr<EventTableModel> tableModel;
-    EventTableView* table = nullptr;
     FakeQueue reportQueue;
-    Core core{windowSeams()};
-    EventTableModel& model = *tableModel;
+    Core core{seams()};
     ListController<Event>& events = core.events;
+    EventTableModel model{events, core.fields, settings};
+    EventTableView* table = new EventTableView(
+        model, columns, events, settings, [this](const QString& column, SortDirection direction) {
+            return core.eventOrder.sorter(column, direction);
+        });
     CalendarsArrayController& calendars = core.calendars;
     CalendarGroupsArrayController& groups = core.calendarGroups;
     CalendarGroupsController& groupsFilter = core.calendarGroupsFilter;
@@ -105,26 +108,6 @@ protected:
     ExportTxtViewController& report = core.exportTxtView;
     ExportCSV& exportCSV = core.exportCSV;
     std::unique_ptr<MainWindow> window;
-
-private:
-    [[nodiscard]] CoreSeams windowSeams() {
-        CoreSeams result = seams();
-        result.makeTable = [this](const EventTableSource& source) -> ColumnTable& {
-            return makeTable(source);
-        };
-        return result;
-    }
-    ColumnTable& makeTable(const EventTableSource& source) {
-        tableModel =
-            std::make_unique<EventTableModel>(source.events, source.fields, source.settings);
-        table = new EventTableView(
-            *tableModel, source.events, source.settings,
-            [&order = source.order](const QString& column, SortDirection direction) {
-                return order.sorter(column, direction);
-            });
-        applyPlacements(defaultColumnPlacements(), *table);
-        return *table;
-    }
 };
 
 } // namespace quillet::test

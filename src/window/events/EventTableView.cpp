@@ -21,39 +21,55 @@
 
 namespace quillet {
 
-/// A header section, which forgets its width while it is hidden: it is remembered here. A point is
-/// as wide as in the text report, where a character takes 7.2 of them: whatever the font, the table
-/// shows about as much of a text as the report does.
-class EventTableView::HeaderColumn final : public TableColumn {
+namespace {
+
+QString identifierOf(int logicalIndex) {
+    return QString::fromLatin1(eventColumns()[static_cast<std::size_t>(logicalIndex)].identifier);
+}
+
+} // namespace
+
+/// A header section and the column that it mirrors, which keeps its width while it is hidden. A
+/// point is as wide as in the text report, where a character takes 7.2 of them: whatever the font,
+/// the table shows about as much of a text as the report does.
+class EventTableView::HeaderSection final {
 public:
-    HeaderColumn(QHeaderView& header, int logicalIndex, const EventColumn& column)
+    HeaderSection(QHeaderView& header, int logicalIndex, TableColumn& column)
         : header_(header)
         , logicalIndex_(logicalIndex)
-        , column_(column)
-        , width_(pointsOf(header.sectionSize(logicalIndex))) {}
+        , column_(column) {
+        connect(&column, &TableColumn::widthPointsSet, &header, [this] { resize(); });
+        connect(&column, &TableColumn::isHiddenChanged, &header, [this] { setHidden(); });
+        resize();
+        setHidden();
+    }
 
-    [[nodiscard]] QString identifier() const override {
-        return QString::fromLatin1(column_.identifier);
-    }
-    [[nodiscard]] QString headerTitle() const override {
-        return header_.model()->headerData(logicalIndex_, Qt::Horizontal).toString();
-    }
-    [[nodiscard]] double widthPoints() const override { return width_; }
-    void setWidthPoints(double width) override {
-        width_ = width;
-        // A hidden section takes it, too, and has it when it shows.
-        header_.resizeSection(logicalIndex_, pixelsOf(width));
-    }
-    [[nodiscard]] bool isHidden() const override { return header_.isSectionHidden(logicalIndex_); }
-    void setHidden(bool isHidden) override { header_.setSectionHidden(logicalIndex_, isHidden); }
     void userResized(int pixels) {
         // Its own echo is no news, and would cost the fractions of the width.
-        if (pixels != pixelsOf(width_)) {
-            width_ = pointsOf(pixels);
+        if (pixels != pixelsOf(column_.widthPoints())) {
+            isUsers_ = true;
+            column_.setWidthPoints(pointsOf(pixels));
+            isUsers_ = false;
         }
+    }
+    /// The header has restored a state, and tells nothing of it.
+    void takeFromHeader() {
+        const bool isHidden = header_.isSectionHidden(logicalIndex_);
+        // A hidden section has no size.
+        header_.setSectionHidden(logicalIndex_, false);
+        userResized(header_.sectionSize(logicalIndex_));
+        header_.setSectionHidden(logicalIndex_, isHidden);
+        column_.setHidden(isHidden);
     }
 
 private:
+    void resize() {
+        if (!isUsers_) {
+            // A hidden section takes it, too, and has it when it shows.
+            header_.resizeSection(logicalIndex_, pixelsOf(column_.widthPoints()));
+        }
+    }
+    void setHidden() { header_.setSectionHidden(logicalIndex_, column_.isHidden()); }
     [[nodiscard]] double pixelsPerPoint() const {
         constexpr double pointsPerCharacter = 7.2;
         return header_.fontMetrics().horizontalAdvance(u'0') / pointsPerCharacter;
@@ -72,13 +88,15 @@ private:
 
     QHeaderView& header_;
     int logicalIndex_;
-    const EventColumn& column_;
-    double width_;
+    TableColumn& column_;
+    bool isUsers_ = false;
 };
 
-EventTableView::EventTableView(QAbstractItemModel& model, ListController<Event>& events,
-                               SettingsStore& settings, MakeSorter makeSorter, QWidget* parent)
+EventTableView::EventTableView(QAbstractItemModel& model, ColumnTable& columns,
+                               ListController<Event>& events, SettingsStore& settings,
+                               MakeSorter makeSorter, QWidget* parent)
     : QTableView(parent)
+    , columns_(columns)
     , events_(events)
     , settings_(settings)
     , makeSorter_(std::move(makeSorter))
@@ -126,17 +144,40 @@ void EventTableView::setUpHeader() {
     header.setSortIndicator(-1, Qt::AscendingOrder);
     header.setSortIndicatorShown(true);
     header.setContextMenuPolicy(Qt::CustomContextMenu);
+    setUpSections();
+    connect(&header, &QHeaderView::sortIndicatorChanged, this, &EventTableView::sort);
+    connect(&header, &QWidget::customContextMenuRequested, this, &EventTableView::showHeaderMenu);
+}
+
+void EventTableView::setUpSections() {
+    QHeaderView& header = *horizontalHeader();
     for (int index = 0; index < header.count(); ++index) {
-        columns_.push_back(std::make_unique<HeaderColumn>(
-            header, index, eventColumns()[static_cast<std::size_t>(index)]));
+        sections_.push_back(
+            std::make_unique<HeaderSection>(header, index, columns_.column(identifierOf(index))));
+    }
+    for (int position = 0; position < columns_.columnCount(); ++position) {
+        const auto index = columns_.columnAt(position).known() - eventColumns().data();
+        header.moveSection(header.visualIndex(static_cast<int>(index)), position);
     }
     connect(&header, &QHeaderView::sectionResized, this, [this](int index, int, int width) {
         if (width > 0) {
-            columns_[static_cast<std::size_t>(index)]->userResized(width);
+            sections_[static_cast<std::size_t>(index)]->userResized(width);
         }
     });
-    connect(&header, &QHeaderView::sortIndicatorChanged, this, &EventTableView::sort);
-    connect(&header, &QWidget::customContextMenuRequested, this, &EventTableView::showHeaderMenu);
+    connect(&header, &QHeaderView::sectionMoved, this, [this](int, int from, int to) {
+        moveUnmirrored([=, this] { columns_.moveColumn(from, to); });
+    });
+    connect(&columns_, &ColumnTable::columnMoved, this, [this](int from, int to) {
+        moveUnmirrored([=, this] { horizontalHeader()->moveSection(from, to); });
+    });
+}
+
+void EventTableView::moveUnmirrored(const std::function<void()>& move) {
+    if (!isMoving_) {
+        isMoving_ = true;
+        move();
+        isMoving_ = false;
+    }
 }
 
 void EventTableView::follow(EventItemTableView& eventItemTableView) {
@@ -219,27 +260,6 @@ void EventTableView::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
 }
 
-int EventTableView::columnCount() const {
-    return horizontalHeader()->count();
-}
-
-TableColumn& EventTableView::columnAt(int position) {
-    return *columns_[static_cast<std::size_t>(horizontalHeader()->logicalIndex(position))];
-}
-
-int EventTableView::positionOf(const QString& identifier) const {
-    for (std::size_t index = 0; index < columns_.size(); ++index) {
-        if (columns_[index]->identifier() == identifier) {
-            return horizontalHeader()->visualIndex(static_cast<int>(index));
-        }
-    }
-    return -1;
-}
-
-void EventTableView::moveColumn(int from, int to) {
-    horizontalHeader()->moveSection(from, to);
-}
-
 QByteArray EventTableView::columnState() const {
     return horizontalHeader()->saveState();
 }
@@ -249,13 +269,15 @@ bool EventTableView::restoreColumnState(const QByteArray& state) {
     if (!header.restoreState(state)) {
         return false;
     }
-    // The header says nothing of the sizes that it has restored, and of hidden sections never.
-    for (int index = 0; index < header.count(); ++index) {
-        const bool isHidden = header.isSectionHidden(index);
-        header.setSectionHidden(index, false);
-        columns_[static_cast<std::size_t>(index)]->userResized(header.sectionSize(index));
-        header.setSectionHidden(index, isHidden);
+    for (const auto& section : sections_) {
+        section->takeFromHeader();
     }
+    moveUnmirrored([&] {
+        for (int position = 0; position < header.count(); ++position) {
+            const QString identifier = identifierOf(header.logicalIndex(position));
+            columns_.moveColumn(columns_.positionOf(identifier), position);
+        }
+    });
     return true;
 }
 
@@ -270,9 +292,9 @@ void EventTableView::sort(int logicalIndex, Qt::SortOrder order) {
         events_.setSorter({});
         return;
     }
-    events_.setSorter(makeSorter_(columns_[static_cast<std::size_t>(logicalIndex)]->identifier(),
-                                  order == Qt::AscendingOrder ? SortDirection::Ascending
-                                                              : SortDirection::Descending));
+    events_.setSorter(makeSorter_(identifierOf(logicalIndex), order == Qt::AscendingOrder
+                                                                  ? SortDirection::Ascending
+                                                                  : SortDirection::Descending));
 }
 
 void EventTableView::takeSelectionFromView() {

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "eventtable/ColumnTable.h"
 #include "platform/Event.h"
 #include "platform/ListController.h"
 #include "platform/SettingsStore.h"
-#include "platform/TableColumn.h"
 
 #include <QTableView>
 
@@ -19,9 +19,10 @@ class OpenCalendarEvent;
 enum class SortDirection;
 struct TimeColumnActions;
 
-/// The event table on screen. Its columns can be moved, resized, hidden and sorted by the user; its
-/// selection and that of the list controller are one. The header's menu shows and hides columns.
-class EventTableView : public QTableView, public ColumnTable {
+/// The event table on screen. It mirrors its columns, which the user can move, resize, hide and
+/// sort by; its selection and that of the list controller are one. The header's menu shows and
+/// hides columns.
+class EventTableView : public QTableView {
     Q_OBJECT
 
 public:
@@ -29,7 +30,8 @@ public:
     using MakeSorter = std::function<ListController<Event>::Sorter(const QString& column,
                                                                    SortDirection direction)>;
 
-    EventTableView(QAbstractItemModel& model, ListController<Event>& events,
+    /// The model's columns are those of eventColumns().
+    EventTableView(QAbstractItemModel& model, ColumnTable& columns, ListController<Event>& events,
                    SettingsStore& settings, MakeSorter makeSorter, QWidget* parent = nullptr);
     ~EventTableView() override;
     Q_DISABLE_COPY_MOVE(EventTableView)
@@ -42,11 +44,6 @@ public:
     void follow(const EventItemViewController& eventItemView);
     /// Shows the selected event in the calendar program; enabled while just one is selected.
     [[nodiscard]] QAction& openInCalendarAction() { return *openInCalendarAction_; }
-
-    [[nodiscard]] int columnCount() const override;
-    [[nodiscard]] TableColumn& columnAt(int position) override;
-    [[nodiscard]] int positionOf(const QString& identifier) const override;
-    void moveColumn(int from, int to) override;
 
     /// The order, widths and sorting of the columns, for the next start.
     [[nodiscard]] QByteArray columnState() const;
@@ -62,9 +59,12 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    class HeaderColumn;
+    class HeaderSection;
 
     void setUpHeader();
+    void setUpSections();
+    /// Moves a section or a column without being asked to move the other one as well.
+    void moveUnmirrored(const std::function<void()>& move);
     void openInCalendar();
     /// Where no column is, beside the last one; empty when the columns fill the view.
     [[nodiscard]] QRect besideColumns() const;
@@ -73,6 +73,7 @@ private:
     void takeSelectionFromView();
     void showSelectionOfList();
 
+    ColumnTable& columns_;
     ListController<Event>& events_;
     SettingsStore& settings_;
     MakeSorter makeSorter_;
@@ -80,7 +81,8 @@ private:
     EventItemTableView* eventItemTableView_ = nullptr;
     OpenCalendarEvent* openCalendarEvent_ = nullptr;
     QAction* openInCalendarAction_;
-    std::vector<std::unique_ptr<HeaderColumn>> columns_;
+    std::vector<std::unique_ptr<HeaderSection>> sections_;
+    bool isMoving_ = false;
     bool isShowingSelection_ = false;
     int scrollPosition_ = 0;
 };

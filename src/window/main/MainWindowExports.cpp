@@ -7,7 +7,6 @@
 #include "window/widgets/SymbolIcon.h"
 
 #include <QAction>
-#include <QHeaderView>
 #include <QPointer>
 
 namespace quillet {
@@ -92,16 +91,6 @@ WindowPanes::Contents MainWindow::exportPanes() {
         [view = QPointer(report)] { return view ? view->shownText() : std::nullopt; });
     core_.eventNotes.setNotesTextView(
         [view = QPointer(notes)] { return view ? view->shownText() : std::nullopt; });
-    const QHeaderView* header = parts_.eventTable.horizontalHeader();
-    connect(header, &QHeaderView::sectionMoved, &core_.exportTxtView,
-            &ExportTxtViewController::tableViewChanged);
-    connect(header, &QHeaderView::sectionResized, &core_.exportTxtView,
-            [&report = core_.exportTxtView](int, int oldWidth, int newWidth) {
-                // To and from 0 a column is hidden or shown, which is announced apart.
-                if (oldWidth > 0 && newWidth > 0) {
-                    report.tableViewChanged();
-                }
-            });
     return {{PaneContent::ExportTxtView, report}, {PaneContent::ExportNotesView, notes}};
 }
 

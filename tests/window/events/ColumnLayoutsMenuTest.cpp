@@ -83,15 +83,15 @@ TEST_F(ColumnLayoutsMenuTest, ListsTheLayoutsAndOffersAllButTheFirstForDeletion)
 }
 
 TEST_F(ColumnLayoutsMenuTest, ChoosingALayoutAppliesIt) {
-    table->columnAt(table->positionOf("title")).setWidthPoints(133);
+    columns.column("title").setWidthPoints(133);
     add("Narrow");
-    table->columnAt(table->positionOf("title")).setWidthPoints(300);
+    columns.column("title").setWidthPoints(300);
     add("Wide");
     choose(menu(), "Narrow");
-    EXPECT_EQ(table->columnAt(table->positionOf("title")).widthPoints(), 133.0);
+    EXPECT_EQ(columns.column("title").widthPoints(), 133.0);
     EXPECT_EQ(columnLayouts.selectedRows(), std::vector<std::size_t>{1});
     choose(menu(), "Wide");
-    EXPECT_EQ(table->columnAt(table->positionOf("title")).widthPoints(), 300.0);
+    EXPECT_EQ(columns.column("title").widthPoints(), 300.0);
 }
 
 TEST_F(ColumnLayoutsMenuTest, ALayoutIsDeletedOnceTheUserAgrees) {
@@ -141,8 +141,9 @@ TEST_F(ColumnLayoutsMenuTest, ANewLayoutIsNamedInThePopover) {
 
 TEST_F(ColumnLayoutsMenuTest, TheTitlesOfAllColumnsAreResetFromTheMenuOfTheColumns) {
     settings.setObject("titleColumnTitle", "R&D");
-    auto* columns = qobject_cast<QMenu*>(window->findChild<QAction*>("isTitleColumn")->parent());
-    Q_EMIT columns->aboutToShow();
+    auto* columnsMenu =
+        qobject_cast<QMenu*>(window->findChild<QAction*>("isTitleColumn")->parent());
+    Q_EMIT columnsMenu->aboutToShow();
     EXPECT_EQ(window->findChild<QAction*>("isTitleColumn")->text(), "R&&D")
         << "no letter of a menu";
     window->findChild<QAction*>("resetAllColumnTitles")->trigger();

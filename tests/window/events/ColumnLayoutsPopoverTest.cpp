@@ -120,8 +120,8 @@ TEST_F(ColumnLayoutsPopoverTest, ANameThatIsBeingTypedCountsWhenThePopoverGoes) 
 }
 
 TEST_F(ColumnLayoutsPopoverTest, ApplyingBringsTheColumnsBackAsTheyWere) {
-    table->moveColumn(table->positionOf("title"), 0);
-    table->columnAt(0).setWidthPoints(133);
+    columns.moveColumn(columns.positionOf("title"), 0);
+    columns.columnAt(0).setWidthPoints(133);
     settings.setObject("isNotesColumn", true);
     settings.setObject("titleColumnTitle", "Task");
     trigger();
@@ -129,12 +129,12 @@ TEST_F(ColumnLayoutsPopoverTest, ApplyingBringsTheColumnsBackAsTheyWere) {
     endTyping(Qt::Key_Return);
     settings.setObject("isNotesColumn", false);
     settings.setObject("titleColumnTitle", "Other");
-    table->moveColumn(0, 5);
-    table->columnAt(5).setWidthPoints(60);
+    columns.moveColumn(0, 5);
+    columns.columnAt(5).setWidthPoints(60);
     list().setFocus();
     QTest::keyClick(&list(), Qt::Key_Return);
-    EXPECT_EQ(table->positionOf("title"), 0);
-    EXPECT_EQ(table->columnAt(0).widthPoints(), 133.0);
+    EXPECT_EQ(columns.positionOf("title"), 0);
+    EXPECT_EQ(columns.columnAt(0).widthPoints(), 133.0);
     EXPECT_EQ(settings.object("isNotesColumn"), QVariant(true));
     EXPECT_EQ(settings.object("titleColumnTitle"), QVariant("Task"));
     EXPECT_EQ(settings.object("isApplyColumnLayoutOn"), QVariant(false));
@@ -146,9 +146,9 @@ TEST_F(ColumnLayoutsPopoverTest, ApplyingBringsTheColumnsBackAsTheyWere) {
 }
 
 TEST_F(ColumnLayoutsPopoverTest, ANewLayoutHoldsTheTablesOwnPlacesAndWidths) {
-    table->moveColumn(table->positionOf("title"), 0);
-    table->moveColumn(table->positionOf("minutes"), 5);
-    table->columnAt(0).setWidthPoints(133.9);
+    columns.moveColumn(columns.positionOf("title"), 0);
+    columns.moveColumn(columns.positionOf("minutes"), 5);
+    columns.columnAt(0).setWidthPoints(133.9);
     settings.setObject("isNotesColumn", false);
     settings.setObject("titleColumnTitle", "Task");
     trigger();
@@ -157,8 +157,8 @@ TEST_F(ColumnLayoutsPopoverTest, ANewLayoutHoldsTheTablesOwnPlacesAndWidths) {
     const QVariantMap layout = stored(1);
     for (const EventColumn& column : eventColumns()) {
         const QString stem = QString::fromLatin1(column.stem);
-        const int position = table->positionOf(QString::fromLatin1(column.identifier));
-        const TableColumn& shown = table->columnAt(position);
+        const int position = columns.positionOf(QString::fromLatin1(column.identifier));
+        const TableColumn& shown = columns.columnAt(position);
         EXPECT_EQ(layout.value(stem + "ColumnIndex"), QVariant(position)) << column.stem;
         EXPECT_EQ(layout.value(stem + "ColumnWidth"), QVariant(int(shown.widthPoints())));
         EXPECT_EQ(layout.value(stem + "ColumnIsHidden"), QVariant(shown.isHidden()));
@@ -171,8 +171,8 @@ TEST_F(ColumnLayoutsPopoverTest, ANewLayoutHoldsTheTablesOwnPlacesAndWidths) {
 }
 
 TEST_F(ColumnLayoutsPopoverTest, AnApplyRebuildsTheReportOnce) {
-    table->moveColumn(table->positionOf("title"), 9);
-    table->columnAt(3).setWidthPoints(201);
+    columns.moveColumn(columns.positionOf("title"), 9);
+    columns.columnAt(3).setWidthPoints(201);
     settings.setObject("isUrlColumn", true);
     settings.setObject("titleColumnTitle", "Task");
     settings.setObject("isExportTXTViewOn", true);
@@ -184,7 +184,7 @@ TEST_F(ColumnLayoutsPopoverTest, AnApplyRebuildsTheReportOnce) {
                      [&] { ++rebuilds; });
     press("setColumnLayout");
     fetch();
-    EXPECT_EQ(table->positionOf("title"), 2);
+    EXPECT_EQ(columns.positionOf("title"), 2);
     EXPECT_EQ(settings.object("titleColumnTitle"), QVariant("Title"));
     EXPECT_EQ(rebuilds, 1);
 }
@@ -226,8 +226,8 @@ TEST_F(ColumnLayoutsPopoverTest, ALayoutEditedByHandIsShownAndAppliedAsFarAsItGo
         EXPECT_EQ(settings.object("isApplyColumnLayoutOn"), QVariant(false)) << row;
     }
     EXPECT_EQ(stored(0), whole);
-    EXPECT_FALSE(table->columnAt(table->positionOf("title")).isHidden());
-    EXPECT_GT(table->columnAt(table->positionOf("title")).widthPoints(), 0.0);
+    EXPECT_FALSE(columns.column("title").isHidden());
+    EXPECT_GT(columns.column("title").widthPoints(), 0.0);
 }
 
 TEST_F(ColumnLayoutsPopoverTest, WithoutASelectionThereIsNothingToApplyOrDelete) {

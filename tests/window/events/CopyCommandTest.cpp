@@ -54,7 +54,7 @@ TEST_F(CopyCommandTest, TheShortcutCopiesTheSelectedRowsInTheColumnsOfTheTable) 
 
 TEST_F(CopyCommandTest, AMovedColumnMovesItsFieldAndAHiddenFirstOneLeavesItsTab) {
     openWithSelection({0});
-    table->moveColumn(table->positionOf("title"), 0);
+    columns.moveColumn(columns.positionOf("title"), 0);
     chooseCopy();
     EXPECT_EQ(rows(), "Planning\t3/4/24\tWork\t2\t$180.00\n");
     settings.setObject("isTitleColumn", false);

@@ -18,7 +18,7 @@ protected:
         events.setContent(
             std::vector{Event{utc(2024, 3, 4, 9), utc(2024, 3, 4, 10), Instant(),
                               std::make_shared<const EventDetails>(std::move(details))}});
-        const int column = table->horizontalHeader()->logicalIndex(table->positionOf("notes"));
+        const int column = table->horizontalHeader()->logicalIndex(columns.positionOf("notes"));
         return model.index(0, column).data(role);
     }
 };

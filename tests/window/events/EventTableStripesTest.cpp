@@ -10,8 +10,8 @@ class EventTableStripesTest : public test::WindowFixture {
 protected:
     EventTableStripesTest() {
         open();
-        for (int column = 1; column < table->columnCount(); ++column) {
-            table->setColumnHidden(column, true);
+        for (int position = 1; position < columns.columnCount(); ++position) {
+            columns.columnAt(position).setHidden(true);
         }
         window->resize(1200, 800);
         QApplication::processEvents();

@@ -19,7 +19,7 @@ protected:
         header = table->horizontalHeader();
     }
     [[nodiscard]] int sectionOf(const char* column) const {
-        return header->logicalIndex(table->positionOf(column));
+        return header->logicalIndex(columns.positionOf(column));
     }
     /// Where the column's title stands.
     [[nodiscard]] QPoint middleOf(const char* column) const {
@@ -69,23 +69,56 @@ protected:
 
 } // namespace
 
+TEST_F(EventTableViewTest, TheHeaderShowsTheColumnsAsTheyStand) {
+    const auto expectMirrored = [this] {
+        for (int position = 0; position < columns.columnCount(); ++position) {
+            const TableColumn& column = columns.columnAt(position);
+            const int section = header->logicalIndex(position);
+            EXPECT_EQ(eventColumns()[static_cast<std::size_t>(section)].identifier,
+                      column.identifier());
+            EXPECT_EQ(header->isSectionHidden(section), column.isHidden());
+        }
+    };
+    expectMirrored();
+    columns.moveColumn(0, 9);
+    columns.moveColumn(12, 3);
+    columns.column("url").setHidden(false);
+    columns.column("title").setHidden(true);
+    expectMirrored();
+    header->moveSection(2, 7);
+    header->moveSection(15, 0);
+    expectMirrored();
+}
+
+TEST_F(EventTableViewTest, AnotherTableOverTheSameColumnsBeginsAsTheyStand) {
+    columns.moveColumn(columns.positionOf("cost"), 0);
+    columns.column("date").setHidden(true);
+    columns.column("cost").setWidthPoints(133);
+    const EventTableView other(model, columns, events, settings, {});
+    EXPECT_EQ(other.horizontalHeader()->logicalIndex(0), sectionOf("cost"));
+    EXPECT_TRUE(other.horizontalHeader()->isSectionHidden(sectionOf("date")));
+    EXPECT_EQ(other.horizontalHeader()->sectionSize(sectionOf("cost")),
+              header->sectionSize(sectionOf("cost")));
+    EXPECT_EQ(columns.column("cost").widthPoints(), 133);
+}
+
 TEST_F(EventTableViewTest, AColumnIsMovedByItsHeader) {
-    ASSERT_EQ(table->positionOf("title"), 2);
+    ASSERT_EQ(columns.positionOf("title"), 2);
     drag(middleOf("title"), {3, header->height() / 2});
-    EXPECT_EQ(table->positionOf("title"), 0);
-    EXPECT_EQ(table->positionOf("date"), 1);
+    EXPECT_EQ(columns.positionOf("title"), 0);
+    EXPECT_EQ(columns.positionOf("date"), 1);
     EXPECT_EQ(exportCSV.text().section(u'\n', 0, 0),
               QString("\"Title\",\"Start Date\",\"Calendar\",\"Hours\",\"Cost\""));
 }
 
 TEST_F(EventTableViewTest, AColumnIsWidenedByItsEdge) {
-    const double before = table->columnAt(table->positionOf("hours")).widthPoints();
+    const double before = columns.column("hours").widthPoints();
     const int section = sectionOf("hours");
     const int pixels = header->sectionSize(section);
     const QPoint edge(header->sectionViewportPosition(section) + pixels - 1, header->height() / 2);
     drag(edge, edge + QPoint(50, 0));
     EXPECT_EQ(header->sectionSize(section), pixels + 50);
-    EXPECT_GT(table->columnAt(table->positionOf("hours")).widthPoints(), before);
+    EXPECT_GT(columns.column("hours").widthPoints(), before);
 }
 
 TEST_F(EventTableViewTest, ClicksOnAHeaderSortUpDownAndNoMore) {

@@ -166,7 +166,7 @@ TEST_F(ExportPanesTest, TheReportFollowsColumnsWidthsSwitchesAndSelection) {
     table->horizontalHeader()->resizeSection(2, 300);
     expectCurrent();
     EXPECT_NE(reportView()->text(), first);
-    table->moveColumn(table->positionOf("title"), 0);
+    columns.moveColumn(columns.positionOf("title"), 0);
     expectCurrent();
     EXPECT_LT(reportView()->text().indexOf("Title"), reportView()->text().indexOf("Start Date"));
     settings.setObject("isTXTSummaryRow", false);

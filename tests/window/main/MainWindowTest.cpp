@@ -30,7 +30,7 @@ TEST_F(MainWindowTest, ShowsTheEventsOfThePeriodWithTheirFigures) {
     open();
     ASSERT_EQ(model.rowCount(), 3);
     const auto cell = [&](int row, const char* column) {
-        const int position = table->positionOf(column);
+        const int position = columns.positionOf(column);
         return model.index(row, table->horizontalHeader()->logicalIndex(position))
             .data()
             .toString();
@@ -42,24 +42,24 @@ TEST_F(MainWindowTest, ShowsTheEventsOfThePeriodWithTheirFigures) {
     EXPECT_EQ(cell(1, "calendar"), QStringLiteral("Home"));
     EXPECT_TRUE(table->isVisible());
     settings.setObject("isDollarsOn", false);
-    EXPECT_TRUE(table->columnAt(table->positionOf("cost")).isHidden());
+    EXPECT_TRUE(columns.column("cost").isHidden());
 }
 
 TEST_F(MainWindowTest, TheColumnsStandInTheirFirstOrderAndCanBeMoved) {
     open();
-    EXPECT_EQ(table->positionOf("date"), 0);
-    EXPECT_EQ(table->positionOf("calendar"), 1);
-    table->moveColumn(table->positionOf("title"), 0);
-    EXPECT_EQ(table->columnAt(0).identifier(), QStringLiteral("title"));
+    EXPECT_EQ(columns.positionOf("date"), 0);
+    EXPECT_EQ(columns.positionOf("calendar"), 1);
+    columns.moveColumn(columns.positionOf("title"), 0);
+    EXPECT_EQ(columns.columnAt(0).identifier(), QStringLiteral("title"));
     const QByteArray state = table->columnState();
-    table->moveColumn(0, 5);
+    columns.moveColumn(0, 5);
     EXPECT_TRUE(table->restoreColumnState(state));
-    EXPECT_EQ(table->positionOf("title"), 0);
+    EXPECT_EQ(columns.positionOf("title"), 0);
 }
 
 TEST_F(MainWindowTest, AHiddenColumnKeepsItsWidth) {
     open();
-    TableColumn& title = table->columnAt(table->positionOf("title"));
+    TableColumn& title = columns.column("title");
     title.setWidthPoints(333);
     const int pixels = table->horizontalHeader()->sectionSize(2);
     settings.setObject("isTitleColumn", false);
@@ -72,7 +72,7 @@ TEST_F(MainWindowTest, AHiddenColumnKeepsItsWidth) {
 
 TEST_F(MainWindowTest, AWidthGivenToAHiddenColumnIsItsWhenItShows) {
     open();
-    TableColumn& title = table->columnAt(table->positionOf("title"));
+    TableColumn& title = columns.column("title");
     title.setWidthPoints(222);
     const int pixels = table->horizontalHeader()->sectionSize(2);
     title.setWidthPoints(333);
@@ -85,7 +85,7 @@ TEST_F(MainWindowTest, AWidthGivenToAHiddenColumnIsItsWhenItShows) {
 
 TEST_F(MainWindowTest, HiddenColumnsKeepTheirWidthsOverAStart) {
     open();
-    TableColumn& title = table->columnAt(table->positionOf("title"));
+    TableColumn& title = columns.column("title");
     title.setWidthPoints(222);
     settings.setObject("isTitleColumn", false);
     const QByteArray state = table->columnState();
@@ -97,7 +97,7 @@ TEST_F(MainWindowTest, HiddenColumnsKeepTheirWidthsOverAStart) {
 
 TEST_F(MainWindowTest, AColumnShowsAsManyCharactersAsTheReportHas) {
     open();
-    TableColumn& date = table->columnAt(table->positionOf("date"));
+    TableColumn& date = columns.column("date");
     date.setWidthPoints(80);
     for (const int pointSize : {7, 10, 20}) {
         QFont font = table->font();
@@ -113,7 +113,7 @@ TEST_F(MainWindowTest, AColumnShowsAsManyCharactersAsTheReportHas) {
 
 TEST_F(MainWindowTest, WidthsSurviveTheNextStart) {
     open();
-    TableColumn& title = table->columnAt(table->positionOf("title"));
+    TableColumn& title = columns.column("title");
     for (const double points : {72.0, 115.0, 240.0, 333.0}) {
         title.setWidthPoints(points);
         const QByteArray state = table->columnState();
@@ -126,7 +126,7 @@ TEST_F(MainWindowTest, WidthsSurviveTheNextStart) {
 TEST_F(MainWindowTest, HeadersFollowTheirTitles) {
     open();
     settings.setObject("titleColumnTitle", "What");
-    EXPECT_EQ(table->columnAt(table->positionOf("title")).headerTitle(), QStringLiteral("What"));
+    EXPECT_EQ(columns.column("title").headerTitle(), QStringLiteral("What"));
 }
 
 TEST_F(MainWindowTest, ClicksOnAHeaderSortAndTheThirdRestoresTheOrderOfTime) {

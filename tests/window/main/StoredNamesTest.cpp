@@ -1,5 +1,6 @@
 #include "backends/settingsfile/SettingsFile.h"
-#include "support/EventTableFake.h"
+#include "eventtable/ColumnTable.h"
+#include "support/Fakes.h"
 #include "window/events/ColumnLayoutsPopoverController.h"
 #include "window/exports/TXTSettingsSheet.h"
 
@@ -46,7 +47,7 @@ public:
 
     SettingsFile settings;
     test::FakeAlerts alerts;
-    test::FakeTable table = test::eventTable();
+    ColumnTable table{settings};
     ColumnLayoutsArrayController layouts{
         {.settings = settings, .eventsTableView = table, .alerts = alerts}};
     TXTSettingsArrayController presets{settings, alerts};

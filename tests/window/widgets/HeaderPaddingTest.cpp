@@ -38,7 +38,7 @@ protected:
         return ink;
     }
     int sectionOf(const char* column) const {
-        return table->horizontalHeader()->logicalIndex(table->positionOf(column));
+        return table->horizontalHeader()->logicalIndex(columns.positionOf(column));
     }
     std::optional<Ink> inkOfHeader(const char* column) const {
         const QHeaderView& header = *table->horizontalHeader();
