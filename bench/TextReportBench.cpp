@@ -5,7 +5,9 @@
 #include "backends/icu/IcuCalendarArithmetic.h"
 #include "backends/icu/IcuLocaleFormats.h"
 #include "eventtable/EventColumns.h"
+#include "export/TextReportHeader.h"
 #include "export/TextReportTable.h"
+#include "platform/Settings.h"
 #include "support/EventSamples.h"
 #include "support/Fakes.h"
 
@@ -58,7 +60,13 @@ struct Sample {
         content.wrapping = CellWrapping::On;
         content.hasSummaryRow = true;
         content.timeType = 1;
-        content.header = {.hasTotalHours = true, .hasAverage = true, .hasMoney = true};
+        for (const ReportHeaderLine& line : reportHeaderLines()) {
+            if (&line.isWanted == &settings::isTXTTotalHours ||
+                &line.isWanted == &settings::isTXTAverage ||
+                &line.isWanted == &settings::isTXTDollars) {
+                content.headerLines.push_back(&line);
+            }
+        }
         content.formats = &formats;
         content.calendar = &calendar;
     }

@@ -47,20 +47,6 @@ std::vector<ReportColumn> ExportTxtViewController::visibleColumns() const {
     return columns;
 }
 
-ReportHeaderSwitches ExportTxtViewController::headerSwitches() const {
-    const SettingsStore& settings = with_.settings;
-    return {.hasCalendarTitles = settings::isTXTCalTitle.read(settings),
-            .hasBeginDate = settings::isTXTBeginDate.read(settings),
-            .hasEndDate = settings::isTXTEndDate.read(settings),
-            .hasTotalHours = settings::isTXTTotalHours.read(settings),
-            .hasMinimum = settings::isTXTMin.read(settings),
-            .hasMaximum = settings::isTXTMax.read(settings),
-            .hasAverage = settings::isTXTAverage.read(settings),
-            .hasTotalDays = settings::isTXTTotalDays.read(settings),
-            .hasTotalEvents = settings::isTXTTotalEvents.read(settings),
-            .hasMoney = settings::isTXTDollars.read(settings)};
-}
-
 TextReportContent ExportTxtViewController::content(ReportScope scope) const {
     const SettingsStore& settings = with_.settings;
     const auto& list = with_.eventsArrayController;
@@ -73,7 +59,11 @@ TextReportContent ExportTxtViewController::content(ReportScope scope) const {
     content.wrapping =
         settings::isTXTWrapping.read(settings) ? CellWrapping::On : CellWrapping::Off;
     content.hasSummaryRow = settings::isTXTSummaryRow.read(settings);
-    content.header = headerSwitches();
+    for (const ReportHeaderLine& line : reportHeaderLines()) {
+        if (line.isWanted.read(settings)) {
+            content.headerLines.push_back(&line);
+        }
+    }
     content.timeType = settings::timeTypeSelection.read(settings);
     content.headerText = settings::txtHeader.read(settings);
     content.footerText = settings::txtFooter.read(settings);

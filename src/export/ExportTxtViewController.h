@@ -89,7 +89,6 @@ Q_SIGNALS:
 private:
     [[nodiscard]] TextReportContent content(ReportScope scope) const;
     [[nodiscard]] std::vector<ReportColumn> visibleColumns() const;
-    [[nodiscard]] ReportHeaderSwitches headerSwitches() const;
 
     Collaborators with_;
     TextReportRefresh refresh_;

@@ -26,20 +26,7 @@ struct ReportColumn {
     qsizetype length = 2;
 };
 
-/// Which lines a report has above its table.
-struct ReportHeaderSwitches {
-    bool hasCalendarTitles = false;
-    bool hasBeginDate = false;
-    bool hasEndDate = false;
-    bool hasTotalHours = false;
-    bool hasMinimum = false;
-    bool hasMaximum = false;
-    bool hasAverage = false;
-    bool hasTotalDays = false;
-    bool hasTotalEvents = false;
-    /// Shown only with money on.
-    bool hasMoney = false;
-};
+struct ReportHeaderLine;
 
 /// Which events a report is about.
 enum class ReportScope { AllEvents, SelectedEvents };
@@ -53,7 +40,8 @@ struct TextReportContent {
     BillingSettings billing;
     CellWrapping wrapping = CellWrapping::Off;
     bool hasSummaryRow = false;
-    ReportHeaderSwitches header;
+    /// Those that are wanted, in their order; see reportHeaderLines().
+    std::vector<const ReportHeaderLine*> headerLines;
     /// The stored number: 1 hours, 2 minutes, 3 duration; any other shows no figures of time.
     qint64 timeType = 0;
     /// Free texts; an empty one is left out.

@@ -1,5 +1,6 @@
 #include "window/preferences/PreferencesTextPage.h"
 
+#include "export/TextReportHeader.h"
 #include "platform/Settings.h"
 #include "texts/Localized.h"
 #include "window/preferences/SettingsBinding.h"
@@ -17,24 +18,13 @@ namespace quillet {
 namespace {
 
 /// In the order of the report's lines, so that the boxes look like the report.
-constexpr std::array<PreferencesSwitch, 10> headerSwitches{{
-    {&settings::isTXTCalTitle, localizable("&Calendars"),
-     localizable("The titles of the ticked calendars")},
-    {&settings::isTXTBeginDate, localizable("&Beginning date"),
-     localizable("The first day of the period")},
-    {&settings::isTXTEndDate, localizable("E&nding date"),
-     localizable("The last day of the period")},
-    {&settings::isTXTTotalHours, localizable("&Total time"),
-     localizable("The sum in hours, minutes or as a duration")},
-    {&settings::isTXTMin, localizable("S&hortest event"), nullptr},
-    {&settings::isTXTMax, localizable("&Longest event"), nullptr},
-    {&settings::isTXTAverage, localizable("&Average time"), localizable("The mean of an event")},
-    {&settings::isTXTTotalDays, localizable("&Days"),
-     localizable("On how many days there are events")},
-    {&settings::isTXTTotalEvents, localizable("N&umber of events"), nullptr},
-    {&settings::isTXTDollars, localizable("&Money"),
-     localizable("Rate and cost, while money is shown")},
-}};
+std::vector<PreferencesSwitch> headerSwitches() {
+    std::vector<PreferencesSwitch> switches;
+    for (const ReportHeaderLine& line : reportHeaderLines()) {
+        switches.push_back({&line.isWanted, line.label, line.explanation});
+    }
+    return switches;
+}
 
 constexpr std::array<PreferencesSwitch, 2> tableSwitches{{
     {&settings::isTXTWrapping, localizable("&Wrap long texts"),
@@ -54,7 +44,7 @@ PreferencesTextPage::PreferencesTextPage(SettingsStore& settings,
     layout->addWidget(makeFreeText(localized("Te&xt above the report:"),
                                    localized("Stands before everything else in the report"),
                                    settings::txtHeader));
-    layout->addWidget(makeGroup(localized("Above the Table"), headerSwitches, 2));
+    layout->addWidget(makeGroup(localized("Above the Table"), headerSwitches(), 2));
     layout->addWidget(makeGroup(localized("Table"), tableSwitches, 2));
     layout->addWidget(makeFreeText(localized("Text below the repo&rt:"),
                                    localized("Stands behind everything else in the report"),
