@@ -72,7 +72,8 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
     , reportFormats_(locales_, timeZone_)
     , reportCalendar_(locales_.time, timeZone_, CalendarSystem::Gregorian)
     , reportQueue_(makeBackgroundQueue(QStringLiteral("org.quillet.Quillet.textReport")))
-    , activation_(clock_, [this] { core_.eventKitManager.becomeActive(); }) {}
+    , activation_(clock_, [this] { core_.eventKitManager.becomeActive(); })
+    , datesZone_(paths.stateFolder + QStringLiteral("/dates-zone")) {}
 
 CoreSeams Program::seams() {
     return {.settings = settings_,
@@ -123,6 +124,7 @@ Program::~Program() {
 }
 
 void Program::start() {
+    followTimeZone();
     core_.wake();
     window_ = std::make_unique<MainWindow>(
         core_, MainWindow::Parts{
@@ -139,6 +141,24 @@ void Program::start() {
     window_->show();
     serveDesktop();
     QTimer::singleShot(0, window_.get(), [this] { core_.becomeActiveFirst(); });
+}
+
+void Program::followTimeZone() {
+    // Those of the last run, which may have been elsewhere.
+    if (const QTimeZone former = datesZone_.kept();
+        former.isValid() && former.id() != timeZone_->zone().id()) {
+        core_.dateInspector.moveDatesFrom(*ZoneRules::fromTimeZone(former));
+        settings_.flush();
+    }
+    datesZone_.keep(timeZone_->zone());
+    // Behind the stores, which by then read their events anew.
+    zoneObservation_ = timeZone_->observe([this](const ZoneRules& former) {
+        core_.eventOrder.followZoneChange();
+        core_.dateInspector.followZoneChange(former);
+        settings_.flush();
+        datesZone_.keep(timeZone_->zone());
+    });
+    zoneWatch_ = std::make_unique<SystemZoneWatch>(timeZone_);
 }
 
 void Program::connectNotices() {

@@ -10,8 +10,10 @@
 #include "backends/icu/IcuLocaleFormats.h"
 #include "backends/programs/DesktopPrograms.h"
 #include "backends/programs/DesktopScripting.h"
+#include "backends/settingsfile/DatesZone.h"
 #include "backends/settingsfile/SettingsFile.h"
 #include "backends/updates/ReleaseListUpdater.h"
+#include "platform/SystemZoneWatch.h"
 #include "window/calendars/CalendarOffer.h"
 #include "window/events/EventTableModel.h"
 #include "window/events/EventTableView.h"
@@ -52,6 +54,7 @@ private:
     [[nodiscard]] EventTableView* makeTable();
     void askForAccessAgain();
     void connectNotices();
+    void followTimeZone();
     void serveDesktop();
     void perform(const QString& desktopAction);
 
@@ -94,6 +97,9 @@ private:
     ActivationWatcher activation_;
     Observation storeObservation_;
     Observation settingsProblemObservation_;
+    DatesZone datesZone_;
+    Observation zoneObservation_;
+    std::unique_ptr<SystemZoneWatch> zoneWatch_;
 };
 
 } // namespace quillet
