@@ -1542,6 +1542,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Die ausgewählten Kalender haben an diesen Tagen keine Termine.</translation>
     </message>
     <message>
+        <source>the time zone is not certain; it was read as “%1”, which the calendar names elsewhere</source>
+        <translation>die Zeitzone ist nicht sicher; sie wurde als „%1“ gelesen, das der Kalender an anderer Stelle nennt</translation>
+    </message>
+    <message>
         <source>The titles of the ticked calendars</source>
         <translation>Die Titel der ausgewählten Kalender</translation>
     </message>

@@ -1542,6 +1542,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Los calendarios marcados no tienen eventos en estos días.</translation>
     </message>
     <message>
+        <source>the time zone is not certain; it was read as “%1”, which the calendar names elsewhere</source>
+        <translation>la zona horaria no es segura; se leyó como «%1», que el calendario nombra en otro lugar</translation>
+    </message>
+    <message>
         <source>The titles of the ticked calendars</source>
         <translation>Los títulos de los calendarios marcados</translation>
     </message>

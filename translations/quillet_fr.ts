@@ -1542,6 +1542,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Les calendriers cochés n’ont aucun événement ces jours-là.</translation>
     </message>
     <message>
+        <source>the time zone is not certain; it was read as “%1”, which the calendar names elsewhere</source>
+        <translation>le fuseau horaire n’est pas certain ; il a été lu comme « %1 », que le calendrier nomme ailleurs</translation>
+    </message>
+    <message>
         <source>The titles of the ticked calendars</source>
         <translation>Les titres des calendriers cochés</translation>
     </message>

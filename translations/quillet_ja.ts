@@ -1542,6 +1542,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>チェックされたカレンダーには、この期間の予定がありません。</translation>
     </message>
     <message>
+        <source>the time zone is not certain; it was read as “%1”, which the calendar names elsewhere</source>
+        <translation>タイムゾーンが確かではありません。カレンダーの別の箇所にある「%1」として読みました</translation>
+    </message>
+    <message>
         <source>The titles of the ticked calendars</source>
         <translation>チェックされたカレンダーのタイトル</translation>
     </message>

@@ -38,6 +38,9 @@ QString reasonFor(const EventComplaint& complaint) {
         return localized("the repetition “%1” cannot be followed; only the first event is shown");
     case Kind::ExceptionRule:
         return localized("the exceptions “%1” cannot be followed; what they leave out is shown");
+    case Kind::UncertainZone:
+        return localized("the time zone is not certain; it was read as “%1”, which the calendar "
+                         "names elsewhere");
     case Kind::TooManyRepetitions:
         return localized("the repetitions are too many to count; only the first event is shown");
     }

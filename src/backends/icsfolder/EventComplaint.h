@@ -24,6 +24,7 @@ struct EventComplaint {
         Rule,
         ExceptionRule,
         TooManyRepetitions,
+        UncertainZone,
     };
 
     Kind kind;

@@ -5,6 +5,7 @@
 #include "backends/icsfolder/WrittenLength.h"
 #include "backends/icsfolder/WrittenRule.h"
 #include "backends/icsfolder/WrittenTime.h"
+#include "backends/icsfolder/ZoneNames.h"
 
 #include <algorithm>
 
@@ -17,6 +18,17 @@ using Complaint = EventComplaint::Kind;
 namespace {
 
 constexpr std::size_t mostUnknownZonesNamed = 10;
+
+QList<QTimeZone> zonesNamed(const QList<QByteArray>& names) {
+    constexpr qsizetype most = 10;
+    QList<QTimeZone> zones;
+    for (const QByteArray& name : names.first(std::min(names.size(), most))) {
+        if (const QTimeZone zone = zoneNamed(name); zone.isValid()) {
+            zones.append(zone);
+        }
+    }
+    return zones;
+}
 
 QString freeTextFrom(const icalproperty* property) {
     const QString text = textFrom(property);
@@ -261,12 +273,37 @@ ZoneCatalog::Rules EventReader::zoneNamed(std::string_view name) {
         return found->second;
     }
     auto zone = context_.lookups->find(name, context_.zones);
+    if (!zone) {
+        zone = guessedZone(name);
+    }
     event_.hasUnknownZone = event_.hasUnknownZone || !zone;
     if (!zone && context_.unknownZones.size() < mostUnknownZonesNamed &&
         std::ranges::find(context_.unknownZones, name) == context_.unknownZones.end()) {
         context_.unknownZones.emplace_back(name);
     }
     return zone;
+}
+
+ZoneCatalog::Rules EventReader::guessedZone(std::string_view name) {
+    auto known = context_.guessedZones.find(name);
+    if (known == context_.guessedZones.end()) {
+        if (context_.guessedZones.size() >= mostUnknownZonesNamed) {
+            return nullptr;
+        }
+        const QTimeZone zone =
+            quillet::zoneNamed(QByteArray(name.data(), static_cast<qsizetype>(name.size())),
+                               zonesNamed(context_.zoneHints));
+        GuessedZone guess;
+        if (zone.isValid()) {
+            guess = {zone.id(), context_.zones.named(zone.id().toStdString())};
+        }
+        known = context_.guessedZones.emplace(std::string(name), std::move(guess)).first;
+    }
+    const GuessedZone& guess = known->second;
+    if (guess.rules) {
+        complain(Complaint::UncertainZone, std::string(name) + " = " + guess.name.toStdString());
+    }
+    return guess.rules;
 }
 
 void EventReader::takeExtra(icalproperty* property) {

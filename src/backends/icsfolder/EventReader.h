@@ -27,6 +27,7 @@ private:
     [[nodiscard]] std::optional<RawTime> timeFrom(icalproperty* property);
     [[nodiscard]] std::optional<RawTime> rawTime(const icaltimetype& time, icalproperty* property);
     [[nodiscard]] ZoneCatalog::Rules zoneNamed(std::string_view name);
+    [[nodiscard]] ZoneCatalog::Rules guessedZone(std::string_view name);
     void agreeOnZone();
     void becomeAllDay();
     void finishRules(const ZoneRules& zone);

@@ -25,10 +25,12 @@ std::vector<ReadingContext> contextsOf(const IcsBlocks& blocks, ZoneCatalog& zon
     std::vector<ReadingContext> contexts;
     for (const auto& calendar : blocks.calendars) {
         ReadingContext context{zones, {}, {}, {}};
+        context.zoneHints.push_back(calendar.zoneName.toUtf8());
         for (const std::size_t offset : calendar.zones) {
             const auto definition = zones.defined(blocks.text.data() + offset);
             if (definition.rules) {
                 context.definedZones[definition.name] = definition.rules;
+                context.zoneHints.push_back(QByteArray::fromStdString(definition.name));
             }
         }
         contexts.push_back(std::move(context));

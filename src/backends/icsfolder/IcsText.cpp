@@ -174,6 +174,9 @@ private:
         takeOnce(blocks.name, "NAME");
         takeOnce(blocks.color, "X-APPLE-CALENDAR-COLOR");
         takeOnce(blocks.color, "COLOR");
+        if (!blocks.calendars.empty()) {
+            takeOnce(blocks.calendars.back().zoneName, "X-WR-TIMEZONE");
+        }
     }
 
     Place place_ = Place::Outside;

@@ -77,6 +77,8 @@ struct IcsBlocks {
     struct CalendarBlock {
         /// Offsets into `text` of the time zones of this calendar.
         std::vector<std::size_t> zones;
+        /// The name of the zone that the whole calendar is said to be in; null without one.
+        QString zoneName;
     };
 
     std::string text;

@@ -6,6 +6,8 @@
 #include "backends/icsfolder/Series.h"
 #include "backends/icsfolder/ZoneCatalog.h"
 
+#include <QByteArray>
+#include <QList>
 #include <QString>
 
 #include <map>
@@ -88,6 +90,13 @@ private:
     std::size_t unknown_ = 0;
 };
 
+/// A zone that a name stands for by what else is in the calendar.
+struct GuessedZone {
+    QByteArray name;
+    /// Null where nothing can be guessed.
+    ZoneCatalog::Rules rules;
+};
+
 /// What reading events needs to know of their file.
 struct ReadingContext {
     ZoneCatalog& zones;
@@ -97,6 +106,10 @@ struct ReadingContext {
     std::vector<std::string> unknownZones;
     /// Belongs to one thread.
     std::shared_ptr<ZoneLookups> lookups;
+    /// The names of zones that the calendar has beside its events, for itself and in definitions.
+    QList<QByteArray> zoneHints = {};
+    /// What names that say too little stand for by those hints, found so far.
+    std::map<std::string, GuessedZone, std::less<>> guessedZones = {};
 };
 
 /// One event of a file. Nothing when the parser makes nothing of it. An event without a usable

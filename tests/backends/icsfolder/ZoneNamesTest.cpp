@@ -155,4 +155,31 @@ TEST_F(ZoneNamesInFilesTest, displayNamesStandForTheirZones) {
     }
 }
 
+TEST_F(ZoneNamesInFilesTest, anUncertainNameIsReadByWhatTheFileSaysElsewhereAndTold) {
+    zone = QTimeZone("Asia/Tokyo");
+    write(QStringLiteral("a.ics"),
+          "BEGIN:VCALENDAR\r\nX-WR-TIMEZONE:Europe/Berlin\r\nBEGIN:VEVENT\r\nUID:one\r\n"
+          "SUMMARY:Visit\r\nDTSTART;TZID=CEST:20240701T120000\r\n"
+          "DTEND;TZID=CEST:20240701T130000\r\nEND:VEVENT\r\nEND:VCALENDAR\r\n");
+    EXPECT_EQ(starts(), std::vector<Instant>({utc(2024, 7, 1, 10)}));
+    ASSERT_EQ(store->problems().size(), 1U);
+    const StoreProblem problem = store->problems().front();
+    EXPECT_EQ(problem.subject, QStringLiteral("a.ics"));
+    for (const char* part : {"Visit", "2024-07-01", "CEST", "Europe/Berlin"}) {
+        EXPECT_TRUE(problem.reason.contains(QString::fromLatin1(part)))
+            << part << " in " << problem.reason.toStdString();
+    }
+}
+
+TEST_F(ZoneNamesInFilesTest, anUncertainNameThatTheFileContradictsIsUnknown) {
+    zone = QTimeZone("Asia/Tokyo");
+    write(QStringLiteral("a.ics"),
+          "BEGIN:VCALENDAR\r\nX-WR-TIMEZONE:America/New_York\r\nBEGIN:VEVENT\r\nUID:one\r\n"
+          "DTSTART;TZID=CEST:20240701T120000\r\nEND:VEVENT\r\nEND:VCALENDAR\r\n");
+    EXPECT_EQ(starts(), std::vector<Instant>({utc(2024, 7, 1, 3)}));
+    ASSERT_EQ(store->problems().size(), 1U);
+    EXPECT_EQ(store->problems().front().reason,
+              QStringLiteral("unknown time zone “CEST”, taken as local time"));
+}
+
 } // namespace quillet
