@@ -26,6 +26,16 @@ bool matchesText(const Predicate::Comparison& comparison, QStringView text) {
     return false;
 }
 
+bool matchesText(const Predicate::OneOf& oneOf, QStringView text) {
+    return !text.isNull() &&
+           std::binary_search(oneOf.values.begin(), oneOf.values.end(), text,
+                              [](QStringView left, QStringView right) { return left < right; });
+}
+
+bool matchesValue(const Predicate::OneOf& oneOf, const QVariant& value) {
+    return value.typeId() == QMetaType::QString && matchesText(oneOf, value.toString());
+}
+
 bool matchesValue(const Predicate::Comparison& comparison, const QVariant& value) {
     if (value.typeId() == QMetaType::QString ||
         comparison.operation != Predicate::Operation::Equal) {
@@ -43,6 +53,9 @@ bool matchesNode(const Predicate::Node& node, const MatchesOne& matchesOne) {
     };
     if (const auto* comparison = std::get_if<Predicate::Comparison>(&node.content)) {
         return matchesOne(*comparison);
+    }
+    if (const auto* oneOf = std::get_if<Predicate::OneOf>(&node.content)) {
+        return matchesOne(*oneOf);
     }
     if (const auto* all = std::get_if<Predicate::All>(&node.content)) {
         return std::ranges::all_of(all->nodes, matches);
@@ -67,13 +80,13 @@ std::optional<Predicate> Predicate::parse(const QString& text) {
 }
 
 bool Predicate::matches(const FieldReader& field) const {
-    return matchesNode(*root_, [&](const Comparison& comparison) {
+    return matchesNode(*root_, [&](const auto& comparison) {
         return matchesValue(comparison, field(keys_[static_cast<qsizetype>(comparison.key)]));
     });
 }
 
 bool Predicate::matchesTexts(const TextReader& text) const {
-    return matchesNode(*root_, [&](const Comparison& comparison) {
+    return matchesNode(*root_, [&](const auto& comparison) {
         return matchesText(comparison, text(comparison.key));
     });
 }

@@ -32,6 +32,7 @@ public:
     /// The parsed form; see PredicateParser.h.
     struct Node;
     struct Comparison;
+    struct OneOf;
     struct All;
     struct Any;
     enum class Operation;

@@ -1,5 +1,7 @@
 #include "platform/PredicateParser.h"
 
+#include <algorithm>
+#include <map>
 #include <utility>
 
 namespace quillet {
@@ -11,6 +13,33 @@ constexpr int deepestNesting = 200;
 
 bool isWordCharacter(QChar character) {
     return character.isLetterOrNumber() || character == u'_' || character == u'.';
+}
+
+/// Whether it asks for equality with a text.
+const Predicate::Comparison* textEquality(const Predicate::Node& node) {
+    const auto* comparison = std::get_if<Predicate::Comparison>(&node.content);
+    return comparison != nullptr && comparison->operation == Predicate::Operation::Equal &&
+                   comparison->value.typeId() == QMetaType::QString
+               ? comparison
+               : nullptr;
+}
+
+/// Makes one term of all that compare a key with texts.
+void gatherTexts(Predicate::Any& any) {
+    std::map<std::size_t, Predicate::OneOf> byKey;
+    std::erase_if(any.nodes, [&](const Predicate::Node& node) {
+        const auto* comparison = textEquality(node);
+        if (comparison != nullptr) {
+            auto& gathered = byKey.try_emplace(comparison->key).first->second;
+            gathered.key = comparison->key;
+            gathered.values.push_back(comparison->value.toString());
+        }
+        return comparison != nullptr;
+    });
+    for (auto& [key, gathered] : byKey) {
+        std::ranges::sort(gathered.values);
+        any.nodes.push_back({std::move(gathered)});
+    }
 }
 
 } // namespace
@@ -35,7 +64,11 @@ PredicateParser::Node PredicateParser::condition(int depth) {
         }
         any.nodes.push_back(*std::move(next));
     }
-    return any.nodes.size() == 1 ? std::move(any.nodes.front()) : Predicate::Node{std::move(any)};
+    if (any.nodes.size() == 1) {
+        return std::move(any.nodes.front());
+    }
+    gatherTexts(any);
+    return Predicate::Node{std::move(any)};
 }
 
 PredicateParser::Node PredicateParser::conjunction(int depth) {

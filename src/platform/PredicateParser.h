@@ -32,8 +32,16 @@ struct Predicate::Any {
     std::vector<Node> nodes;
 };
 
+/// Whether a text equals one of many, in one step: a condition may name thousands of calendars.
+struct Predicate::OneOf {
+    /// The position among the keys that were met.
+    std::size_t key;
+    /// Sorted.
+    std::vector<QString> values;
+};
+
 struct Predicate::Node {
-    std::variant<Comparison, All, Any> content;
+    std::variant<Comparison, OneOf, All, Any> content;
 };
 
 /// A recursive-descent parser for the grammar in Predicate.h. For platform/ alone.

@@ -1,5 +1,7 @@
 #include "platform/Predicate.h"
 
+#include "support/CpuTimer.h"
+
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
 
@@ -94,6 +96,30 @@ TEST(PredicateTest, MalformedTextsDoNotParse) {
 TEST(PredicateTest, RefusesNestingThatWouldExhaustTheStack) {
     const QString deep = QString(100'000, u'(') + R"(a = "1")" + QString(100'000, u')');
     EXPECT_FALSE(Predicate::parse(deep));
+}
+
+TEST(PredicateTest, LooksThroughThousandsOfTextsInOneStep) {
+    QString condition = QStringLiteral("(a == YES) OR (b == \"x\")");
+    for (int number = 0; number < 20'000; ++number) {
+        condition += QStringLiteral(" OR (id == \"calendar %1\")").arg(number);
+    }
+    const auto predicate = Predicate::parse(condition);
+    ASSERT_TRUE(predicate);
+    const test::CpuTimer timer(test::CpuTimer::Of::Process);
+    for (int number = -20'000; number < 20'000; ++number) {
+        const QString id = QStringLiteral("calendar %1").arg(number);
+        const bool isMatch = predicate->matches(
+            [&](const QString& key) { return key == u"id" ? QVariant(id) : QVariant(); });
+        ASSERT_EQ(isMatch, number >= 0);
+    }
+    EXPECT_LT(timer.milliseconds(), 1000);
+    const auto record = [](const QVariantMap& fields) {
+        return [fields](const QString& key) { return fields.value(key); };
+    };
+    EXPECT_TRUE(predicate->matches(record({{"a", true}})));
+    EXPECT_TRUE(predicate->matches(record({{"b", "x"}})));
+    EXPECT_FALSE(predicate->matches(record({{"id", 7}})));
+    EXPECT_FALSE(predicate->matches(record({})));
 }
 
 TEST(PredicateTest, EqualTextsMakeEqualPredicates) {
