@@ -24,6 +24,10 @@
         <translation>%1 min</translation>
     </message>
     <message>
+        <source>%1 more events are in other files too, in newer versions, which count</source>
+        <translation>%1 weitere Termine stehen auch in anderen Dateien, in neueren Fassungen, die zählen</translation>
+    </message>
+    <message>
         <source>%1 more lines cannot be read</source>
         <translation>%1 weitere Zeilen sind nicht lesbar</translation>
     </message>
@@ -1610,6 +1614,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>&amp;Titel</translation>
     </message>
     <message>
+        <source>too large for the memory that is left</source>
+        <translation>zu groß für den freien Speicher</translation>
+    </message>
+    <message>
         <source>Toolbar</source>
         <translation>Werkzeugleiste</translation>
     </message>
@@ -1808,6 +1816,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     <message>
         <source>“%1” holds the calendars themselves.</source>
         <translation>„%1“ enthält die Kalender selbst.</translation>
+    </message>
+    <message>
+        <source>“%1” is also in “%2”, in a newer version, which counts</source>
+        <translation>„%1“ steht auch in „%2“, in einer neueren Fassung, die zählt</translation>
     </message>
     <message>
         <source>“%1” is among the calendars already.</source>

@@ -24,6 +24,10 @@
         <translation>%1 min</translation>
     </message>
     <message>
+        <source>%1 more events are in other files too, in newer versions, which count</source>
+        <translation>%1 eventos más están también en otros archivos, en versiones más recientes, que son las que cuentan</translation>
+    </message>
+    <message>
         <source>%1 more lines cannot be read</source>
         <translation>no se pueden leer %1 líneas más</translation>
     </message>
@@ -1610,6 +1614,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>&amp;Títulos</translation>
     </message>
     <message>
+        <source>too large for the memory that is left</source>
+        <translation>demasiado grande para la memoria libre</translation>
+    </message>
+    <message>
         <source>Toolbar</source>
         <translation>Barra de herramientas</translation>
     </message>
@@ -1808,6 +1816,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>“%1” holds the calendars themselves.</source>
         <translation>«%1» contiene los propios calendarios.</translation>
+    </message>
+    <message>
+        <source>“%1” is also in “%2”, in a newer version, which counts</source>
+        <translation>«%1» está también en «%2», en una versión más reciente, que es la que cuenta</translation>
     </message>
     <message>
         <source>“%1” is among the calendars already.</source>

@@ -24,6 +24,10 @@
         <translation>%1 min</translation>
     </message>
     <message>
+        <source>%1 more events are in other files too, in newer versions, which count</source>
+        <translation>%1 autres événements figurent aussi dans d’autres fichiers, dans des versions plus récentes, qui comptent</translation>
+    </message>
+    <message>
         <source>%1 more lines cannot be read</source>
         <translation>%1 autres lignes sont illisibles</translation>
     </message>
@@ -1610,6 +1614,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>&amp;Titres</translation>
     </message>
     <message>
+        <source>too large for the memory that is left</source>
+        <translation>trop volumineux pour la mémoire restante</translation>
+    </message>
+    <message>
         <source>Toolbar</source>
         <translation>Barre d’outils</translation>
     </message>
@@ -1808,6 +1816,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>“%1” holds the calendars themselves.</source>
         <translation>« %1 » contient les calendriers eux-mêmes.</translation>
+    </message>
+    <message>
+        <source>“%1” is also in “%2”, in a newer version, which counts</source>
+        <translation>« %1 » figure aussi dans « %2 », dans une version plus récente, qui compte</translation>
     </message>
     <message>
         <source>“%1” is among the calendars already.</source>

@@ -24,6 +24,10 @@
         <translation>%1分</translation>
     </message>
     <message>
+        <source>%1 more events are in other files too, in newer versions, which count</source>
+        <translation>ほか %1 件の予定も別のファイルに新しい版があり、そちらを数えます</translation>
+    </message>
+    <message>
         <source>%1 more lines cannot be read</source>
         <translation>ほか %1 行を読み取れません</translation>
     </message>
@@ -1610,6 +1614,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>タイトル(&amp;T)</translation>
     </message>
     <message>
+        <source>too large for the memory that is left</source>
+        <translation>残りのメモリーに収まりません</translation>
+    </message>
+    <message>
         <source>Toolbar</source>
         <translation>ツールバー</translation>
     </message>
@@ -1808,6 +1816,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>“%1” holds the calendars themselves.</source>
         <translation>「%1」はカレンダー自体の保存場所です。</translation>
+    </message>
+    <message>
+        <source>“%1” is also in “%2”, in a newer version, which counts</source>
+        <translation>「%1」は「%2」にも新しい版があり、そちらを数えます</translation>
     </message>
     <message>
         <source>“%1” is among the calendars already.</source>

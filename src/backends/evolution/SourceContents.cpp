@@ -205,6 +205,8 @@ SourceContents::Known SourceContents::knownFrom(std::vector<RawEvent> events,
     if (!events.empty()) {
         assembleEvents(std::move(events), calendar_, budget, *file);
     }
+    // Nothing else of a calendar bears the same UID.
+    file->families = {};
     known.file = std::move(file);
     return known;
 }

@@ -37,6 +37,27 @@ std::vector<EventFamily> familiesOf(const std::vector<RawEvent>& raw) {
     return families;
 }
 
+/// Puts down what the file holds, for files that hold the same.
+void markFamily(const EventFamily& family, IcsFile& file) {
+    FamilyMark mark;
+    for (const auto* members : {&family.exceptions, &family.unplaced, &family.masters}) {
+        for (const RawEvent* event : *members) {
+            if (event->uid.isEmpty()) {
+                return;
+            }
+            const bool isMaster = members == &family.masters;
+            const bool isFirst = mark.uid.isEmpty() || isMaster != mark.hasMaster;
+            mark.version = isFirst ? event->version : std::max(mark.version, event->version);
+            mark.uid = event->uid;
+            mark.digest += event->digest;
+            mark.hasMaster = isMaster;
+        }
+    }
+    if (!mark.uid.isEmpty()) {
+        file.families.push_back(std::move(mark));
+    }
+}
+
 } // namespace
 
 void assembleEvents(std::vector<RawEvent> raw, const std::shared_ptr<const StoreCalendar>& calendar,
@@ -46,12 +67,15 @@ void assembleEvents(std::vector<RawEvent> raw, const std::shared_ptr<const Store
     if (raw.size() == 1) {
         EventFamily family;
         family.add(raw.front());
+        markFamily(family, file);
         assembler.add(family);
         return;
     }
     std::vector<EventFamily> families = familiesOf(raw);
     file.events.reserve(families.size());
+    file.families.reserve(families.size());
     for (EventFamily& family : families) {
+        markFamily(family, file);
         assembler.add(family);
     }
 }

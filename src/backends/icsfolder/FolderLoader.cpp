@@ -4,6 +4,13 @@
 
 namespace quillet {
 
+namespace {
+
+/// How long the main thread waits for a slow folder before it shows what is remembered of it.
+constexpr std::chrono::milliseconds longestWait{300};
+
+} // namespace
+
 FolderLoader::FolderLoader(std::string rootPath, const QTimeZone& zone, CalendarMemory memory,
                            std::function<void()> changed)
     : rootPath_(std::move(rootPath))
@@ -11,14 +18,18 @@ FolderLoader::FolderLoader(std::string rootPath, const QTimeZone& zone, Calendar
     , memory_(std::move(memory))
     , changed_(std::move(changed))
     , picture_(std::make_shared<const Picture>()) {
-    // Watching begins before looking, so that no change falls in between.
-    (void)watch_.watchOnly({rootPath_});
-    findCalendarsAgain({});
-    if (rootProblem_) {
-        listRemembered();
-    }
-    publish(false);
+    const CalendarList remembered = memory_.calendars();
     thread_ = std::jthread([this](const std::stop_token& stop) { run(stop); });
+    std::unique_lock lock(mutex_);
+    if (remembered.empty()) {
+        // Without any calendar the program would forget what it knows of each.
+        listed_.wait(lock, [this] { return isListed_; });
+    } else if (!listed_.wait_for(lock, longestWait, [this] { return isListed_; })) {
+        isListingLate_ = true;
+        auto known = std::make_shared<Picture>();
+        known->calendars = remembered;
+        picture_ = std::move(known);
+    }
 }
 
 FolderLoader::~FolderLoader() {

@@ -17,6 +17,7 @@
 #include <stop_token>
 #include <string>
 #include <thread>
+#include <unordered_map>
 #include <vector>
 
 namespace quillet {
@@ -25,8 +26,9 @@ namespace quillet {
 /// answers come from an immutable picture of all calendars, which is replaced as a whole.
 class FolderLoader {
 public:
-    /// Finds the calendars before it returns; their events follow. Until the root folder can be
-    /// reached its calendars are those that the memory holds. `changed` is called on the loader's
+    /// Waits a moment for the calendars to be found, or longer when the memory holds none; their
+    /// events follow. Until they are found, and while the root folder cannot be reached, the
+    /// calendars are those that the memory holds. `changed` is called on the loader's
     /// thread after each change, and once when the first load has ended.
     FolderLoader(std::string rootPath, const QTimeZone& zone, CalendarMemory memory,
                  std::function<void()> changed);
@@ -56,6 +58,7 @@ private:
     };
 
     void run(const std::stop_token& stop);
+    void findCalendarsFirst();
     void takeIn(const std::vector<FolderWatch::Change>& changes, const std::stop_token& stop);
     /// Whether a change means more than other events in a folder; says which entries of the root
     /// are then to be looked at.
@@ -64,6 +67,8 @@ private:
     void addChangedFile(const FolderWatch::Change& change, std::vector<FileCheck>& checks) const;
     /// Finds the calendars anew. Those that are new or touched then need listing.
     void findCalendarsAgain(const std::set<std::string>& touched);
+    /// Where each calendar stands among those that are loaded, by its entry in the root folder.
+    [[nodiscard]] std::unordered_map<std::string, std::size_t> calendarsByName() const;
     /// Watches the folders of all calendars. Whether one of them was not watched before.
     bool watchFolders();
     /// Adds the files of all calendars that need listing.
@@ -89,6 +94,10 @@ private:
     mutable std::condition_variable loadEnded_;
     std::shared_ptr<const Picture> picture_;
     bool isStopped_ = false;
+    std::condition_variable listed_;
+    bool isListed_ = false;
+    /// Whether the constructor returned before the calendars were found.
+    bool isListingLate_ = false;
     mutable std::atomic<bool> hasTooMany_ = false;
     std::jthread thread_;
 };

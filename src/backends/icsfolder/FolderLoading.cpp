@@ -51,7 +51,28 @@ void dropRepetitions(std::vector<FileCheck>& checks) {
 
 } // namespace
 
+void FolderLoader::findCalendarsFirst() {
+    // Watching begins before looking, so that no change falls in between.
+    (void)watch_.watchOnly({rootPath_});
+    findCalendarsAgain({});
+    if (rootProblem_) {
+        listRemembered();
+    }
+    publish(false);
+    bool isLate = false;
+    {
+        const std::scoped_lock lock(mutex_);
+        isListed_ = true;
+        isLate = isListingLate_;
+    }
+    listed_.notify_all();
+    if (isLate) {
+        changed_();
+    }
+}
+
 void FolderLoader::run(const std::stop_token& stop) {
+    findCalendarsFirst();
     (void)watchFolders();
     std::vector<FileCheck> checks;
     addListedFiles(checks);
@@ -146,10 +167,14 @@ void FolderLoader::addChangedFile(const FolderWatch::Change& change,
         return;
     }
     for (const Watched& one : watched->second) {
-        const auto calendar =
-            std::ranges::find(loaded_, one.calendarName,
-                              [](const LoadedCalendar& loaded) { return loaded.source().name; });
-        if (one.fileName.empty() && calendar != loaded_.end()) {
+        if (!one.fileName.empty()) {
+            continue;
+        }
+        const auto calendar = std::ranges::find(
+            loaded_, one.calendarName, [](const LoadedCalendar& loaded) -> const std::string& {
+                return loaded.source().name;
+            });
+        if (calendar != loaded_.end()) {
             checks.push_back({.calendarIndex = static_cast<std::size_t>(calendar - loaded_.begin()),
                               .name = change.name,
                               .mode = FileCheck::Mode::Always,
@@ -157,6 +182,14 @@ void FolderLoader::addChangedFile(const FolderWatch::Change& change,
                               .content = {}});
         }
     }
+}
+
+std::unordered_map<std::string, std::size_t> FolderLoader::calendarsByName() const {
+    std::unordered_map<std::string, std::size_t> places;
+    for (std::size_t index = 0; index < loaded_.size(); ++index) {
+        places.emplace(loaded_[index].source().name, index);
+    }
+    return places;
 }
 
 void FolderLoader::findCalendarsAgain(const std::set<std::string>& touched) {
@@ -168,9 +201,12 @@ void FolderLoader::findCalendarsAgain(const std::set<std::string>& touched) {
     }
     rootProblem_.reset();
     std::vector<LoadedCalendar> found;
+    const auto knownByName = calendarsByName();
     for (CalendarSource& source : *sources) {
-        const auto known = std::ranges::find(
-            loaded_, source.name, [](const LoadedCalendar& one) { return one.source().name; });
+        const auto place = knownByName.find(source.name);
+        const auto known = place == knownByName.end()
+                               ? loaded_.end()
+                               : loaded_.begin() + static_cast<std::ptrdiff_t>(place->second);
         if (known != loaded_.end() && source.kind == CalendarSource::Kind::Unreachable) {
             source.calendar = known->source().calendar;
         }
@@ -206,7 +242,7 @@ bool FolderLoader::readFiles(std::vector<FileCheck>& checks, const std::stop_tok
     const auto work = [&] {
         for (std::size_t index = next++; index < checks.size() && !stop.stop_requested();
              index = next++) {
-            loaded_[checks[index].calendarIndex].check(checks[index], zones_);
+            loaded_[checks[index].calendarIndex].check(checks[index], zones_, stop);
         }
     };
     std::future<void> helper;
@@ -217,13 +253,16 @@ bool FolderLoader::readFiles(std::vector<FileCheck>& checks, const std::stop_tok
     if (helper.valid()) {
         helper.get();
     }
+    if (stop.stop_requested()) {
+        return false;
+    }
     bool isChanged = false;
     std::vector<std::vector<const FileCheck*>> byCalendar(loaded_.size());
     for (const FileCheck& check : checks) {
         byCalendar[check.calendarIndex].push_back(&check);
     }
     for (std::size_t index = 0; index < loaded_.size(); ++index) {
-        isChanged = loaded_[index].apply(byCalendar[index]) || isChanged;
+        isChanged = loaded_[index].apply(byCalendar[index], zones_) || isChanged;
     }
     return isChanged;
 }
@@ -272,7 +311,7 @@ void FolderLoader::publish(bool isLoaded) {
         calendar.appendProblems(next->problems);
     }
     if (isLoaded && !rootProblem_) {
-        // Before that it is the main thread that publishes, which writes no files.
+        // Before that the main thread may be waiting.
         memory_.keep(next->calendars);
     }
     {

@@ -40,7 +40,7 @@ std::vector<ReadingContext> contextsOf(const IcsBlocks& blocks, ZoneCatalog& zon
 
 /// The events from one index up to another, which is not included.
 ReadEvents readBlocks(const IcsBlocks& blocks, std::size_t first, std::size_t last,
-                      std::vector<ReadingContext> contexts) {
+                      std::vector<ReadingContext> contexts, const std::stop_token& stop) {
     ReadEvents read;
     read.events.reserve(last - first);
     // Each thread has its own.
@@ -48,7 +48,7 @@ ReadEvents readBlocks(const IcsBlocks& blocks, std::size_t first, std::size_t la
     for (ReadingContext& context : contexts) {
         context.lookups = lookups;
     }
-    for (std::size_t index = first; index < last; ++index) {
+    for (std::size_t index = first; index < last && !stop.stop_requested(); ++index) {
         auto event = readEvent(blocks, index, contexts[blocks.events[index].calendar]);
         if (!event) {
             ++read.unreadable;
@@ -67,16 +67,16 @@ ReadEvents readBlocks(const IcsBlocks& blocks, std::size_t first, std::size_t la
     return read;
 }
 
-ReadEvents readAll(const IcsBlocks& blocks, ZoneCatalog& zones) {
+ReadEvents readAll(const IcsBlocks& blocks, ZoneCatalog& zones, const std::stop_token& stop) {
     const std::size_t count = blocks.events.size();
     const auto contexts = contextsOf(blocks, zones);
     if (count < eventsWorthASecondThread) {
-        return readBlocks(blocks, 0, count, contexts);
+        return readBlocks(blocks, 0, count, contexts, stop);
     }
     const std::size_t half = count / 2;
-    auto second =
-        std::async(std::launch::async, [&] { return readBlocks(blocks, half, count, contexts); });
-    ReadEvents read = readBlocks(blocks, 0, half, contexts);
+    auto second = std::async(std::launch::async,
+                             [&] { return readBlocks(blocks, half, count, contexts, stop); });
+    ReadEvents read = readBlocks(blocks, 0, half, contexts, stop);
     ReadEvents rest = second.get();
     std::ranges::move(rest.events, std::back_inserter(read.events));
     std::ranges::move(rest.unknownZones, std::back_inserter(read.unknownZones));
@@ -146,21 +146,30 @@ void IcsFile::closeProblems() {
 }
 
 IcsFile readIcs(std::string bytes, const std::shared_ptr<const StoreCalendar>& calendar,
-                ZoneCatalog& zones) {
+                ZoneCatalog& zones, const std::stop_token& stop) {
     IcsFile file;
     if (bytes.empty()) {
         file.problems.append(localized("an empty file"));
         return file;
     }
-    IcsBlocks blocks = takeApart(asUtf8(std::move(bytes)));
-    ReadEvents read = readAll(blocks, zones);
+    IcsBlocks blocks = takeApart(asUtf8(std::move(bytes)), stop);
+    ReadEvents read = readAll(blocks, zones, stop);
     noteProblems(blocks, read, file.problems);
     file.unnamedProblems = blocks.unnamedComplaints;
     blocks = {};
+    if (stop.stop_requested()) {
+        return file;
+    }
     WorkBudget budget(fileBudget);
     assembleEvents(std::move(read.events), calendar, budget, file);
     file.closeProblems();
     return file;
+}
+
+std::vector<RawEvent> readRawEvents(std::string bytes, ZoneCatalog& zones) {
+    ReadEvents read = readAll(takeApart(asUtf8(std::move(bytes))), zones, {});
+    std::erase_if(read.events, [](const RawEvent& event) { return !event.start; });
+    return std::move(read.events);
 }
 
 } // namespace quillet

@@ -209,12 +209,12 @@ std::span<const EventComplaint> IcsBlocks::complaintsOf(std::size_t event) const
     return ownLines(complaints, *this, event, &EventBlock::firstComplaint);
 }
 
-IcsBlocks takeApart(std::string_view utf8) {
+IcsBlocks takeApart(std::string_view utf8, const std::stop_token& stop) {
     Dissector dissector;
     dissector.blocks.text.reserve(utf8.size());
     LineReader reader(utf8);
     std::string_view line;
-    while (reader.next(line)) {
+    while (!stop.stop_requested() && reader.next(line)) {
         dissector.take(line, reader.lineNumber());
     }
     dissector.finish();

@@ -9,6 +9,7 @@
 #include <expected>
 #include <limits>
 #include <span>
+#include <stop_token>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -103,6 +104,7 @@ struct IcsBlocks {
     [[nodiscard]] std::span<const EventComplaint> complaintsOf(std::size_t event) const;
 };
 
-[[nodiscard]] IcsBlocks takeApart(std::string_view utf8);
+/// Ends early when a stop is requested.
+[[nodiscard]] IcsBlocks takeApart(std::string_view utf8, const std::stop_token& stop = {});
 
 } // namespace quillet

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <cstring>
 #include <dirent.h>
+#include <new>
 #include <sys/stat.h>
 
 namespace quillet {
@@ -42,8 +43,36 @@ std::shared_ptr<const IcsFile> unreadable(const QString& reason) {
     return file;
 }
 
-bool holdsSomething(const IcsFile& file) {
-    return !file.events.empty() || !file.series.empty() || !file.problems.isEmpty();
+bool holdsEvents(const std::shared_ptr<const IcsFile>& file) {
+    return !file->events.empty() || !file->series.empty();
+}
+
+std::vector<const IcsFile*> pointersTo(const std::vector<std::shared_ptr<const IcsFile>>& files) {
+    std::vector<const IcsFile*> pointers;
+    for (const auto& file : files) {
+        pointers.push_back(file.get());
+    }
+    return pointers;
+}
+
+/// A file that fails costs its own events, whatever it fails of.
+std::shared_ptr<const IcsFile> read(const std::string& path, const CalendarSource& source,
+                                    ZoneCatalog& zones, const std::stop_token& stop) {
+    try {
+        auto bytes = readWholeFile(path);
+        if (!bytes) {
+            return unreadable(bytes.error());
+        }
+        auto file =
+            std::make_shared<IcsFile>(readIcs(*std::move(bytes), source.calendar, zones, stop));
+        if (source.kind == CalendarSource::Kind::File) {
+            // No other file can hold the same.
+            file->families = {};
+        }
+        return file;
+    } catch (const std::bad_alloc&) {
+        return unreadable(localized("too large for the memory that is left"));
+    }
 }
 
 } // namespace
@@ -77,7 +106,8 @@ std::vector<std::string> LoadedCalendar::filesToCheck() {
     return names;
 }
 
-void LoadedCalendar::check(FileCheck& check, ZoneCatalog& zones) const {
+void LoadedCalendar::check(FileCheck& check, ZoneCatalog& zones,
+                           const std::stop_token& stop) const {
     const std::string path = pathOf(check.name);
     const auto known = files_.find(check.name);
     const auto stamp = stampOf(path);
@@ -96,37 +126,59 @@ void LoadedCalendar::check(FileCheck& check, ZoneCatalog& zones) const {
     }
     check.outcome = FileCheck::Outcome::Read;
     check.stamp = *stamp;
-    auto bytes = readWholeFile(path);
-    check.content =
-        bytes ? std::make_shared<const IcsFile>(readIcs(*std::move(bytes), source_.calendar, zones))
-              : unreadable(bytes.error());
+    check.content = read(path, source_, zones, stop);
 }
 
-bool LoadedCalendar::apply(const std::vector<const FileCheck*>& checks) {
-    std::vector<std::shared_ptr<const IcsFile>> replaced;
-    std::vector<const IcsFile*> oldFiles;
-    std::vector<const IcsFile*> newFiles;
+bool LoadedCalendar::apply(const std::vector<const FileCheck*>& checks, ZoneCatalog& zones) {
+    // Kept until the end: what is gone is told by where it lies.
+    std::vector<std::shared_ptr<const IcsFile>> gone;
+    std::vector<std::shared_ptr<const IcsFile>> fresh;
+    bool isAnyProblem = false;
+    std::set<std::string> changed;
     for (const FileCheck* check : checks) {
         if (check->outcome == FileCheck::Outcome::Unchanged) {
             continue;
         }
+        changed.insert(check->name);
         if (const auto known = files_.find(check->name); known != files_.end()) {
-            replaced.push_back(std::move(known->second.content));
-            oldFiles.push_back(replaced.back().get());
+            isAnyProblem = isAnyProblem || !known->second.content->problems.isEmpty();
+            shared_.remove(check->name, *known->second.content);
+            gone.push_back(std::move(known->second.shown));
             files_.erase(known);
         }
         if (check->outcome == FileCheck::Outcome::Read) {
-            newFiles.push_back(check->content.get());
-            files_.emplace(check->name, KnownFile{check->stamp, check->content});
+            isAnyProblem = isAnyProblem || !check->content->problems.isEmpty();
+            shared_.add(check->name, *check->content);
+            files_.emplace(check->name, KnownFile{check->stamp, check->content, nullptr});
         }
     }
-    const auto holds = [](const IcsFile* file) { return holdsSomething(*file); };
-    if (std::ranges::none_of(oldFiles, holds) && std::ranges::none_of(newFiles, holds)) {
+    SharedEvents::Changes shared = shared_.settle(
+        source_.calendar, [&](const std::string& name) { return readRaw(name, zones); });
+    shared.files.merge(changed);
+    for (const std::string& name : shared.files) {
+        if (const auto known = files_.find(name); known != files_.end()) {
+            auto shown = shared_.shownOf(name, known->second.content);
+            if (shown != known->second.shown) {
+                fresh.push_back(shown);
+                gone.push_back(std::exchange(known->second.shown, std::move(shown)));
+            }
+        }
+    }
+    std::ranges::move(shared.gone, std::back_inserter(gone));
+    std::ranges::move(shared.fresh, std::back_inserter(fresh));
+    std::erase(gone, nullptr);
+    if (!isAnyProblem && std::ranges::none_of(gone, holdsEvents) &&
+        std::ranges::none_of(fresh, holdsEvents)) {
         return false;
     }
-    contents_ =
-        std::make_shared<const CalendarContents>(contents_->withReplaced(oldFiles, newFiles));
+    contents_ = std::make_shared<const CalendarContents>(
+        contents_->withReplaced(pointersTo(gone), pointersTo(fresh)));
     return true;
+}
+
+std::vector<RawEvent> LoadedCalendar::readRaw(const std::string& name, ZoneCatalog& zones) const {
+    auto bytes = readWholeFile(pathOf(name));
+    return bytes ? readRawEvents(*std::move(bytes), zones) : std::vector<RawEvent>();
 }
 
 void LoadedCalendar::appendProblems(std::vector<StoreProblem>& problems) const {
@@ -137,10 +189,29 @@ void LoadedCalendar::appendProblems(std::vector<StoreProblem>& problems) const {
     }
     for (const auto& [name, file] : files_) {
         for (const QString& problem : file.content->problems) {
-            const std::string& shown = name.empty() ? source_.name : source_.name + "/" + name;
-            problems.push_back({QFile::decodeName(QByteArray::fromStdString(shown)), problem});
+            problems.push_back({shownPathOf(name), problem});
         }
     }
+    appendCopies(problems);
+}
+
+void LoadedCalendar::appendCopies(std::vector<StoreProblem>& problems) const {
+    const auto copies = shared_.problems();
+    const std::size_t named = std::min(copies.size(), mostComplaintsInFile);
+    for (std::size_t index = 0; index < named; ++index) {
+        problems.push_back({shownPathOf(copies[index].first), copies[index].second});
+    }
+    if (copies.size() > named) {
+        problems.push_back(
+            {source_.calendar->title,
+             localized("%1 more events are in other files too, in newer versions, which count")
+                 .arg(copies.size() - named)});
+    }
+}
+
+QString LoadedCalendar::shownPathOf(const std::string& name) const {
+    const std::string& path = name.empty() ? source_.name : source_.name + "/" + name;
+    return QFile::decodeName(QByteArray::fromStdString(path));
 }
 
 std::string LoadedCalendar::pathOf(const std::string& name) const {

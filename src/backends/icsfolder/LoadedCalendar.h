@@ -2,12 +2,14 @@
 
 #include "backends/icsfolder/CalendarContents.h"
 #include "backends/icsfolder/CalendarSources.h"
+#include "backends/icsfolder/SharedEvents.h"
 #include "platform/EventStore.h"
 
 #include <compare>
 #include <map>
 #include <memory>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -57,9 +59,9 @@ public:
     /// becomes a problem and keeps the events that it had.
     [[nodiscard]] std::vector<std::string> filesToCheck();
     /// Reads a file again where needed.
-    void check(FileCheck& check, ZoneCatalog& zones) const;
+    void check(FileCheck& check, ZoneCatalog& zones, const std::stop_token& stop) const;
     /// Takes over what the checks found. Whether that changed anything.
-    [[nodiscard]] bool apply(const std::vector<const FileCheck*>& checks);
+    [[nodiscard]] bool apply(const std::vector<const FileCheck*>& checks, ZoneCatalog& zones);
 
     void appendProblems(std::vector<StoreProblem>& problems) const;
 
@@ -67,14 +69,21 @@ private:
     struct KnownFile {
         FileStamp stamp;
         std::shared_ptr<const IcsFile> content;
+        /// Of the content, what no other file shows. Null before apply() has looked.
+        std::shared_ptr<const IcsFile> shown;
     };
 
+    [[nodiscard]] std::vector<RawEvent> readRaw(const std::string& name, ZoneCatalog& zones) const;
+    void appendCopies(std::vector<StoreProblem>& problems) const;
+
     [[nodiscard]] std::string pathOf(const std::string& name) const;
+    [[nodiscard]] QString shownPathOf(const std::string& name) const;
 
     CalendarSource source_;
     bool needsListing_ = true;
     std::optional<QString> listingProblem_;
     std::map<std::string, KnownFile> files_;
+    SharedEvents shared_;
     std::shared_ptr<const CalendarContents> contents_;
 };
 

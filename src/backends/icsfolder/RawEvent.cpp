@@ -26,6 +26,18 @@ EventLength allDayLength(const RawEvent& event) {
     return {std::clamp(wholeDays, days(1), longestEvent), seconds(0)};
 }
 
+std::size_t digestOf(const IcsBlocks& blocks, std::size_t event) {
+    const auto& block = blocks.events[event];
+    std::size_t digest = std::hash<std::string_view>()(blocks.text.data() + block.offset);
+    const auto mix = [&](std::size_t more) { digest = digest * 31 + more; };
+    for (const RuleLine& rule : blocks.rulesOf(event)) {
+        mix(std::hash<std::string>()(rule.text));
+    }
+    mix(static_cast<std::size_t>(block.lastModified));
+    mix(static_cast<std::size_t>(block.stamp));
+    return digest;
+}
+
 } // namespace
 
 EventLength RawEvent::length() const {
@@ -61,7 +73,9 @@ std::optional<RawEvent> readEvent(const IcsBlocks& blocks, std::size_t event,
     }
     EventReader reader(context);
     reader.takeBeside(blocks, event);
-    return reader.read(*component);
+    RawEvent raw = reader.read(*component);
+    raw.digest = digestOf(blocks, event);
+    return raw;
 }
 
 RawEvent readEvent(icalcomponent_impl& component, ReadingContext& context) {

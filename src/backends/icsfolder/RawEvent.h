@@ -57,6 +57,8 @@ struct RawEvent {
     QString notes;
     QString url;
     EventVersion version;
+    /// Equal for equal texts of a file.
+    std::size_t digest = 0;
     bool isCancelled = false;
     bool isThisAndFuture = false;
     /// Whether it is an exception that does not say of what.
