@@ -67,17 +67,19 @@ void BillingSettingsSource::repairSettings() {
 
 BillingSettings BillingSettingsSource::taken() const {
     BillingSettings result;
-    if (const auto start = settings::filterStartDate.read(settings_)) {
+    result.stored = settings::BillingValues(settings_);
+    const settings::BillingValues& stored = result.stored;
+    if (const auto& start = stored.get<settings::filterStartDate>()) {
         result.periodStart = calendar_.startOfDay(*start);
     }
-    if (const auto end = settings::filterEndDate.read(settings_)) {
+    if (const auto& end = stored.get<settings::filterEndDate>()) {
         result.periodEnd = calendar_.startOfDay(*end) + lengthOfADay;
     }
-    result.allDayHours = std::max<std::int64_t>(settings::allDayHours.read(settings_), fewestHours);
-    result.isMoneyOn = settings::isDollarsOn.read(settings_);
-    result.isMoneyFromHours = settings::timeTypeSelection.read(settings_) == 1;
-    result.isSingleRate = settings::isSingleRate.read(settings_);
-    const Decimal single = settings::hourlyRate.read(settings_);
+    result.allDayHours = std::max<std::int64_t>(stored.get<settings::allDayHours>(), fewestHours);
+    result.isMoneyOn = stored.get<settings::isDollarsOn>();
+    result.isMoneyFromHours = stored.get<settings::timeTypeSelection>() == 1;
+    result.isSingleRate = stored.get<settings::isSingleRate>();
+    const Decimal& single = stored.get<settings::hourlyRate>();
     result.singleRate = single.isNaN() ? Decimal() : billableRate(single);
     for (const CalendarRecord& record : storedCalendarRecords(settings_)) {
         // A later record of the same calendar wins.

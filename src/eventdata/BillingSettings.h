@@ -4,7 +4,7 @@
 #include "platform/Decimal.h"
 #include "platform/Instant.h"
 #include "platform/Observation.h"
-#include "platform/SettingsStore.h"
+#include "platform/Settings.h"
 
 #include <QHash>
 #include <QObject>
@@ -17,6 +17,8 @@ namespace quillet {
 
 /// Everything but the event itself that an event's figures depend on.
 struct BillingSettings {
+    /// The settings as they are stored, for figures that need nothing made of them first.
+    settings::BillingValues stored;
     /// The first instant that counts.
     Instant periodStart = Instant::min();
     /// The first instant that no longer counts: 86,400 seconds after the last day began, on days

@@ -2,8 +2,10 @@
 
 #include "platform/SettingsStore.h"
 
+#include <algorithm>
 #include <array>
 #include <concepts>
+#include <tuple>
 #include <variant>
 
 namespace quillet {
@@ -112,9 +114,11 @@ public:
     [[nodiscard]] auto read(const SettingsStore& store) const {
         return Traits::fromValue(store.object(name()));
     }
+    /// What a first run stores; where that is nothing, what nothing reads as.
+    [[nodiscard]] auto firstRun() const { return Traits::fromValue(firstRunValue()); }
     /// The stored value, and where there is none the first-run value.
     [[nodiscard]] auto readOrFirstRun(const SettingsStore& store) const {
-        return isStored(store) ? read(store) : Traits::fromValue(firstRunValue());
+        return isStored(store) ? read(store) : firstRun();
     }
     void write(SettingsStore& store, const Value& value) const {
         store.setObject(name(), QVariant::fromValue(value));
@@ -123,7 +127,7 @@ public:
     void flip(SettingsStore& store) const
         requires std::same_as<Value, bool>
     {
-        write(store, !read(store));
+        flipBool(store, name());
     }
 };
 
@@ -133,5 +137,36 @@ template <typename... Settings>
 settingGroup(const Settings&... settings) {
     return {&settings...};
 }
+
+/// The values of a group of settings at one moment, which every thread may read.
+template <const auto&... members>
+class SettingValues {
+public:
+    /// The first-run values.
+    SettingValues()
+        : values_(members.firstRun()...) {}
+    explicit SettingValues(const SettingsStore& store)
+        : values_(members.read(store)...) {}
+
+    [[nodiscard]] static constexpr auto group() { return settingGroup(members...); }
+
+    template <const auto& setting>
+    [[nodiscard]] const auto& get() const {
+        return std::get<position(setting)>(values_);
+    }
+    template <const auto& setting, typename Value>
+    void set(Value value) {
+        std::get<position(setting)>(values_) = std::move(value);
+    }
+
+private:
+    /// Behind all values for a setting of another group, which does not compile then.
+    [[nodiscard]] static consteval std::size_t position(const SettingKey& setting) {
+        const auto settings = group();
+        return static_cast<std::size_t>(std::ranges::find(settings, &setting) - settings.begin());
+    }
+
+    std::tuple<decltype(members.firstRun())...> values_;
+};
 
 } // namespace quillet

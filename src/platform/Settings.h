@@ -258,9 +258,9 @@ inline constexpr Setting<bool> isTodoTXTNotes{"isTodoTXTNotes", true};
 /// @{
 
 /// Whatever the figures of an event depend on besides the event.
-inline constexpr auto ofBilling =
-    settingGroup(filterStartDate, filterEndDate, allDayHours, isSingleRate, hourlyRate, calendars,
-                 isDollarsOn, timeTypeSelection);
+using BillingValues = SettingValues<filterStartDate, filterEndDate, allDayHours, isSingleRate,
+                                    hourlyRate, calendars, isDollarsOn, timeTypeSelection>;
+inline constexpr auto ofBilling = BillingValues::group();
 /// What notes headings name, and whether the notes are shown.
 inline constexpr auto ofEventNotes = settingGroup(
     isEventNotesCalendar, isEventNotesDate, isEventNotesLocation, isEventNotesTitle, isNotesViewOn);

@@ -171,6 +171,23 @@ TEST(SettingsTest, AnAbsentSettingReadsAsNothingOrAsItsFirstRunValueWhereThatIsA
     EXPECT_EQ(settings::quickDatePeriod.readOrFirstRun(store), 1);
 }
 
+TEST(SettingsTest, AGroupOfValuesBeginsWithThoseOfAFirstRunAndTakesWhatIsStored) {
+    settings::BillingValues values;
+    EXPECT_TRUE(values.get<settings::isSingleRate>());
+    EXPECT_FALSE(values.get<settings::isDollarsOn>());
+    EXPECT_FALSE(values.get<settings::filterStartDate>().has_value());
+    test::MemorySettings store;
+    settings::isDollarsOn.write(store, true);
+    settings::hourlyRate.write(store, Decimal::fromInteger(80));
+    values = settings::BillingValues(store);
+    EXPECT_TRUE(values.get<settings::isDollarsOn>());
+    EXPECT_EQ(values.get<settings::hourlyRate>(), Decimal::fromInteger(80));
+    EXPECT_FALSE(values.get<settings::isSingleRate>()) << "absent reads as false";
+    values.set<settings::isSingleRate>(true);
+    EXPECT_TRUE(values.get<settings::isSingleRate>());
+    EXPECT_TRUE(values.get<settings::isDollarsOn>());
+}
+
 TEST(SettingsTest, FlippingWritesTheNegationAndTellsTheObserver) {
     test::MemorySettings store;
     QList<bool> seen;
