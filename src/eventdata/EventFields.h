@@ -33,6 +33,8 @@ public:
     [[nodiscard]] QVariant valueForKey(const Event& event, const QString& key) const;
 
     [[nodiscard]] const BillingSettings& billing() const { return billing_.current(); }
+    /// Announces when billing() has changed.
+    [[nodiscard]] const BillingSettingsSource& billingSource() const { return billing_; }
     [[nodiscard]] const LocaleFormats& formats() const { return formats_; }
     [[nodiscard]] const CalendarArithmetic& gregorian() const { return gregorian_; }
 

@@ -19,7 +19,7 @@ QString layoutTitleKey(const ColumnPlacement& placement) {
 
 ColumnLayoutsArrayController::ColumnLayoutsArrayController(const Collaborators& collaborators)
     : NamedRecordsController(collaborators.settings, collaborators.alerts,
-                             {.listKey = settings::columnLayouts.name(),
+                             {.list = settings::columnLayouts,
                               .nameMember = QStringLiteral("columnLayoutName"),
                               .firstStaysMessage = localizable("Cannot delete Default layout"),
                               .firstStaysReason = localizable("Default layout cannot be deleted.")})

@@ -45,7 +45,7 @@ TXTSettingsArrayController::TXTSettingsArrayController(SettingsStore& settings,
                                                        AlertPresenter& alerts)
     : NamedRecordsController(
           settings, alerts,
-          {.listKey = settings::txtSettings.name(),
+          {.list = settings::txtSettings,
            .nameMember = QStringLiteral("txtSettingsName"),
            .firstStaysMessage = localizable("Cannot delete Default settings"),
            .firstStaysReason = localizable("Default settings cannot be deleted.")}) {}

@@ -5,25 +5,26 @@
 #include "export/TXTSettings.h"
 #include "platform/Settings.h"
 
-#include <QStringList>
+#include <vector>
 
 namespace quillet {
 
 namespace {
 
-QStringList observedKeys() {
+std::vector<const SettingKey*> observedSettings() {
     using namespace settings;
-    QStringList keys{isApplyTXTSettingsOn.name(), isApplyColumnLayoutOn.name(),
-                     hiddenColumnsChangedTrigger.name()};
+    std::vector<const SettingKey*> observed{&isApplyTXTSettingsOn, &isApplyColumnLayoutOn,
+                                            &hiddenColumnsChangedTrigger};
     for (const EventColumn& column : eventColumns()) {
-        keys << column.title.name();
+        observed.push_back(&column.title);
     }
-    keys << isDollarsOn.name() << isSingleRate.name();
+    observed.insert(observed.end(), {&isDollarsOn, &isSingleRate});
     for (const TXTSwitch& each : txtSwitches()) {
-        keys << each.report->name();
+        observed.push_back(each.report);
     }
-    return keys << txtHeader.name() << txtFooter.name() << totalsTabViewSelection.name()
-                << isExportTXTViewOn.name();
+    observed.insert(observed.end(),
+                    {&txtHeader, &txtFooter, &totalsTabViewSelection, &isExportTXTViewOn});
+    return observed;
 }
 
 } // namespace
@@ -36,8 +37,9 @@ TextReportRefresh::TextReportRefresh(SettingsStore& settings,
 void TextReportRefresh::awakeFromNib() {
     settings::totalsTabViewSelection.writeIfAbsent(settings_);
     settings::isApplyTXTSettingsOn.reset(settings_);
-    for (const QString& key : observedKeys()) {
-        observations_.push_back(settings_.observe(key, [this] { updateEventsAttributedString(); }));
+    for (const SettingKey* setting : observedSettings()) {
+        observations_.push_back(
+            setting->observe(settings_, [this] { updateEventsAttributedString(); }));
     }
     connect(&events_, &ListControllerNotices::arrangedObjectsChanged, this,
             &TextReportRefresh::updateEventsAttributedString);

@@ -45,9 +45,9 @@ NamedRecordsController::NamedRecordsController(SettingsStore& settings, AlertPre
     , kind_(std::move(kind)) {}
 
 void NamedRecordsController::followStoredList() {
-    setIfAbsent(settings_, kind_.listKey, QVariantList());
+    kind_.list.writeIfAbsent(settings_);
     read();
-    storedList_ = settings_.observe(kind_.listKey, [this] { read(); });
+    storedList_ = kind_.list.observe(settings_, [this] { read(); });
 }
 
 void NamedRecordsController::selectFirstUnlessSelected() {
@@ -113,13 +113,13 @@ void NamedRecordsController::store(const std::vector<NamedRecord>& records) {
     for (const NamedRecord& record : records) {
         elements.append(record.members);
     }
-    settings_.setObject(kind_.listKey, elements + otherElements_);
+    kind_.list.write(settings_, elements + otherElements_);
 }
 
 void NamedRecordsController::read() {
     Records records;
     otherElements_.clear();
-    for (const QVariant& element : arrayForKey(settings_, kind_.listKey)) {
+    for (const QVariant& element : kind_.list.read(settings_)) {
         if (element.typeId() == QMetaType::QVariantMap) {
             const QVariantMap members = element.toMap();
             records.push_back(

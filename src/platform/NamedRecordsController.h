@@ -3,7 +3,7 @@
 #include "platform/Alert.h"
 #include "platform/ListController.h"
 #include "platform/Observation.h"
-#include "platform/SettingsStore.h"
+#include "platform/Setting.h"
 
 #include <QVariantMap>
 
@@ -26,8 +26,8 @@ struct NamedRecord {
 /// An empty text where there is none: a record that the program makes lacks nothing.
 [[nodiscard]] QString presentText(const QString& text);
 
-/// The array of one settings key as a list of records: they are made, renamed, and deleted, but for
-/// the first. Every change is written to the key, and every write of the key is shown. The list is
+/// The array of one setting as a list of records: they are made, renamed, and deleted, but for the
+/// first. Every change is written to the setting, and every write of it is shown. The list is
 /// neither sorted nor filtered. Elements of the array that are no records are not shown; they are
 /// kept behind the records.
 class NamedRecordsController : public ListController<NamedRecord> {
@@ -43,7 +43,7 @@ Q_SIGNALS:
 
 protected:
     struct Kind {
-        QString listKey;
+        const Setting<QVariantList>& list;
         QString nameMember;
         /// The alert that refuses to delete the first record, in English.
         const char* firstStaysMessage;

@@ -114,12 +114,6 @@ std::optional<Instant> dateFromValue(const QVariant& value) {
     return std::nullopt;
 }
 
-void setIfAbsent(SettingsStore& settings, const QString& key, const QVariant& value) {
-    if (!hasKey(settings, key)) {
-        settings.setObject(key, value);
-    }
-}
-
 void flipBool(SettingsStore& settings, const QString& key) {
     settings.setObject(key, !boolForKey(settings, key));
 }

@@ -76,8 +76,6 @@ public:
     return settings.object(key).toList();
 }
 
-/// Stores the value only where the key is absent.
-void setIfAbsent(SettingsStore& settings, const QString& key, const QVariant& value);
 /// Writes the negation of the bool under the key (absent reads as false).
 void flipBool(SettingsStore& settings, const QString& key);
 

@@ -9,13 +9,14 @@ namespace quillet {
 
 namespace {
 
-const QString listKey = QStringLiteral("views");
+constexpr Setting<QVariantList> list{"views"};
+const QString listKey = list.name();
 
 class Views final : public NamedRecordsController {
 public:
     Views(SettingsStore& settings, AlertPresenter& alerts)
         : NamedRecordsController(settings, alerts,
-                                 {.listKey = listKey,
+                                 {.list = list,
                                   .nameMember = QStringLiteral("viewName"),
                                   .firstStaysMessage = "It stays",
                                   .firstStaysReason = "It is the first."}) {}

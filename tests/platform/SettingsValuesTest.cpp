@@ -52,14 +52,6 @@ TEST(SettingsValuesTest, NumbersReadAsEachOther) {
     EXPECT_EQ(stringFromValue(true), QStringLiteral("1"));
 }
 
-TEST(SettingsValuesTest, ADefaultIsStoredOnlyWhereTheKeyIsAbsent) {
-    test::MemorySettings settings;
-    setIfAbsent(settings, "allDayHours", 24);
-    setIfAbsent(settings, "allDayHours", 8);
-    EXPECT_EQ(integerForKey(settings, "allDayHours"), 24);
-    EXPECT_EQ(settings.writes, QStringList{"allDayHours"});
-}
-
 TEST(SettingsValuesTest, FlippingWritesTheNegationAndTreatsAbsentAsFalse) {
     test::MemorySettings settings;
     flipBool(settings, "datesChangedTrigger");

@@ -1,7 +1,6 @@
 #include "window/events/EventTableModel.h"
 
 #include "eventtable/EventColumns.h"
-#include "platform/Settings.h"
 #include "window/preferences/SettingsBinding.h"
 #include "window/widgets/ColorDot.h"
 
@@ -36,9 +35,8 @@ EventTableModel::EventTableModel(ListController<Event>& events, const EventField
             Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
         });
     }
-    for (const SettingKey* setting : settings::ofBilling) {
-        observeWhileAlive(*this, settings_, *setting, [this] { figuresChanged(); });
-    }
+    connect(&fields_.billingSource(), &BillingSettingsSource::changed, this,
+            &EventTableModel::figuresChanged);
     connect(&events_, &ListControllerNotices::arrangedObjectsWillChange, this,
             [this] { beginResetModel(); });
     connect(&events_, &ListControllerNotices::arrangedObjectsChanged, this,
