@@ -112,9 +112,11 @@ TEST(SettingsTest, UsersAreToldEverySettingWithItsTypeAndFirstValueAndNoOther) {
     const Tellings table = declared();
     const Tellings told = documented();
     ASSERT_GT(table.size(), 100);
-    EXPECT_EQ(told.keys(), table.keys());
     for (auto each = table.begin(); each != table.end(); ++each) {
         EXPECT_EQ(told.value(each.key()), each.value()) << each.key().toStdString();
+    }
+    for (const QString& key : told.keys()) {
+        EXPECT_TRUE(table.contains(key)) << key.toStdString() << " is told, but no setting";
     }
 }
 
