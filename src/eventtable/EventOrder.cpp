@@ -102,7 +102,7 @@ EventOrder::EventOrder(const EventFields& fields, const CalendarArithmetic& cale
 EventOrder::~EventOrder() = default;
 
 void EventOrder::followZoneChange() {
-    keys_->days.forget();
+    known_->days.forget();
 }
 
 ListController<Event>::Sorter EventOrder::sorter(const QString& columnIdentifier,

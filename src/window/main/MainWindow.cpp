@@ -12,6 +12,7 @@
 #include "window/preferences/SettingsBinding.h"
 #include "window/widgets/ElidedLabel.h"
 #include "window/widgets/EmptyState.h"
+#include "window/widgets/FittingToolBar.h"
 #include "window/widgets/FocusOrder.h"
 #include "window/widgets/LocalFile.h"
 #include "window/widgets/PaneScroller.h"
@@ -54,7 +55,13 @@ MainWindow::MainWindow(Core& core, Parts parts, QWidget* parent)
                    {core_.settings, core_.formats,
                     [this] { core_.eventItemView.resetAllColumnTitles(); },
                     [this] { txtSettingsSheet_.controller().openTXTSettingsSheet(); }},
-                   *this) {
+                   *this)
+    , calendarAdding_(parts_.calendarActions.addCalendar, *this)
+    , periodActions_(core_.dateInspector, *this)
+    , exports_(core_,
+               {parts_.eventTable, parts_.reportBuilding,
+                [this] { core_.preferences.showWindowWithTextPreferencesView(); }},
+               *this) {
     setWindowTitle(QStringLiteral("Quillet"));
     setAcceptDrops(true);
     parts_.eventTable.follow(core_.eventItemTableView);
@@ -62,15 +69,11 @@ MainWindow::MainWindow(Core& core, Parts parts, QWidget* parent)
     parts_.eventTable.follow(core_.eventItemView);
     followTimeMenuItem(timeColumnActions_, core_.eventItemView);
     resultsPane_->follow(core_.eventResults);
-    makeStepActions();
-    makeExportActions();
     makePanes();
     makeToolBar();
     makeMenus();
     followState();
-    panes_->follow(core_.views);
-    followExportPanes();
-    followExportActions();
+    exports_.showIn(*panes_);
 }
 
 MainWindow::~MainWindow() = default;
@@ -84,7 +87,7 @@ void MainWindow::makePanes() {
     auto* inspector = new InspectorPane(core_.dateInspector, core_.settings, core_.gregorian, this);
     auto* rate =
         new RatePane(core_.calendars, core_.eventItemView, core_.settings, core_.formats, this);
-    WindowPanes::Contents contents = exportPanes();
+    WindowPanes::Contents contents = exports_.makePanes();
     contents.insert({{PaneContent::CalendarListView, calendarPane_},
                      {PaneContent::EventItemView, makeEventItemView()},
                      {PaneContent::DateInspectorView, new PaneScroller(*inspector, this)},
@@ -156,6 +159,53 @@ QWidget* MainWindow::makeCentre() {
     layout->addWidget(line());
     layout->addWidget(resultsPane_);
     return centre;
+}
+
+void MainWindow::makeToolBar() {
+    auto* bar = new FittingToolBar(localized("Toolbar"), this);
+    addToolBar(bar);
+    bar->setObjectName(QStringLiteral("toolbar"));
+    bar->setMovable(false);
+    ExportActions& exports = exports_.actions();
+    bar->addActions({&exports.text, &exports.notes});
+    bar->addSeparator();
+    bar->addActions({&exports.csv, &exports.tsv, &exports.mail});
+    bar->addSeparator();
+    bar->addActions(
+        {&periodActions_.previous(), &periodActions_.current(), &periodActions_.next()});
+    makeSearch(*bar);
+    for (QToolButton* button :
+         bar->findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+        button->setFocusPolicy(Qt::TabFocus);
+    }
+}
+
+void MainWindow::makeSearch(QToolBar& bar) {
+    auto* space = new QWidget(this);
+    space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    bar.addWidget(space);
+    searchBox_ = new SearchBox(this);
+    bar.addWidget(searchBox_);
+    searchBox_->follow(core_.search);
+    connect(searchBox_, &SearchBox::left, this, [this] { parts_.eventTable.setFocus(); });
+}
+
+void MainWindow::makeMenus() {
+    menus_ = std::make_unique<MainMenus>(
+        core_,
+        MainMenus::Parts{.eventTable = parts_.eventTable,
+                         .timeColumnActions = timeColumnActions_,
+                         .exports = exports_,
+                         .periodActions = periodActions_,
+                         .searchBox = *searchBox_,
+                         .groupChooser = *groupChooser_,
+                         .columnLayoutsPopover = columnLayoutsPopover_,
+                         .columnLayoutsButton = *columnLayoutsButton_,
+                         .txtSettingsSheet = txtSettingsSheet_,
+                         .preferences = preferences_,
+                         .calendarAdding = calendarAdding_,
+                         .allowAccess = parts_.calendarActions.allowAccess},
+        *this);
 }
 
 bool MainWindow::focusNextPrevChild(bool next) {
@@ -234,7 +284,7 @@ void MainWindow::showTableOrReason() {
         emptyState_->show(localized("No calendars"),
                           localized("Add a folder or a file of calendars, or drop one here."),
                           localized("Add Calendar Folder or File…"),
-                          [this] { chooseCalendarToAdd(); });
+                          [this] { calendarAdding_.choose(); });
     } else if (!isAnyTicked) {
         emptyState_->show(localized("No calendar is ticked"),
                           localized("Tick the calendars whose time counts."),
@@ -247,7 +297,7 @@ void MainWindow::showTableOrReason() {
         emptyState_->show(localized("No events in this period"),
                           localized("The ticked calendars have no events on these days."),
                           localized("Show the Current Period"),
-                          [this] { currentAction_->trigger(); });
+                          [this] { periodActions_.current().trigger(); });
     } else {
         centreStack_->setCurrentWidget(&parts_.eventTable);
         return;
@@ -308,7 +358,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 void MainWindow::dropEvent(QDropEvent* event) {
     for (const QUrl& url : event->mimeData()->urls()) {
         if (const QString path = localPath(url); !path.isEmpty()) {
-            addCalendar(path);
+            calendarAdding_.add(path);
         }
     }
 }
