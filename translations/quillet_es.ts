@@ -36,6 +36,10 @@
         <translation>%1 del %2</translation>
     </message>
     <message>
+        <source>%1 of %2 choices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1 of “%2”</source>
         <translation>%1 de «%2»</translation>
     </message>

@@ -36,6 +36,10 @@
         <translation>%2 の%1</translation>
     </message>
     <message>
+        <source>%1 of %2 choices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1 of “%2”</source>
         <translation>「%2」の%1</translation>
     </message>

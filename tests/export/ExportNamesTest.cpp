@@ -19,7 +19,10 @@ public:
     [[nodiscard]] QString shortDate(Instant /*instant*/) const override { return {}; }
     [[nodiscard]] QString shortTime(Instant /*instant*/) const override { return {}; }
     [[nodiscard]] QString weekdayName(Instant /*instant*/) const override { return {}; }
-    [[nodiscard]] QString monthAndYear(Instant /*instant*/) const override { return {}; }
+    [[nodiscard]] QString dateSpan(SpanUnit /*unit*/, Instant /*first*/,
+                                   Instant /*last*/) const override {
+        return {};
+    }
     [[nodiscard]] QString number(const Decimal& /*value*/, int /*digits*/) const override {
         return {};
     }

@@ -3,6 +3,7 @@
 #include <unicode/datefmt.h>
 #include <unicode/dcfmtsym.h>
 #include <unicode/decimfmt.h>
+#include <unicode/dtitvfmt.h>
 #include <unicode/numberformatter.h>
 #include <unicode/smpdtfmt.h>
 #include <unicode/ucurr.h>
@@ -59,7 +60,10 @@ struct IcuLocaleFormats::Formatters {
     std::unique_ptr<icu::DateFormat> longDate;
     std::unique_ptr<icu::DateFormat> shortTime;
     std::unique_ptr<icu::DateFormat> weekday;
+    std::unique_ptr<icu::DateFormat> fullDate;
     std::unique_ptr<icu::DateFormat> month;
+    std::unique_ptr<icu::DateFormat> year;
+    std::unique_ptr<icu::DateIntervalFormat> days;
     std::unique_ptr<icu::DecimalFormat> parser;
     /// Unchangeable, and so safe from any thread.
     icu::number::UnlocalizedNumberFormatter plainNumber;
@@ -69,12 +73,26 @@ struct IcuLocaleFormats::Formatters {
     QString decimalSeparator;
     QString currencySymbol;
 
-    [[nodiscard]] QString text(const icu::DateFormat& format, Instant instant) const {
+    /// What ICU takes for the instant, told no zone: the time on the wall.
+    [[nodiscard]] UDate wallTime(Instant instant) const {
         const auto second = std::chrono::floor<std::chrono::seconds>(instant);
         const auto local = zone->rules().toLocal(second).time_since_epoch() + (instant - second);
+        return static_cast<UDate>(local.count());
+    }
+    [[nodiscard]] QString text(const icu::DateFormat& format, Instant instant) const {
+        const UDate date = wallTime(instant);
         const std::scoped_lock lock(mutex);
         icu::UnicodeString result;
-        format.format(static_cast<UDate>(local.count()), result);
+        format.format(date, result);
+        return fromIcu(result);
+    }
+    [[nodiscard]] QString daysText(Instant first, Instant last) const {
+        const icu::DateInterval interval(wallTime(first), wallTime(last));
+        const std::scoped_lock lock(mutex);
+        UErrorCode status = U_ZERO_ERROR;
+        icu::UnicodeString result;
+        icu::FieldPosition position;
+        days->format(&interval, result, position, status);
         return fromIcu(result);
     }
 };
@@ -99,11 +117,16 @@ IcuLocaleFormats::IcuLocaleFormats(const LocaleNames& locales,
         std::make_unique<icu::SimpleDateFormat>(icu::UnicodeString(u"EEEE"), time, status);
     formatters.month.reset(
         icu::DateFormat::createInstanceForSkeleton(UDAT_YEAR_MONTH, time, status));
+    formatters.fullDate.reset(icu::DateFormat::createDateInstance(icu::DateFormat::kFull, time));
+    formatters.year.reset(icu::DateFormat::createInstanceForSkeleton(UDAT_YEAR, time, status));
+    formatters.days.reset(icu::DateIntervalFormat::createInstance(u"yMMMd", time, status));
     for (icu::DateFormat* format :
          {formatters.shortDate.get(), formatters.longDate.get(), formatters.shortTime.get(),
-          formatters.weekday.get(), formatters.month.get()}) {
+          formatters.weekday.get(), formatters.fullDate.get(), formatters.month.get(),
+          formatters.year.get()}) {
         format->setTimeZone(*icu::TimeZone::getGMT());
     }
+    formatters.days->setTimeZone(*icu::TimeZone::getGMT());
 
     const icu::DecimalFormatSymbols symbols(formatters.numericLocale, status);
     formatters.decimalSeparator =
@@ -141,8 +164,19 @@ QString IcuLocaleFormats::weekdayName(Instant instant) const {
     return formatters_->text(*formatters_->weekday, instant);
 }
 
-QString IcuLocaleFormats::monthAndYear(Instant instant) const {
-    return formatters_->text(*formatters_->month, instant);
+QString IcuLocaleFormats::dateSpan(SpanUnit unit, Instant first, Instant last) const {
+    switch (unit) {
+    case SpanUnit::Month:
+        return formatters_->text(*formatters_->month, first);
+    case SpanUnit::Year:
+        return formatters_->text(*formatters_->year, first);
+    case SpanUnit::Days:
+        break;
+    }
+    const QString firstDay = formatters_->text(*formatters_->fullDate, first);
+    return firstDay == formatters_->text(*formatters_->fullDate, last)
+               ? firstDay
+               : formatters_->daysText(first, last);
 }
 
 QString IcuLocaleFormats::number(const Decimal& value, int maximumFractionDigits) const {

@@ -24,7 +24,7 @@ public:
     [[nodiscard]] QString longDate(Instant instant) const override;
     [[nodiscard]] QString shortTime(Instant instant) const override;
     [[nodiscard]] QString weekdayName(Instant instant) const override;
-    [[nodiscard]] QString monthAndYear(Instant instant) const override;
+    [[nodiscard]] QString dateSpan(SpanUnit unit, Instant first, Instant last) const override;
     [[nodiscard]] QString number(const Decimal& value, int maximumFractionDigits) const override;
     [[nodiscard]] QString currency(const Decimal& value) const override;
     [[nodiscard]] Decimal parsedNumber(const QString& text) const override;
