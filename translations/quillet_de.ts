@@ -8,6 +8,14 @@
         <translation>%1 bei Byte %2</translation>
     </message>
     <message>
+        <source>%1 event</source>
+        <translation>%1 Termin</translation>
+    </message>
+    <message>
+        <source>%1 events</source>
+        <translation>%1 Termine</translation>
+    </message>
+    <message>
         <source>%1 events cannot be read</source>
         <translation>%1 Termine sind nicht lesbar</translation>
     </message>
@@ -20,8 +28,24 @@
         <translation>%1 h</translation>
     </message>
     <message>
+        <source>%1 hour</source>
+        <translation>%1 Stunde</translation>
+    </message>
+    <message>
+        <source>%1 hours</source>
+        <translation>%1 Stunden</translation>
+    </message>
+    <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 minute</source>
+        <translation>%1 Minute</translation>
+    </message>
+    <message>
+        <source>%1 minutes</source>
+        <translation>%1 Minuten</translation>
     </message>
     <message>
         <source>%1 more events are in other files too, in newer versions, which count</source>
@@ -37,7 +61,7 @@
     </message>
     <message>
         <source>%1 of %2 choices</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>%1 of “%2”</source>
@@ -628,6 +652,10 @@
         <translation>&amp;Gruppen</translation>
     </message>
     <message>
+        <source>h</source>
+        <translation>Std.</translation>
+    </message>
+    <message>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
     </message>
@@ -678,6 +706,10 @@
     <message>
         <source>In titles, notes, locations and calendars, for programs that take every line for an event</source>
         <translation>In Titeln, Notizen, Orten und Kalendern, für Programme, die jede Zeile für einen Termin halten</translation>
+    </message>
+    <message>
+        <source>In&amp;spector</source>
+        <translation>&amp;Inspektor</translation>
     </message>
     <message>
         <source>Install a calendar program, or choose one among the default applications of your desktop, to open events in it.</source>
@@ -798,6 +830,10 @@
     <message>
         <source>Min</source>
         <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>Min.</translation>
     </message>
     <message>
         <source>Minutes</source>
@@ -1210,6 +1246,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>&amp;Speichern…</translation>
     </message>
     <message>
+        <source>Say Totals A&amp;gain</source>
+        <translation>Summen noch einmal sa&amp;gen</translation>
+    </message>
+    <message>
         <source>Search Events</source>
         <translation>Termine suchen</translation>
     </message>
@@ -1284,6 +1324,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     <message>
         <source>shown with the decimals of the currency</source>
         <translation>mit den Stellen der Währung angezeigt</translation>
+    </message>
+    <message>
+        <source>Shows the days to pick a period from</source>
+        <translation>Zeigt die Tage, aus denen man einen Zeitraum wählt</translation>
     </message>
     <message>
         <source>Stands before everything else in the report</source>

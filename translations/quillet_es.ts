@@ -8,6 +8,14 @@
         <translation>%1 en el byte %2</translation>
     </message>
     <message>
+        <source>%1 event</source>
+        <translation>%1 evento</translation>
+    </message>
+    <message>
+        <source>%1 events</source>
+        <translation>%1 eventos</translation>
+    </message>
+    <message>
         <source>%1 events cannot be read</source>
         <translation>no se pueden leer %1 eventos</translation>
     </message>
@@ -20,8 +28,24 @@
         <translation>%1 h</translation>
     </message>
     <message>
+        <source>%1 hour</source>
+        <translation>%1 hora</translation>
+    </message>
+    <message>
+        <source>%1 hours</source>
+        <translation>%1 horas</translation>
+    </message>
+    <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 minute</source>
+        <translation>%1 minuto</translation>
+    </message>
+    <message>
+        <source>%1 minutes</source>
+        <translation>%1 minutos</translation>
     </message>
     <message>
         <source>%1 more events are in other files too, in newer versions, which count</source>
@@ -37,7 +61,7 @@
     </message>
     <message>
         <source>%1 of %2 choices</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>%1 of “%2”</source>
@@ -628,6 +652,10 @@
         <translation>&amp;Grupos</translation>
     </message>
     <message>
+        <source>h</source>
+        <translation>h</translation>
+    </message>
+    <message>
         <source>&amp;Help</source>
         <translation>Ay&amp;uda</translation>
     </message>
@@ -678,6 +706,10 @@
     <message>
         <source>In titles, notes, locations and calendars, for programs that take every line for an event</source>
         <translation>En títulos, notas, lugares y calendarios, para programas que toman cada línea por un evento</translation>
+    </message>
+    <message>
+        <source>In&amp;spector</source>
+        <translation>&amp;Inspector</translation>
     </message>
     <message>
         <source>Install a calendar program, or choose one among the default applications of your desktop, to open events in it.</source>
@@ -798,6 +830,10 @@
     <message>
         <source>Min</source>
         <translation>Mínimo</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>min</translation>
     </message>
     <message>
         <source>Minutes</source>
@@ -1210,6 +1246,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>&amp;Guardar…</translation>
     </message>
     <message>
+        <source>Say Totals A&amp;gain</source>
+        <translation>Vol&amp;ver a decir los totales</translation>
+    </message>
+    <message>
         <source>Search Events</source>
         <translation>Buscar eventos</translation>
     </message>
@@ -1284,6 +1324,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>shown with the decimals of the currency</source>
         <translation>mostrado con los decimales de la moneda</translation>
+    </message>
+    <message>
+        <source>Shows the days to pick a period from</source>
+        <translation>Muestra los días entre los que se elige un periodo</translation>
     </message>
     <message>
         <source>Stands before everything else in the report</source>

@@ -8,6 +8,14 @@
         <translation>%1 à l’octet %2</translation>
     </message>
     <message>
+        <source>%1 event</source>
+        <translation>%1 événement</translation>
+    </message>
+    <message>
+        <source>%1 events</source>
+        <translation>%1 événements</translation>
+    </message>
+    <message>
         <source>%1 events cannot be read</source>
         <translation>%1 événements sont illisibles</translation>
     </message>
@@ -20,8 +28,24 @@
         <translation>%1 h</translation>
     </message>
     <message>
+        <source>%1 hour</source>
+        <translation>%1 heure</translation>
+    </message>
+    <message>
+        <source>%1 hours</source>
+        <translation>%1 heures</translation>
+    </message>
+    <message>
         <source>%1 min</source>
         <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 minute</source>
+        <translation>%1 minute</translation>
+    </message>
+    <message>
+        <source>%1 minutes</source>
+        <translation>%1 minutes</translation>
     </message>
     <message>
         <source>%1 more events are in other files too, in newer versions, which count</source>
@@ -37,7 +61,7 @@
     </message>
     <message>
         <source>%1 of %2 choices</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>%1 of “%2”</source>
@@ -628,6 +652,10 @@
         <translation>&amp;Groupes</translation>
     </message>
     <message>
+        <source>h</source>
+        <translation>h</translation>
+    </message>
+    <message>
         <source>&amp;Help</source>
         <translation>Aid&amp;e</translation>
     </message>
@@ -678,6 +706,10 @@
     <message>
         <source>In titles, notes, locations and calendars, for programs that take every line for an event</source>
         <translation>Dans les titres, notes, lieux et calendriers, pour les programmes qui prennent chaque ligne pour un événement</translation>
+    </message>
+    <message>
+        <source>In&amp;spector</source>
+        <translation>In&amp;specteur</translation>
     </message>
     <message>
         <source>Install a calendar program, or choose one among the default applications of your desktop, to open events in it.</source>
@@ -798,6 +830,10 @@
     <message>
         <source>Min</source>
         <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>min</translation>
     </message>
     <message>
         <source>Minutes</source>
@@ -1210,6 +1246,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Enre&amp;gistrer…</translation>
     </message>
     <message>
+        <source>Say Totals A&amp;gain</source>
+        <translation>Red&amp;ire les totaux</translation>
+    </message>
+    <message>
         <source>Search Events</source>
         <translation>Rechercher des événements</translation>
     </message>
@@ -1284,6 +1324,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>shown with the decimals of the currency</source>
         <translation>affiché avec les décimales de la devise</translation>
+    </message>
+    <message>
+        <source>Shows the days to pick a period from</source>
+        <translation>Affiche les jours parmi lesquels choisir une période</translation>
     </message>
     <message>
         <source>Stands before everything else in the report</source>

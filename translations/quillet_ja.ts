@@ -8,6 +8,14 @@
         <translation>%1 (%2 バイト目)</translation>
     </message>
     <message>
+        <source>%1 event</source>
+        <translation>%1 件の予定</translation>
+    </message>
+    <message>
+        <source>%1 events</source>
+        <translation>%1 件の予定</translation>
+    </message>
+    <message>
         <source>%1 events cannot be read</source>
         <translation>%1 件の予定を読み取れません</translation>
     </message>
@@ -20,8 +28,24 @@
         <translation>%1時間</translation>
     </message>
     <message>
+        <source>%1 hour</source>
+        <translation>%1 時間</translation>
+    </message>
+    <message>
+        <source>%1 hours</source>
+        <translation>%1 時間</translation>
+    </message>
+    <message>
         <source>%1 min</source>
         <translation>%1分</translation>
+    </message>
+    <message>
+        <source>%1 minute</source>
+        <translation>%1 分</translation>
+    </message>
+    <message>
+        <source>%1 minutes</source>
+        <translation>%1 分</translation>
     </message>
     <message>
         <source>%1 more events are in other files too, in newer versions, which count</source>
@@ -37,7 +61,7 @@
     </message>
     <message>
         <source>%1 of %2 choices</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 中 %1</translation>
     </message>
     <message>
         <source>%1 of “%2”</source>
@@ -628,6 +652,10 @@
         <translation>グループ(&amp;G)</translation>
     </message>
     <message>
+        <source>h</source>
+        <translation>時間</translation>
+    </message>
+    <message>
         <source>&amp;Help</source>
         <translation>ヘルプ(&amp;H)</translation>
     </message>
@@ -678,6 +706,10 @@
     <message>
         <source>In titles, notes, locations and calendars, for programs that take every line for an event</source>
         <translation>各行を 1 つの予定とみなすプログラムのために、タイトル、メモ、場所、カレンダーの改行を置き換えます</translation>
+    </message>
+    <message>
+        <source>In&amp;spector</source>
+        <translation>インスペクタ(&amp;S)</translation>
     </message>
     <message>
         <source>Install a calendar program, or choose one among the default applications of your desktop, to open events in it.</source>
@@ -798,6 +830,10 @@
     <message>
         <source>Min</source>
         <translation>最小</translation>
+    </message>
+    <message>
+        <source>min</source>
+        <translation>分</translation>
     </message>
     <message>
         <source>Minutes</source>
@@ -1210,6 +1246,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>保存(&amp;S)…</translation>
     </message>
     <message>
+        <source>Say Totals A&amp;gain</source>
+        <translation>合計をもう一度読み上げる(&amp;G)</translation>
+    </message>
+    <message>
         <source>Search Events</source>
         <translation>予定を検索</translation>
     </message>
@@ -1284,6 +1324,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>shown with the decimals of the currency</source>
         <translation>通貨の桁数で表示</translation>
+    </message>
+    <message>
+        <source>Shows the days to pick a period from</source>
+        <translation>期間を選ぶための日付を表示します</translation>
     </message>
     <message>
         <source>Stands before everything else in the report</source>

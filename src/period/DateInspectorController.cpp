@@ -156,6 +156,23 @@ void DateInspectorController::setLabels() {
     Q_EMIT labelsChanged();
 }
 
+std::vector<Period> DateInspectorController::periodsBefore(int count) {
+    std::vector<Period> result;
+    const qint64 index = quickDatePeriodIndex();
+    if (!isKind(index) || index == customIndex) {
+        return result;
+    }
+    const DateOffset length = lengthOf(static_cast<PeriodKind>(index));
+    for (int steps = 1; steps <= count; ++steps) {
+        const DateOffset back{.years = -length.years * steps,
+                              .months = -length.months * steps,
+                              .days = -length.days * steps};
+        const Instant start = arithmetic_.firstSecondOfDate(startDate(), back);
+        result.push_back({start, arithmetic_.lastSecondBeforeDate(start, length)});
+    }
+    return result;
+}
+
 void DateInspectorController::setQuickDatePeriod() {
     const qint64 index = quickDatePeriodIndex();
     if (settings::quickDatePeriodPreviousValue.isStored(with_.settings) &&

@@ -21,6 +21,14 @@ enum class PeriodKind { Day = 0, Week = 1, Month = 2, Year = 3, Custom = 4 };
 /// The segments of the stepping control.
 enum class PeriodStep { Previous = 0, Current = 1, Next = 2 };
 
+/// A stretch of whole days.
+struct Period {
+    /// The first second of its first day.
+    Instant start;
+    /// The last second of its last day.
+    Instant end;
+};
+
 /// Owns the reporting period: its kind, its bounds, how it is stepped and picked, and its labels.
 /// Publishes it as `filterStartDate` and `filterEndDate`, and flips `datesChangedTrigger` after
 /// each change that the user makes.
@@ -76,6 +84,10 @@ public:
     [[nodiscard]] QString dateRangeLabelString() const { return dateRangeLabel_; }
     /// The days of the stored period.
     [[nodiscard]] std::int32_t totalDays() const { return dates_.totalDays(); }
+
+    /// The whole periods of its kind before this one, the nearest first; none for a custom period.
+    /// Picking the start of one shows it.
+    [[nodiscard]] std::vector<Period> periodsBefore(int count);
 
     /// @name User actions, sent after the control has written its property
     /// @{

@@ -148,9 +148,6 @@ class Quillet:
         press(f'"{name}"', lambda: self.find(name, {ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON,
                                                     ROLE.RADIO_BUTTON, ROLE.CHECK_BOX}))
 
-    def choose_tab(self, name):
-        press(f'the tab "{name}"', lambda: self.find(name, {ROLE.PAGE_TAB}))
-
     def press_menu_item(self, name):
         items = {ROLE.MENU_ITEM, ROLE.CHECK_MENU_ITEM, ROLE.RADIO_MENU_ITEM}
         press(f'the menu item "{name}"', lambda: next(

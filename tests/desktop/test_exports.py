@@ -105,12 +105,12 @@ def check_report(program):
 def check_selected(program):
     """Exports follow the tab of the results. The copied row is still selected."""
     program.select_row(1)
-    program.choose_tab("Selected Events")
+    program.press("Selected Events")
     program.press("Text")
     wait_for_view(program, "Text Report", report(entries(0)[:2]))
     press_key("Escape")
     check_file(program, "TSV", "selected.txt", tsv(entries(0)[:2]))
-    program.choose_tab("All Events")
+    program.press("All Events")
 
 
 def check_notes(program):

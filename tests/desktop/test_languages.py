@@ -30,7 +30,7 @@ def check_german(program):
     assert program.menus() == expected, program.menus()
     program.wait_for_text("Monat · ")
     for tab in ("Alle Termine", "Ausgewählte Termine"):
-        program.control(tab, {ROLE.PAGE_TAB})
+        program.control(tab, {ROLE.RADIO_BUTTON})
     program.save("CSV", FILE)
     wait_for("the saved file", FILE.exists)
     content = FILE.read_bytes().decode()

@@ -3,63 +3,44 @@
 #include "platform/Settings.h"
 #include "texts/Localized.h"
 #include "window/preferences/SettingsBinding.h"
+#include "window/widgets/Figure.h"
+#include "window/widgets/FoldingRow.h"
+#include "window/widgets/SegmentedControl.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
-#include <QTabBar>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
 #include <QTimer>
-#include <QVBoxLayout>
 
 namespace quillet {
 
 ResultsPane::ResultsPane(SettingsStore& settings, QWidget* parent)
     : QWidget(parent)
     , settings_(settings)
-    , tabs_(new QTabBar(this)) {
-    makeTabs();
+    , chooser_(new SegmentedControl(localized("Results"), this))
+    , row_(new QHBoxLayout(this)) {
+    // One stop of the Tab key, at which all figures are said.
+    setFocusPolicy(Qt::TabFocus);
+    setAccessibleName(localized("Results"));
+    makeChooser();
     makeFigures();
-    const int space = fontMetrics().height() / 2;
-    auto* row = new QHBoxLayout;
-    row->setContentsMargins(space, space, space, space);
-    row->setSpacing(space);
-    for (int position = 0; position < PositionCount; ++position) {
-        if (position == Cost) {
-            row->addStretch();
-        } else if (position > 0) {
-            // Gives way on a small screen.
-            row->addSpacerItem(new QSpacerItem(space * 2, 0, QSizePolicy::Maximum));
-        }
-        auto* column = new QVBoxLayout;
-        column->setSpacing(0);
-        column->addWidget(names_.at(static_cast<std::size_t>(position)));
-        column->addWidget(values_.at(static_cast<std::size_t>(position)));
-        row->addLayout(column);
-    }
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    layout->addWidget(tabs_);
-    layout->addLayout(row);
-}
-
-ResultsPane::~ResultsPane() = default;
-
-void ResultsPane::makeTabs() {
-    tabs_->setDocumentMode(true);
-    tabs_->setExpanding(false);
-    tabs_->setDrawBase(false);
-    tabs_->setAccessibleName(localized("Results"));
-    tabs_->addTab(localized("All Events"));
-    tabs_->addTab(localized("Selected Events"));
-    connect(tabs_, &QTabBar::currentChanged, this, [this](int tab) {
-        if (tab != settings::totalsTabViewSelection.read(settings_)) {
-            settings::totalsTabViewSelection.write(settings_, tab);
-        }
-    });
+    arrange();
     for (const SettingKey* setting :
          settingGroup(settings::totalsTabViewSelection, settings::isDollarsOn)) {
         observeWhileAlive(*this, settings_, *setting, [this] { scheduleRefresh(); });
     }
+}
+
+ResultsPane::~ResultsPane() = default;
+
+void ResultsPane::makeChooser() {
+    chooser_->addSegment(localized("All Events"));
+    chooser_->addSegment(localized("Selected Events"));
+    connect(chooser_, &SegmentedControl::picked, this, [this](int tab) {
+        if (tab != settings::totalsTabViewSelection.read(settings_)) {
+            settings::totalsTabViewSelection.write(settings_, tab);
+        }
+    });
 }
 
 void ResultsPane::makeFigures() {
@@ -67,20 +48,36 @@ void ResultsPane::makeFigures() {
                                localizable("Shortest"), localizable("Longest"),
                                localizable("Average"),  localizable("Days"),
                                localizable("Cost")};
-    for (std::size_t position = 0; position < texts.size(); ++position) {
-        auto* name = new QLabel(localized(texts.at(position)), this);
-        auto* value = new QLabel(this);
-        QFont font = value->font();
-        font.setBold(true);
-        value->setFont(font);
-        value->setTextFormat(Qt::PlainText);
-        value->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-        value->setObjectName(QString::fromLatin1(texts.at(position)).toLower());
-        names_.at(position) = name;
-        values_.at(position) = value;
+    for (int position = 0; position < PositionCount; ++position) {
+        const char* text = texts.at(static_cast<std::size_t>(position));
+        const auto size =
+            position == Total || position == Cost ? Figure::Size::Large : Figure::Size::Small;
+        auto* made = new Figure(localized(text), size, this);
+        made->setObjectName(QString::fromLatin1(text).toLower());
+        figures_.at(static_cast<std::size_t>(position)) = made;
     }
-    names_.at(Cost)->setAlignment(Qt::AlignRight);
-    values_.at(Cost)->setAlignment(Qt::AlignRight);
+}
+
+void ResultsPane::arrange() {
+    auto* others = new FoldingRow(this);
+    for (const Position position : {Events, Days, Average, Longest, Shortest}) {
+        others->addWidget(figure(position));
+    }
+    const int unit = fontMetrics().height() / 4;
+    row_->setContentsMargins(unit * 4, 0, unit * 2, unit * 2);
+    row_->setSpacing(unit * 6);
+    row_->addWidget(&figure(Total));
+    row_->addWidget(&figure(Cost));
+    row_->addWidget(others, 1);
+    row_->addWidget(chooser_);
+}
+
+void ResultsPane::addControl(QWidget& control) {
+    row_->addWidget(&control);
+}
+
+Figure& ResultsPane::figure(Position position) const {
+    return *figures_.at(static_cast<std::size_t>(position));
 }
 
 void ResultsPane::follow(EventResultsViewController& controller) {
@@ -97,6 +94,16 @@ void ResultsPane::scheduleRefresh() {
     if (!isRefreshScheduled_) {
         isRefreshScheduled_ = true;
         QTimer::singleShot(0, this, &ResultsPane::refresh);
+    }
+}
+
+void ResultsPane::paintEvent(QPaintEvent* event) {
+    QWidget::paintEvent(event);
+    if (hasFocus()) {
+        QStylePainter painter(this);
+        QStyleOptionFocusRect option;
+        option.initFrom(this);
+        painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
     }
 }
 
@@ -121,14 +128,57 @@ void ResultsPane::refresh() {
     if (controller_ == nullptr) {
         return;
     }
-    tabs_->setCurrentIndex(static_cast<int>(shownTab()));
+    chooser_->setChosen(static_cast<int>(shownTab()));
     const auto fields = shownFields();
-    for (std::size_t position = 0; position < fields.size(); ++position) {
-        values_.at(position)->setText(controller_->text(shownTab(), fields.at(position)));
+    for (int position = 0; position < PositionCount; ++position) {
+        const QString value =
+            controller_->text(shownTab(), fields.at(static_cast<std::size_t>(position)));
+        if (position == Total) {
+            showTotal(value);
+        } else {
+            figure(static_cast<Position>(position)).setValue(value);
+        }
     }
-    const bool isMoneyOn = settings::isDollarsOn.read(settings_);
-    names_.at(Cost)->setVisible(isMoneyOn);
-    values_.at(Cost)->setVisible(isMoneyOn);
+    figure(Cost).setVisible(settings::isDollarsOn.read(settings_));
+    setAccessibleDescription(spokenFigures());
+    Q_EMIT shown();
+}
+
+void ResultsPane::showTotal(const QString& value) {
+    const bool isOne = value == QLatin1StringView("1");
+    QString unit;
+    // A duration says its own units.
+    spokenTotal_ = value;
+    if (!controller_->isHoursHidden()) {
+        unit = localized("h");
+        spokenTotal_ = (isOne ? localized("%1 hour") : localized("%1 hours")).arg(value);
+    } else if (!controller_->isMinutesHidden()) {
+        unit = localized("min");
+        spokenTotal_ = (isOne ? localized("%1 minute") : localized("%1 minutes")).arg(value);
+    }
+    figure(Total).setValue(value, unit, spokenTotal_);
+}
+
+QString ResultsPane::spokenTotals() const {
+    const QString count = figure(Events).text();
+    QStringList parts{
+        (count == QLatin1StringView("1") ? localized("%1 event") : localized("%1 events"))
+            .arg(count),
+        spokenTotal_};
+    if (settings::isDollarsOn.read(settings_)) {
+        parts << figure(Cost).text();
+    }
+    return parts.join(QStringLiteral(", "));
+}
+
+QString ResultsPane::spokenFigures() const {
+    QStringList parts;
+    for (const Position position : {Events, Total, Cost, Days, Average, Longest, Shortest}) {
+        if (position != Cost || settings::isDollarsOn.read(settings_)) {
+            parts << figure(position).accessibleName();
+        }
+    }
+    return parts.join(QStringLiteral(", "));
 }
 
 } // namespace quillet

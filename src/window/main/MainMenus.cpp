@@ -14,6 +14,7 @@
 #include "window/period/PeriodActions.h"
 #include "window/preferences/PreferencesPanes.h"
 #include "window/preferences/SettingsBinding.h"
+#include "window/widgets/Announcer.h"
 
 #include <QActionGroup>
 #include <QCoreApplication>
@@ -110,6 +111,11 @@ void MainMenus::makeViewMenu() {
     bindAction(*menu.addAction(localized("&Money")), core_.settings, settings::isDollarsOn);
     menu.addSeparator();
     makeTimeEntries(menu);
+    menu.addSeparator();
+    menu.addAction(&parts_.periodActions.inspector());
+    addAction(menu, localized("Say Totals A&gain"), "sayTotals",
+              QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_T),
+              [this] { parts_.announcer.repeat(); });
     menu.addSeparator();
     makeColumnsMenu(menu);
     makeColumnLayoutsMenu(menu);

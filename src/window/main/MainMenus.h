@@ -12,6 +12,7 @@ class QWidget;
 
 namespace quillet {
 
+class Announcer;
 class CalendarAdding;
 class ColumnLayoutsPopoverController;
 class EventTableView;
@@ -37,6 +38,7 @@ public:
         QWidget& columnLayoutsButton;
         TXTSettingsSheet& txtSettingsSheet;
         PreferencesPanes& preferences;
+        Announcer& announcer;
         const CalendarAdding& calendarAdding;
         /// Asks for access again, whatever was answered before.
         std::function<void()> allowAccess;

@@ -1,5 +1,6 @@
 #include "window/main/MainWindow.h"
 
+#include "period/PeriodName.h"
 #include "platform/Settings.h"
 #include "texts/Localized.h"
 #include "window/calendars/CalendarPane.h"
@@ -8,9 +9,10 @@
 #include "window/events/ResultsPane.h"
 #include "window/events/SearchBox.h"
 #include "window/period/InspectorPane.h"
+#include "window/period/PeriodBar.h"
 #include "window/period/PeriodLabels.h"
 #include "window/preferences/SettingsBinding.h"
-#include "window/widgets/ElidedLabel.h"
+#include "window/widgets/Announcer.h"
 #include "window/widgets/EmptyState.h"
 #include "window/widgets/FittingToolBar.h"
 #include "window/widgets/FocusOrder.h"
@@ -33,17 +35,6 @@
 
 namespace quillet {
 
-namespace {
-
-QFrame* line() {
-    auto* frame = new QFrame;
-    frame->setFrameShape(QFrame::HLine);
-    frame->setFrameShadow(QFrame::Sunken);
-    return frame;
-}
-
-} // namespace
-
 MainWindow::MainWindow(Core& core, Parts parts, QWidget* parent)
     : QMainWindow(parent)
     , core_(core)
@@ -51,6 +42,7 @@ MainWindow::MainWindow(Core& core, Parts parts, QWidget* parent)
     , resultsPane_(new ResultsPane(core_.settings, this))
     , columnLayoutsPopover_(core_.settings, core_.columnLayouts)
     , txtSettingsSheet_(core_.txtSettings, *this)
+    , announcer_(new Announcer(*this))
     , preferences_(core_.preferences,
                    {core_.settings, core_.formats,
                     [this] { core_.eventItemView.resetAllColumnTitles(); },
@@ -104,37 +96,17 @@ void MainWindow::makePanes() {
     // In fonts with Chinese characters the average is as wide as one of these.
     calendarPane_->setMinimumWidth(fontMetrics().horizontalAdvance(u'0') * 14);
     splitter_->setSizes({unit * 32, unit * 110, unit * 40});
+    connect(&periodActions_.inspector(), &QAction::toggled, this,
+            [this](bool isShown) { panes_->container(Pane::Inspector)->setVisible(isShown); });
     setCentralWidget(new PaneScroller(*splitter_, this));
 }
 
 QWidget* MainWindow::makeEventItemView() {
-    periodTitle_ = new ElidedLabel(this);
-    periodTitle_->setObjectName(QStringLiteral("reportingPeriod"));
-    const int space = fontMetrics().height() / 2;
-    periodTitle_->setContentsMargins(space, space, space, space);
-    constexpr double titleScale = 1.3;
-    QFont font = periodTitle_->font();
-    font.setPointSizeF(font.pointSizeF() * titleScale);
-    font.setBold(true);
-    periodTitle_->setFont(font);
-    periodTitle_->setSmallestScale(1 / titleScale);
     emptyState_ = new EmptyState(this);
     centreStack_ = new QStackedWidget(this);
     centreStack_->addWidget(&parts_.eventTable);
     centreStack_->addWidget(emptyState_);
-
-    auto* view = new QWidget(this);
-    auto* layout = new QVBoxLayout(view);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    makeColumnLayoutsButton();
-    auto* titleRow = new QHBoxLayout;
-    titleRow->setSpacing(0);
-    titleRow->addWidget(periodTitle_, 1);
-    titleRow->addWidget(columnLayoutsButton_);
-    layout->addLayout(titleRow);
-    layout->addWidget(centreStack_, 1);
-    return view;
+    return centreStack_;
 }
 
 void MainWindow::makeColumnLayoutsButton() {
@@ -151,13 +123,16 @@ void MainWindow::makeColumnLayoutsButton() {
 }
 
 QWidget* MainWindow::makeCentre() {
+    periodBar_ = new PeriodBar(core_.dateInspector, core_.formats, periodActions_, this);
+    makeColumnLayoutsButton();
+    resultsPane_->addControl(*columnLayoutsButton_);
     auto* centre = new QWidget(this);
     auto* layout = new QVBoxLayout(centre);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(&panes_->centreSplitter(), 1);
-    layout->addWidget(line());
+    layout->addWidget(periodBar_);
     layout->addWidget(resultsPane_);
+    layout->addWidget(&panes_->centreSplitter(), 1);
     return centre;
 }
 
@@ -170,9 +145,6 @@ void MainWindow::makeToolBar() {
     bar->addActions({&exports.text, &exports.notes});
     bar->addSeparator();
     bar->addActions({&exports.csv, &exports.tsv, &exports.mail});
-    bar->addSeparator();
-    bar->addActions(
-        {&periodActions_.previous(), &periodActions_.current(), &periodActions_.next()});
     makeSearch(*bar);
     for (QToolButton* button :
          bar->findChildren<QToolButton*>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -203,18 +175,19 @@ void MainWindow::makeMenus() {
                          .columnLayoutsButton = *columnLayoutsButton_,
                          .txtSettingsSheet = txtSettingsSheet_,
                          .preferences = preferences_,
+                         .announcer = *announcer_,
                          .calendarAdding = calendarAdding_,
                          .allowAccess = parts_.calendarActions.allowAccess},
         *this);
 }
 
 bool MainWindow::focusNextPrevChild(bool next) {
-    QList<QWidget*> areas{findChild<QToolBar*>(), panes_->container(Pane::List),
-                          panes_->container(Pane::Item)};
+    QList<QWidget*> areas{findChild<QToolBar*>(), panes_->container(Pane::List), periodBar_,
+                          resultsPane_, panes_->container(Pane::Item)};
     for (ExportPane* pane : findChildren<ExportPane*>()) {
         areas.append(pane);
     }
-    areas << panes_->container(Pane::Rate) << resultsPane_ << panes_->container(Pane::Inspector);
+    areas << panes_->container(Pane::Rate) << panes_->container(Pane::Inspector);
     QWidget* const neighbour =
         neighbourInFocusOrder(areas, focusWidget(), next ? FocusStep::Next : FocusStep::Previous);
     if (neighbour == nullptr) {
@@ -242,23 +215,24 @@ void MainWindow::followState() {
         if (!settings::isProgressIndicatorOn.read(core_.settings)) {
             // A query may have found one, or shown that one is gone.
             refreshProblems();
+            announceTotals();
         }
     });
-    connect(&core_.dateInspector, &DateInspectorController::labelsChanged, this,
-            &MainWindow::showPeriodTitle);
+    connect(resultsPane_, &ResultsPane::shown, this, &MainWindow::announceTotals);
     followReportingPeriod(core_.eventItemView, core_.dateInspector, core_.settings);
     describeWithPeriod(parts_.eventTable, core_.eventItemView);
-    showPeriodTitle();
     showTableOrReason();
 }
 
-void MainWindow::showPeriodTitle() {
-    const DateInspectorController& period = core_.dateInspector;
-    // A kind that nobody knows has no name.
-    periodTitle_->setText(period.periodLabelString().isEmpty()
-                              ? period.dateRangeLabelString()
-                              : QStringLiteral("%1 · %2").arg(period.periodLabelString(),
-                                                              period.dateRangeLabelString()));
+void MainWindow::announceTotals() {
+    // What a running fetch is about to replace is not said.
+    if (!settings::isProgressIndicatorOn.read(core_.settings)) {
+        auto& period = core_.dateInspector;
+        announcer_->announce(QStringLiteral("%1: %2").arg(
+            nameOfPeriod(period.quickDatePeriodIndex(), period.startDate(), period.endDate(),
+                         core_.formats),
+            resultsPane_->spokenTotals()));
+    }
 }
 
 void MainWindow::showTableOrReason() {
@@ -338,6 +312,10 @@ void MainWindow::restoreState(const QString& stateFile) {
         resize(QSize(unit * 215, fontMetrics().height() * 48).boundedTo(room));
     }
     splitter_->restoreState(state.value(QStringLiteral("panes")).toByteArray());
+    // The table and its money come first; the days to pick have what room is left.
+    const bool isRoomForInspector = width() >= fontMetrics().height() * 80;
+    periodActions_.inspector().setChecked(
+        state.value(QStringLiteral("inspector"), isRoomForInspector).toBool());
     panes_->setExportRoom(state.value(QStringLiteral("exportPane")).toInt());
 }
 
@@ -345,6 +323,7 @@ void MainWindow::saveState(const QString& stateFile) const {
     QSettings state(stateFile, QSettings::IniFormat);
     state.setValue(QStringLiteral("geometry"), saveGeometry());
     state.setValue(QStringLiteral("panes"), splitter_->saveState());
+    state.setValue(QStringLiteral("inspector"), periodActions_.inspector().isChecked());
     state.setValue(QStringLiteral("exportPane"), panes_->exportRoom());
     state.setValue(QStringLiteral("columns"), parts_.eventTable.columnState());
 }

@@ -26,10 +26,11 @@ class QToolButton;
 
 namespace quillet {
 
+class Announcer;
 class CalendarPane;
-class ElidedLabel;
 class EmptyState;
 class EventTableView;
+class PeriodBar;
 class ResultsPane;
 class SearchBox;
 
@@ -86,7 +87,8 @@ private:
     void makeMenus();
     /// Tab goes as the eye does: the toolbar, then the panes from the start to the end.
     void followState();
-    void showPeriodTitle();
+    /// Tells a screen reader the period and its totals, where they are others than those told last.
+    void announceTotals();
     void showTableOrReason();
     void tickAllCalendars();
 
@@ -95,7 +97,7 @@ private:
     TimeColumnActions timeColumnActions_;
     CalendarPane* calendarPane_ = nullptr;
     GroupChooser* groupChooser_ = nullptr;
-    ElidedLabel* periodTitle_ = nullptr;
+    PeriodBar* periodBar_ = nullptr;
     QStackedWidget* centreStack_ = nullptr;
     EmptyState* emptyState_ = nullptr;
     ResultsPane* resultsPane_;
@@ -105,6 +107,7 @@ private:
     QToolButton* columnLayoutsButton_ = nullptr;
     ColumnLayoutsPopoverController columnLayoutsPopover_;
     TXTSettingsSheet txtSettingsSheet_;
+    Announcer* announcer_;
     PreferencesPanes preferences_;
     CalendarAdding calendarAdding_;
     PeriodActions periodActions_;

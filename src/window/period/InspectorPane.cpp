@@ -6,14 +6,11 @@
 #include "window/widgets/PeriodPicker.h"
 #include "window/widgets/SymbolIcon.h"
 
-#include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
 #include <QToolButton>
 #include <QVBoxLayout>
-
-#include <array>
 
 namespace quillet {
 
@@ -28,17 +25,6 @@ QLabel* heading(const QString& text, QWidget* buddy) {
     return label;
 }
 
-/// Of a button in the selection's colours, which are others while nothing can be chosen.
-QPalette selectionPalette() {
-    QPalette palette;
-    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        palette.setColor(group, QPalette::Button, palette.color(group, QPalette::Highlight));
-        palette.setColor(group, QPalette::ButtonText,
-                         palette.color(group, QPalette::HighlightedText));
-    }
-    return palette;
-}
-
 } // namespace
 
 InspectorPane::InspectorPane(DateInspectorController& inspector, SettingsStore& settings,
@@ -46,7 +32,6 @@ InspectorPane::InspectorPane(DateInspectorController& inspector, SettingsStore& 
     : QWidget(parent)
     , inspector_(inspector)
     , calendar_(calendar)
-    , kinds_(new QButtonGroup(this))
     , startPicker_(makePicker(localized("Start Date")))
     , endPicker_(makePicker(localized("End Date")))
     , lock_(makeLock()) {
@@ -58,8 +43,6 @@ InspectorPane::InspectorPane(DateInspectorController& inspector, SettingsStore& 
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(space, space, space, space);
     layout->setSpacing(space);
-    layout->addWidget(makeKindChooser());
-    layout->addSpacing(space);
     layout->addWidget(heading(localized("Start Date"), startPicker_));
     layout->addWidget(startPicker_);
     layout->addSpacing(space);
@@ -82,42 +65,6 @@ InspectorPane::InspectorPane(DateInspectorController& inspector, SettingsStore& 
 }
 
 InspectorPane::~InspectorPane() = default;
-
-QWidget* InspectorPane::makeKindChooser() {
-    auto* chooser = new QWidget(this);
-    chooser->setAccessibleName(localized("Period"));
-    auto* layout = new QHBoxLayout(chooser);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
-    constexpr std::array names{localizable("Day"), localizable("Week"), localizable("Month"),
-                               localizable("Year"), localizable("Custom")};
-    for (int kind = 0; kind < static_cast<int>(names.size()); ++kind) {
-        auto* button = new QToolButton(chooser);
-        button->setText(localized(names[static_cast<std::size_t>(kind)]));
-        button->setAccessibleName(button->text());
-        button->setCheckable(true);
-        button->setAutoRaise(false);
-        button->setFocusPolicy(Qt::ClickFocus);
-        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-        // Pressed or not is hard to tell in dark colours; the selection's colour is not.
-        connect(button, &QToolButton::toggled, button, [button](bool isChecked) {
-            button->setPalette(isChecked ? selectionPalette() : QPalette());
-            // Tab goes to the chosen kind, the arrow keys go on from there.
-            button->setFocusPolicy(isChecked ? Qt::StrongFocus : Qt::ClickFocus);
-        });
-        kinds_->addButton(button, kind);
-        layout->addWidget(button);
-    }
-    connect(kinds_, &QButtonGroup::idClicked, this,
-            [this](int kind) { inspector_.choosePeriodKind(static_cast<PeriodKind>(kind)); });
-    // Assistive programs check a button without clicking it.
-    connect(kinds_, &QButtonGroup::idToggled, this, [this](int kind, bool isChecked) {
-        if (isChecked && kind != static_cast<int>(inspector_.quickDatePeriodIndex())) {
-            inspector_.choosePeriodKind(static_cast<PeriodKind>(kind));
-        }
-    });
-    return chooser;
-}
 
 PeriodPicker* InspectorPane::makePicker(const QString& name) {
     // Ours counts from Sunday = 1, Qt from Monday = 1.
@@ -149,10 +96,6 @@ void InspectorPane::showPeriod() {
     const QSignalBlocker endBlocker(endPicker_);
     startPicker_->setSelectedDate(dateOf(inspector_.startDate()));
     endPicker_->setSelectedDate(dateOf(inspector_.endDate()));
-    if (QAbstractButton* button =
-            kinds_->button(static_cast<int>(inspector_.quickDatePeriodIndex()))) {
-        button->setChecked(true);
-    }
     const bool isLocked = !inspector_.isCustomDateOn();
     lock_->setChecked(isLocked);
     lock_->setIcon(symbolIcon(isLocked ? Symbol::Locked : Symbol::Unlocked));

@@ -4,14 +4,13 @@
 
 #include <QWidget>
 
-class QButtonGroup;
 class QToolButton;
 
 namespace quillet {
 
 class PeriodPicker;
 
-/// The controls of the reporting period: its kind, its two ends and the lock between them.
+/// The days to pick a period from: its two ends and the lock between them.
 class InspectorPane : public QWidget {
     Q_OBJECT
 
@@ -24,7 +23,6 @@ public:
     Q_DISABLE_COPY_MOVE(InspectorPane)
 
 private:
-    [[nodiscard]] QWidget* makeKindChooser();
     [[nodiscard]] PeriodPicker* makePicker(const QString& name);
     [[nodiscard]] QToolButton* makeLock();
     void showPeriod();
@@ -33,7 +31,6 @@ private:
 
     DateInspectorController& inspector_;
     const CalendarArithmetic& calendar_;
-    QButtonGroup* kinds_;
     PeriodPicker* startPicker_;
     PeriodPicker* endPicker_;
     QToolButton* lock_;

@@ -15,7 +15,14 @@ PeriodActions::PeriodActions(DateInspectorController& period, QWidget& window)
     , current_(made(localizable("Current"), symbolIcon(Symbol::Current),
                     QKeySequence(Qt::CTRL | Qt::Key_T), PeriodStep::Current))
     , next_(made(localizable("Next"), symbolIcon(Symbol::Next),
-                 QKeySequence(Qt::ALT | Qt::Key_Right), PeriodStep::Next)) {}
+                 QKeySequence(Qt::ALT | Qt::Key_Right), PeriodStep::Next))
+    , inspector_(*new QAction(symbolIcon(Symbol::Inspector), localized("In&spector"), &window)) {
+    inspector_.setObjectName(QStringLiteral("showInspector"));
+    inspector_.setToolTip(localized("Shows the days to pick a period from"));
+    inspector_.setCheckable(true);
+    inspector_.setChecked(true);
+    inspector_.setShortcut(Qt::Key_F9);
+}
 
 QAction& PeriodActions::made(const char* text, const QIcon& icon, const QKeySequence& shortcut,
                              PeriodStep step) {

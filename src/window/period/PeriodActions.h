@@ -6,8 +6,8 @@
 
 namespace quillet {
 
-/// The actions that step the reporting period, and what they have in common with all that change
-/// it. They become the window's.
+/// The actions that step the reporting period and show its days, and what they have in common with
+/// all that change it. They become the window's.
 class PeriodActions {
 public:
     PeriodActions(DateInspectorController& period, QWidget& window);
@@ -15,6 +15,8 @@ public:
     [[nodiscard]] QAction& previous() const { return previous_; }
     [[nodiscard]] QAction& current() const { return current_; }
     [[nodiscard]] QAction& next() const { return next_; }
+    /// Checked while the inspector is shown.
+    [[nodiscard]] QAction& inspector() const { return inspector_; }
     /// Without access to the calendars the period stays as it is.
     void enableWithPeriod(QAction& action) const;
 
@@ -27,6 +29,7 @@ private:
     QAction& previous_;
     QAction& current_;
     QAction& next_;
+    QAction& inspector_;
 };
 
 } // namespace quillet

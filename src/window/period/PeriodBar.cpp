@@ -5,7 +5,6 @@
 #include "window/period/PeriodTitle.h"
 #include "window/widgets/SegmentedControl.h"
 
-#include <QAction>
 #include <QHBoxLayout>
 #include <QMenu>
 
@@ -46,14 +45,14 @@ PeriodBar::PeriodBar(DateInspectorController& inspector, const LocaleFormats& fo
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(unit * 2, unit * 2, unit * 2, unit);
     layout->setSpacing(unit);
-    layout->addWidget(buttonOf(actions_.previous, Qt::ToolButtonIconOnly, this));
+    layout->addWidget(buttonOf(actions_.previous(), Qt::ToolButtonIconOnly, this));
     layout->addWidget(title_);
-    layout->addWidget(buttonOf(actions_.next, Qt::ToolButtonIconOnly, this));
-    layout->addWidget(buttonOf(actions_.current, Qt::ToolButtonTextOnly, this));
+    layout->addWidget(buttonOf(actions_.next(), Qt::ToolButtonIconOnly, this));
+    layout->addWidget(buttonOf(actions_.current(), Qt::ToolButtonTextOnly, this));
     layout->addStretch();
     layout->addWidget(kinds_);
     layout->addSpacing(unit);
-    layout->addWidget(buttonOf(actions_.inspector, Qt::ToolButtonIconOnly, this));
+    layout->addWidget(buttonOf(actions_.inspector(), Qt::ToolButtonIconOnly, this));
 
     connect(&inspector_, &DateInspectorController::labelsChanged, this, &PeriodBar::showPeriod);
     connect(&inspector_, &DateInspectorController::isCustomDateOnChanged, this,
@@ -81,21 +80,25 @@ void PeriodBar::makeKinds() {
 void PeriodBar::showPeriod() {
     const qint64 kind = inspector_.quickDatePeriodIndex();
     kinds_->setChosen(static_cast<int>(kind));
-    title_->setText(
-        nameOfPeriod(kind, inspector_.startDate(), inspector_.endDate(), formats_));
+    title_->setText(nameOfPeriod(kind, inspector_.startDate(), inspector_.endDate(), formats_));
     title_->updateGeometry();
+    title_->setToolTip(inspector_.periodLabelString().isEmpty()
+                           ? inspector_.dateRangeLabelString()
+                           : QStringLiteral("%1 · %2").arg(inspector_.periodLabelString(),
+                                                           inspector_.dateRangeLabelString()));
 }
 
 void PeriodBar::fillMenu() {
     QMenu& menu = *title_->menu();
     menu.clear();
     for (const Period& period : inspector_.periodsBefore(listedPeriods)) {
-        const QString name = nameOfPeriod(inspector_.quickDatePeriodIndex(), period.start,
-                                          period.end, formats_);
-        menu.addAction(name, this, [this, start = period.start] { inspector_.pickStartDate(start); });
+        const QString name =
+            nameOfPeriod(inspector_.quickDatePeriodIndex(), period.start, period.end, formats_);
+        menu.addAction(name, this,
+                       [this, start = period.start] { inspector_.pickStartDate(start); });
     }
     menu.addSeparator();
-    menu.addAction(&actions_.inspector);
+    menu.addAction(&actions_.inspector());
 }
 
 } // namespace quillet

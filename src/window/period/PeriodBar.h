@@ -2,24 +2,14 @@
 
 #include "period/DateInspectorController.h"
 #include "platform/LocaleFormats.h"
+#include "window/period/PeriodActions.h"
 
 #include <QWidget>
-
-class QAction;
 
 namespace quillet {
 
 class PeriodTitle;
 class SegmentedControl;
-
-/// What steps and folds around the period; the same actions as in the menus.
-struct PeriodActions {
-    QAction& previous;
-    QAction& current;
-    QAction& next;
-    /// Shows and folds the inspector.
-    QAction& inspector;
-};
 
 /// The period in one line: a step back, its name, a step on, the current one, its kind, and the way
 /// to its days. The name's menu leads to the periods before this one.
@@ -39,7 +29,7 @@ private:
 
     DateInspectorController& inspector_;
     const LocaleFormats& formats_;
-    PeriodActions actions_;
+    const PeriodActions& actions_;
     PeriodTitle* title_;
     SegmentedControl* kinds_;
 };

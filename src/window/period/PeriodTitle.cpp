@@ -60,7 +60,6 @@ void PeriodTitle::paintEvent(QPaintEvent* /*event*/) {
     option.text = shownText();
     QStylePainter painter(this);
     painter.drawComplexControl(QStyle::CC_ToolButton, option);
-    setToolTip(option.text == text() ? QString() : text());
 }
 
 } // namespace quillet

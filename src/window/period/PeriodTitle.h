@@ -4,8 +4,8 @@
 
 namespace quillet {
 
-/// The period's name as a button: larger than all but the totals, and with a menu. Where there is no
-/// room for all of it, it says the rest in its tooltip, and never makes its surroundings wider.
+/// The period's name as a button: larger than all but the totals, and with a menu. Where there is
+/// no room for all of it, it says the rest in its tooltip, and never makes its surroundings wider.
 class PeriodTitle : public QToolButton {
     Q_OBJECT
 

@@ -45,8 +45,7 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        const QColor ground =
-            isChecked() ? paintChosen(painter) : toned(palette(), Tone::Ground);
+        const QColor ground = isChecked() ? paintChosen(painter) : toned(palette(), Tone::Ground);
         const QColor wanted = isChecked() ? palette().color(QPalette::HighlightedText)
                                           : palette().color(QPalette::WindowText);
         // A disabled control has no contrast to keep; it is the palette's.

@@ -116,11 +116,20 @@ QPainterPath drawing(Symbol symbol) {
         path.addPath(polyline({{6.5, 2.5}, {6.5, 13.5}}));
         path.addPath(polyline({{10.5, 2.5}, {10.5, 13.5}}));
         return path;
+    case Symbol::Inspector:
+        path.addRoundedRect(QRectF(1.5, 3, 13, 10), 1.5, 1.5);
+        path.addPath(polyline({{10, 3}, {10, 13}}));
+        return path;
     case Symbol::Locked:
     case Symbol::Unlocked:
         return padlock(symbol == Symbol::Locked);
     }
     return path;
+}
+
+/// Which point the way of the text.
+bool followsReading(Symbol symbol) {
+    return symbol == Symbol::Previous || symbol == Symbol::Next || symbol == Symbol::Inspector;
 }
 
 class SymbolEngine final : public QIconEngine {
@@ -137,6 +146,10 @@ public:
         painter->setRenderHint(QPainter::Antialiasing);
         painter->translate(rect.center().x() + 0.5 - side / 2, rect.center().y() + 0.5 - side / 2);
         painter->scale(side / unitSquare, side / unitSquare);
+        if (followsReading(symbol_) && QGuiApplication::isRightToLeft()) {
+            painter->translate(unitSquare, 0);
+            painter->scale(-1, 1);
+        }
         constexpr double penWidth = 1.4;
         painter->setPen(QPen(QGuiApplication::palette().color(group, role_), penWidth,
                              Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));

@@ -20,9 +20,11 @@ enum class Symbol {
     Add,
     Remove,
     Columns,
+    Inspector,
 };
 
-/// A line drawing in a colour of the palette, sharp at every size; it follows light and dark.
+/// A line drawing in a colour of the palette, sharp at every size; it follows light and dark, and
+/// arrows follow the direction of reading.
 [[nodiscard]] QIcon symbolIcon(Symbol symbol, QPalette::ColorRole role = QPalette::ButtonText);
 
 } // namespace quillet

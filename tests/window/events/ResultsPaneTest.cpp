@@ -5,7 +5,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QLabel>
-#include <QTabBar>
+#include <QRadioButton>
 
 namespace quillet {
 
@@ -19,7 +19,7 @@ protected:
         fetch();
     }
     void chooseTab(int tab) {
-        named<QTabBar>("Results")->setCurrentIndex(tab);
+        named<QRadioButton>(tab == 0 ? "All Events" : "Selected Events")->click();
         QApplication::processEvents();
     }
     void chooseTimeType(int timeType) {

@@ -15,7 +15,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSplitter>
-#include <QTabBar>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 
@@ -239,7 +239,7 @@ TEST_F(MainWindowTest, TheResultsFollowTheChosenTab) {
     fetch();
     EXPECT_EQ(named<QLabel>("total")->text(), QStringLiteral("11h"));
     EXPECT_EQ(named<QLabel>("cost")->text(), QStringLiteral("$990.00"));
-    named<QTabBar>("Results")->setCurrentIndex(1);
+    named<QRadioButton>("Selected Events")->click();
     QApplication::processEvents();
     EXPECT_EQ(integerForKey(settings, "totalsTabViewSelection"), 1);
     EXPECT_EQ(named<QLabel>("total")->text(), QStringLiteral("2h"));

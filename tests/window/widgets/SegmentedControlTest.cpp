@@ -70,6 +70,7 @@ TEST_F(SegmentedControlTest, AnswersToTheMouseUpToItsEdges) {
 }
 
 TEST_F(SegmentedControlTest, ArrowKeysGoOnFromTheChosenOne) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&control));
     control.setChosen(0);
     segment(0)->setFocus();
     QTest::keyClick(segment(0), Qt::Key_Right);
