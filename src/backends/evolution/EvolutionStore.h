@@ -31,7 +31,8 @@ public:
         std::function<QString(Instant)> shortTime;
         /// Floating times and whole days are those of this zone, whose changes are followed:
         /// everything is asked for again.
-        std::shared_ptr<const UserTimeZone> zone;
+        std::shared_ptr<const UserTimeZone> zone =
+            std::make_shared<const UserTimeZone>(QTimeZone::systemTimeZone());
         ServiceLimits limits = {};
     };
 

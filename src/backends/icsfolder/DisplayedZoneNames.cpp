@@ -58,7 +58,8 @@ std::optional<Offset> leadingOffset(const QString& text) {
     const auto match = pattern.match(text);
     const bool isNamed = match.hasMatch() && match.capturedLength(1) > 0;
     const bool hasNumber = match.hasMatch() && match.capturedLength(2) > 0;
-    if (!isNamed && !hasNumber) {
+    const bool isClosed = match.captured(5) == u')';
+    if ((!isNamed && !hasNumber) || isClosed != text.startsWith(u'(')) {
         return std::nullopt;
     }
     const int minutes = match.captured(3).toInt() * 60 + match.captured(4).toInt();

@@ -107,7 +107,8 @@ TEST(ZoneDatabaseTest, DaysBeginWhereTheSystemHasThemBegin) {
         const Zoned program(zone);
         for (QDate day(2009, 1, 1); day < QDate(2030, 1, 1); day = day.addDays(1)) {
             const QDateTime afternoon(day, QTime(15, 0), zone);
-            if (afternoon.date() != day) {
+            // A zone may leave out a whole date.
+            if (inZone(zone, toInstant(afternoon)).date() != day) {
                 continue;
             }
             const Instant start = program.calendar.startOfDay(toInstant(afternoon));
