@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 namespace quillet {
 
@@ -18,13 +19,20 @@ QByteArray contentOf(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.read(longestName).trimmed() : QByteArray();
 }
 
+/// Whether the zone database has it; other words would be read as zones of a name alone, as UTC.
+bool isZoneName(const QByteArray& name) {
+    static const QRegularExpression pattern(
+        QStringLiteral("^[A-Za-z][A-Za-z0-9_+-]*(/[A-Za-z0-9][A-Za-z0-9_+-]*)*$"));
+    const QString text = QString::fromLatin1(name);
+    return pattern.match(text).hasMatch() &&
+           QFileInfo::exists(QStringLiteral("/usr/share/zoneinfo/") + text);
+}
+
 } // namespace
 
 QTimeZone DatesZone::kept() const {
     const QByteArray name = contentOf(path_);
-    // No name leads out of the zone database.
-    return name.isEmpty() || name.contains("..") || name.startsWith('/') ? QTimeZone()
-                                                                         : QTimeZone(name);
+    return isZoneName(name) ? QTimeZone(name) : QTimeZone();
 }
 
 void DatesZone::keep(const QTimeZone& zone) const {
