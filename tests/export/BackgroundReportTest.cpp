@@ -5,6 +5,7 @@
 #include "export/ExportTxtViewController.h"
 #include "platform/SerialQueue.h"
 #include "support/EventSamples.h"
+#include "support/Fakes.h"
 #include "support/MemorySettings.h"
 
 #include <gtest/gtest.h>

@@ -5,6 +5,7 @@
 #include "eventtable/ColumnTable.h"
 #include "eventtable/EventColumns.h"
 #include "support/EventSamples.h"
+#include "support/Fakes.h"
 #include "support/MemorySettings.h"
 
 #include <gtest/gtest.h>

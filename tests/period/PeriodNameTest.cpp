@@ -2,7 +2,7 @@
 
 #include "backends/icu/IcuLocaleFormats.h"
 #include "period/DateInspectorController.h"
-#include "support/EventSamples.h"
+#include "support/Fakes.h"
 
 #include <gtest/gtest.h>
 
