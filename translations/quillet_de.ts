@@ -653,7 +653,7 @@
     </message>
     <message>
         <source>h</source>
-        <translation>Std.</translation>
+        <translation>h</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -833,7 +833,7 @@
     </message>
     <message>
         <source>min</source>
-        <translation>Min.</translation>
+        <translation>min</translation>
     </message>
     <message>
         <source>Minutes</source>

@@ -81,7 +81,7 @@
     </message>
     <message>
         <source>%1: %2. Please correct it in your calendar program.</source>
-        <translation>%1 : %2. Corrigez-le dans votre logiciel de calendrier.</translation>
+        <translation>%1 : %2. Corrigez-le dans votre logiciel de calendrier.</translation>
     </message>
     <message>
         <source>(no location)</source>
@@ -1423,7 +1423,7 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     </message>
     <message>
         <source>the additional date “%1” cannot be read and is left out</source>
-        <translation>la date supplémentaire « %1 » est illisible et est ignorée</translation>
+        <translation>la date supplémentaire « %1 » est illisible et est ignorée</translation>
     </message>
     <message>
         <source>The calendar could not be added</source>
@@ -1451,11 +1451,11 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     </message>
     <message>
         <source>the end “%1” cannot be read and does not count</source>
-        <translation>la fin « %1 » est illisible et ne compte pas</translation>
+        <translation>la fin « %1 » est illisible et ne compte pas</translation>
     </message>
     <message>
         <source>the end “%1” is before the start; no time is counted to it</source>
-        <translation>la fin « %1 » précède le début ; aucun temps n’est compté</translation>
+        <translation>la fin « %1 » précède le début ; aucun temps n’est compté</translation>
     </message>
     <message>
         <source>the event ends before it begins, or lies outside the period</source>
@@ -1463,7 +1463,7 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     </message>
     <message>
         <source>the exceptions “%1” cannot be followed; what they leave out is shown</source>
-        <translation>les exceptions « %1 » ne peuvent pas être suivies ; ce qu’elles excluent est affiché</translation>
+        <translation>les exceptions « %1 » ne peuvent pas être suivies ; ce qu’elles excluent est affiché</translation>
     </message>
     <message>
         <source>The first column is the calendar's own identifier of the event</source>
@@ -1491,19 +1491,19 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     </message>
     <message>
         <source>the left-out date “%1” cannot be read; what is on it is shown</source>
-        <translation>la date exclue « %1 » est illisible ; ce qui y tombe est affiché</translation>
+        <translation>la date exclue « %1 » est illisible ; ce qui y tombe est affiché</translation>
     </message>
     <message>
         <source>the length “%1” cannot be read and does not count</source>
-        <translation>la durée « %1 » est illisible et ne compte pas</translation>
+        <translation>la durée « %1 » est illisible et ne compte pas</translation>
     </message>
     <message>
         <source>the length “%1” is below zero and counts as none</source>
-        <translation>la durée « %1 » est négative et compte pour zéro</translation>
+        <translation>la durée « %1 » est négative et compte pour zéro</translation>
     </message>
     <message>
         <source>the length “%1” is over a hundred years and is cut to that</source>
-        <translation>la durée « %1 » dépasse cent ans et y est ramenée</translation>
+        <translation>la durée « %1 » dépasse cent ans et y est ramenée</translation>
     </message>
     <message>
         <source>The list of versions cannot be reached. Are you connected to the Internet?</source>
@@ -1551,11 +1551,11 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     </message>
     <message>
         <source>the repetition “%1” cannot be followed; only the first event is shown</source>
-        <translation>la répétition « %1 » ne peut pas être suivie ; seul le premier événement est affiché</translation>
+        <translation>la répétition « %1 » ne peut pas être suivie ; seul le premier événement est affiché</translation>
     </message>
     <message>
         <source>the repetitions are too many to count; only the first event is shown</source>
-        <translation>les répétitions sont trop nombreuses pour être comptées ; seul le premier événement est affiché</translation>
+        <translation>les répétitions sont trop nombreuses pour être comptées ; seul le premier événement est affiché</translation>
     </message>
     <message>
         <source>The settings file %2 could not be read (%1) nor moved aside. Quillet starts with its first-run settings.</source>
@@ -1567,7 +1567,7 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     </message>
     <message>
         <source>the start “%1” cannot be read; the event is left out</source>
-        <translation>le début « %1 » est illisible ; l’événement est ignoré</translation>
+        <translation>le début « %1 » est illisible ; l’événement est ignoré</translation>
     </message>
     <message>
         <source>The sum in hours, minutes or as a duration</source>
@@ -1595,7 +1595,7 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     </message>
     <message>
         <source>the time zone is not certain; it was read as “%1”, which the calendar names elsewhere</source>
-        <translation>le fuseau horaire n’est pas certain ; il a été lu comme « %1 », que le calendrier nomme ailleurs</translation>
+        <translation>le fuseau horaire n’est pas certain ; il a été lu comme « %1 », que le calendrier nomme ailleurs</translation>
     </message>
     <message>
         <source>The titles of the ticked calendars</source>
@@ -1779,7 +1779,7 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     </message>
     <message>
         <source>which occurrence it replaces cannot be read (“%1”); the series is shown without this change</source>
-        <translation>l’occurrence remplacée est illisible (« %1 ») ; la série est affichée sans cette modification</translation>
+        <translation>l’occurrence remplacée est illisible (« %1 ») ; la série est affichée sans cette modification</translation>
     </message>
     <message>
         <source>Which time column the table, the results and reports show</source>
@@ -1867,7 +1867,7 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     </message>
     <message>
         <source>“%1” is also in “%2”, in a newer version, which counts</source>
-        <translation>« %1 » figure aussi dans « %2 », dans une version plus récente, qui compte</translation>
+        <translation>« %1 » figure aussi dans « %2 », dans une version plus récente, qui compte</translation>
     </message>
     <message>
         <source>“%1” is among the calendars already.</source>

@@ -19,7 +19,7 @@ TableColumn::TableColumn(QString identifier, const SettingsStore& settings)
 TableColumn::~TableColumn() = default;
 
 QString TableColumn::headerTitle() const {
-    return known_ == nullptr ? QString() : known_->title.readOrFirstRun(settings_);
+    return known_ == nullptr ? QString() : known_->title.read(settings_);
 }
 
 void TableColumn::setWidthPoints(double width) {

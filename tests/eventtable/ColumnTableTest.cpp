@@ -74,7 +74,7 @@ TEST_F(ColumnTableTest, AColumnTellsOnceThatItIsHidden) {
 }
 
 TEST_F(ColumnTableTest, HeadersShowTheTitlesAsTheyAreSetNow) {
-    EXPECT_EQ(table.column("weekday").headerTitle(), "Start Weekday") << "before the first run";
+    EXPECT_EQ(table.column("weekday").headerTitle(), "") << "before the first run";
     settings.setObject("startWeekdayColumnTitle", "Day");
     EXPECT_EQ(table.column("weekday").headerTitle(), "Day");
     settings.setObject("startWeekdayColumnTitle", "");

@@ -8,8 +8,6 @@
 #include "window/widgets/SegmentedControl.h"
 
 #include <QHBoxLayout>
-#include <QStyleOptionFocusRect>
-#include <QStylePainter>
 #include <QTimer>
 
 namespace quillet {
@@ -19,9 +17,6 @@ ResultsPane::ResultsPane(SettingsStore& settings, QWidget* parent)
     , settings_(settings)
     , chooser_(new SegmentedControl(localized("Results"), this))
     , row_(new QHBoxLayout(this)) {
-    // One stop of the Tab key, at which all figures are said.
-    setFocusPolicy(Qt::TabFocus);
-    setAccessibleName(localized("Results"));
     makeChooser();
     makeFigures();
     arrange();
@@ -54,6 +49,8 @@ void ResultsPane::makeFigures() {
             position == Total || position == Cost ? Figure::Size::Large : Figure::Size::Small;
         auto* made = new Figure(localized(text), size, this);
         made->setObjectName(QString::fromLatin1(text).toLower());
+        // All figures are one stop of the Tab key, at which they are said together.
+        made->setFocusPolicy(position == Total ? Qt::StrongFocus : Qt::ClickFocus);
         figures_.at(static_cast<std::size_t>(position)) = made;
     }
 }
@@ -97,16 +94,6 @@ void ResultsPane::scheduleRefresh() {
     }
 }
 
-void ResultsPane::paintEvent(QPaintEvent* event) {
-    QWidget::paintEvent(event);
-    if (hasFocus()) {
-        QStylePainter painter(this);
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
-    }
-}
-
 ResultsTab ResultsPane::shownTab() const {
     return settings::totalsTabViewSelection.read(settings_) == 1 ? ResultsTab::SelectedEvents
                                                                  : ResultsTab::AllEvents;
@@ -140,7 +127,7 @@ void ResultsPane::refresh() {
         }
     }
     figure(Cost).setVisible(settings::isDollarsOn.read(settings_));
-    setAccessibleDescription(spokenFigures());
+    figure(Total).setAccessibleDescription(spokenFigures());
     Q_EMIT shown();
 }
 

@@ -37,9 +37,6 @@ Q_SIGNALS:
     /// What is shown has changed, and is on screen.
     void shown();
 
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
 private:
     enum Position { Events, Total, Shortest, Longest, Average, Days, Cost, PositionCount };
 

@@ -4,8 +4,9 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QPainter>
 #include <QScopedValueRollback>
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
 
 namespace quillet {
 
@@ -15,8 +16,6 @@ Figure::Figure(const QString& caption, Size size, QWidget* parent)
     , size_(size) {
     setTextFormat(Qt::PlainText);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    // Reached with its neighbours as one group, not one by one.
-    setFocusPolicy(Qt::ClickFocus);
     arrange();
 }
 
@@ -65,7 +64,12 @@ void Figure::changeEvent(QEvent* event) {
 
 void Figure::paintEvent(QPaintEvent* event) {
     QLabel::paintEvent(event);
-    QPainter painter(this);
+    QStylePainter painter(this);
+    if (hasFocus()) {
+        QStyleOptionFocusRect option;
+        option.initFrom(this);
+        painter.drawPrimitive(QStyle::PE_FrameFocusRect, option);
+    }
     painter.setFont(quietFont());
     painter.setPen(toned(palette(), Tone::Explaining));
     if (size_ == Size::Small) {

@@ -97,8 +97,11 @@ void SegmentedControl::addSegment(const QString& text) {
     // Assistive programs check a button without clicking it, and a click on the chosen one changes
     // nothing that could be toggled.
     connect(segment, &QRadioButton::toggled, this, [this, place](bool isChecked) {
-        if (isChecked && !isShowing_) {
-            Q_EMIT picked(place);
+        if (isChecked) {
+            passTabTo(place);
+            if (!isShowing_) {
+                Q_EMIT picked(place);
+            }
         }
     });
     connect(segment, &QRadioButton::pressed, this, [this, segment, place] {
@@ -107,6 +110,7 @@ void SegmentedControl::addSegment(const QString& text) {
         }
     });
     segments_.push_back(segment);
+    passTabTo(0);
     layout()->addWidget(segment);
     describePlaces();
 }
@@ -134,15 +138,24 @@ int SegmentedControl::chosen() const {
 
 void SegmentedControl::setChosen(int place) {
     const QScopedValueRollback showing(isShowing_, true);
-    if (place >= 0 && place < count()) {
-        segments_[static_cast<std::size_t>(place)]->setChecked(true);
-        return;
+    for (int each = 0; each < count(); ++each) {
+        Segment& segment = *segments_[static_cast<std::size_t>(each)];
+        if (each == place) {
+            segment.setChecked(true);
+        } else if (place < 0 || place >= count()) {
+            // An exclusive button cannot be unchecked.
+            segment.setAutoExclusive(false);
+            segment.setChecked(false);
+            segment.setAutoExclusive(true);
+        }
     }
-    for (Segment* segment : segments_) {
-        // An exclusive button cannot be unchecked.
-        segment->setAutoExclusive(false);
-        segment->setChecked(false);
-        segment->setAutoExclusive(true);
+    passTabTo(chosen() < 0 ? 0 : chosen());
+}
+
+void SegmentedControl::passTabTo(int place) {
+    for (int each = 0; each < count(); ++each) {
+        segments_[static_cast<std::size_t>(each)]->setFocusPolicy(each == place ? Qt::StrongFocus
+                                                                                : Qt::ClickFocus);
     }
 }
 

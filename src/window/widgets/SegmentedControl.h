@@ -38,6 +38,8 @@ protected:
 
 private:
     void describePlaces();
+    /// Tab goes to the chosen one; to the first while there is none.
+    void passTabTo(int place);
 
     std::vector<Segment*> segments_;
     bool isShowing_ = false;

@@ -11,8 +11,11 @@ namespace {
 
 class ChangesOnDiskTest : public StoreFixture {
 protected:
-    static QByteArray titled(const QByteArray& title) {
-        return eventFile("SUMMARY:" + title + "\r\nDTSTART:20240301T110000Z");
+    /// Of an event of its own, or of the one of that identifier.
+    static QByteArray titled(const QByteArray& title, const QByteArray& identifier = {}) {
+        return "BEGIN:VCALENDAR\r\nVERSION:2.0\r\nBEGIN:VEVENT\r\nUID:" +
+               (identifier.isEmpty() ? title : identifier) + "\r\nSUMMARY:" + title +
+               "\r\nDTSTART:20240301T110000Z\r\nEND:VEVENT\r\nEND:VCALENDAR\r\n";
     }
     void openAndLoad() {
         open();
@@ -148,7 +151,7 @@ TEST_F(ChangesOnDiskTest, sayNothingWhenNothingOfCalendarsChanges) {
 TEST_F(ChangesOnDiskTest, keepMovingWhileAnotherThreadReads) {
     write(QStringLiteral("work/a.ics"), titled("A"));
     for (int number = 0; number < 200; ++number) {
-        write(QStringLiteral("home/%1.ics").arg(number), titled("H"));
+        write(QStringLiteral("home/%1.ics").arg(number), titled("H", QByteArray::number(number)));
     }
     open();
     const CalendarList calendars = store->calendars();
@@ -176,7 +179,7 @@ TEST_F(ChangesOnDiskTest, keepMovingWhileAnotherThreadReads) {
 
 TEST_F(ChangesOnDiskTest, endQuietlyInTheMiddleOfLoading) {
     for (int number = 0; number < 500; ++number) {
-        write(QStringLiteral("home/%1.ics").arg(number), titled("H"));
+        write(QStringLiteral("home/%1.ics").arg(number), titled("H", QByteArray::number(number)));
     }
     for (int round = 0; round < 10; ++round) {
         open();

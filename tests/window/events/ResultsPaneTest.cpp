@@ -15,6 +15,8 @@ class ResultsPaneTest : public test::WindowFixture {
 protected:
     ResultsPaneTest() {
         open();
+        // Room for the small figures, too.
+        window->resize(1600, 700);
         events.setSelectedRows({0, 1});
         fetch();
     }

@@ -136,16 +136,6 @@ TEST_F(PeriodPickersTest, WithoutAccessNoControlChangesThePeriod) {
     }
 }
 
-TEST_F(PeriodPickersTest, TheChosenKindIsGreyWhileNoneCanBeChosen) {
-    const QPalette usual = QApplication::palette();
-    const QColor grey = usual.color(QPalette::Disabled, QPalette::Highlight);
-    ASSERT_NE(grey, usual.color(QPalette::Active, QPalette::Highlight));
-    const QPalette chosen = named<QAbstractButton>("Month")->palette();
-    EXPECT_EQ(chosen.color(QPalette::Disabled, QPalette::Button), grey);
-    EXPECT_EQ(chosen.color(QPalette::Active, QPalette::Button),
-              usual.color(QPalette::Active, QPalette::Highlight));
-}
-
 TEST_F(PeriodPickersTest, TheLabelsOfTheTableShowTheReportingPeriod) {
     EXPECT_EQ(itemView.periodLabelString(), QStringLiteral("Month"));
     EXPECT_EQ(itemView.dateRangeLabelString(), QStringLiteral("March 1, 2024 - March 31, 2024"));

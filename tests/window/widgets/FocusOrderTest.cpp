@@ -58,10 +58,28 @@ protected:
 
 TEST_F(FocusOrderTest, TabFollowsTheEyeAndComesRound) {
     openWithPane(&ExportActions::text);
-    expectWalk({"Previous", "March 2024", "Next", "Current", "Month", "Inspector", "Results",
-                "All Events", "Layouts", "Events", "Options…", "Save…", "Close", "Text Report",
-                "Hourly Rate", "One rate for all calendars", "Start Date", "Locked", "End Date",
-                "Search Events", "Calendar Group", "Calendars"});
+    expectWalk({"Previous",
+                "March 2024",
+                "Next",
+                "Current",
+                "Month",
+                "Inspector",
+                "Total: 11 hours",
+                "All Events",
+                "Layouts",
+                "Events",
+                "Options…",
+                "Save…",
+                "Close",
+                "Text Report",
+                "Hourly Rate",
+                "One rate for all calendars",
+                "Start Date",
+                "Locked",
+                "End Date",
+                "Search Events",
+                "Calendar Group",
+                "Calendars"});
 }
 
 TEST_F(FocusOrderTest, SwitchesBelowTheButtonsComeAfterThem) {

@@ -89,6 +89,37 @@ TEST_F(SegmentedControlTest, IsARowOfRadioButtonsToAScreenReader) {
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&control)->text(QAccessible::Name), "Period");
 }
 
+TEST_F(SegmentedControlTest, TheChosenOneIsGreyWhileNoneCanBeChosen) {
+    control.setChosen(1);
+    const auto colorOfChosen = [this] {
+        const QImage image = segment(1)->grab().toImage();
+        return image.pixelColor(image.width() / 2, 4);
+    };
+    const QPalette palette = control.palette();
+    ASSERT_NE(palette.color(QPalette::Disabled, QPalette::Highlight),
+              palette.color(QPalette::Active, QPalette::Highlight));
+    EXPECT_EQ(colorOfChosen(), palette.color(QPalette::Active, QPalette::Highlight));
+    control.setEnabled(false);
+    EXPECT_EQ(colorOfChosen(), palette.color(QPalette::Disabled, QPalette::Highlight));
+}
+
+TEST_F(SegmentedControlTest, TabGoesToTheChosenOneAlone) {
+    const auto stops = [this] {
+        std::vector<bool> reached;
+        for (int place = 0; place < control.count(); ++place) {
+            reached.push_back((segment(place)->focusPolicy() & Qt::TabFocus) != 0);
+        }
+        return reached;
+    };
+    EXPECT_EQ(stops(), (std::vector{true, false, false})) << "none is chosen";
+    control.setChosen(2);
+    EXPECT_EQ(stops(), (std::vector{false, false, true}));
+    segment(1)->click();
+    EXPECT_EQ(stops(), (std::vector{false, true, false}));
+    control.setChosen(-1);
+    EXPECT_EQ(stops(), (std::vector{true, false, false}));
+}
+
 TEST_F(SegmentedControlTest, CanBeReadInThePalettesOfAllDesktops) {
     QFont font = control.font();
     font.setPixelSize(40);
