@@ -4,6 +4,7 @@
 #include "texts/Localized.h"
 #include "window/main/NameListModel.h"
 #include "window/preferences/SettingsBinding.h"
+#include "window/widgets/LetterWidth.h"
 #include "window/widgets/NamedComboBox.h"
 #include "window/widgets/SymbolIcon.h"
 
@@ -26,7 +27,7 @@ GroupChooser::GroupChooser(const WindowGroups& groups, SettingsStore& settings, 
     chooser_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     chooser_->setMinimumContentsLength(8);
     constexpr int widestNameInCharacters = 50;
-    chooser_->view()->window()->setMaximumWidth(fontMetrics().averageCharWidth() *
+    chooser_->view()->window()->setMaximumWidth(letterWidth(fontMetrics()) *
                                                 widestNameInCharacters);
     auto* edit = new QToolButton(this);
     edit->setIcon(symbolIcon(Symbol::Edit));

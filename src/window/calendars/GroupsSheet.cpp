@@ -2,6 +2,7 @@
 
 #include "texts/Localized.h"
 #include "window/main/NameListEditor.h"
+#include "window/widgets/LetterWidth.h"
 #include "window/widgets/NameListView.h"
 
 #include <QDialogButtonBox>
@@ -47,7 +48,7 @@ GroupsSheet::GroupsSheet(CalendarGroupsArrayController& groups,
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(sides);
     layout->addWidget(buttons);
-    resize(fontMetrics().averageCharWidth() * 90, fontMetrics().height() * 22);
+    resize(letterWidth(fontMetrics()) * 90, fontMetrics().height() * 22);
 
     // The checklist changes with the selection, and a group may come to be the first one.
     for (ListControllerNotices* notices :

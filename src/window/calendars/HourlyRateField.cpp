@@ -3,6 +3,7 @@
 #include "platform/Settings.h"
 #include "window/calendars/RateEditing.h"
 #include "window/preferences/SettingsBinding.h"
+#include "window/widgets/LetterWidth.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -38,7 +39,7 @@ HourlyRateField::HourlyRateField(SettingsStore& settings, const LocaleFormats& f
     , edit_(new QLineEdit(this))
     , complaint_(new QLabel(this))
     , editing_(new RateEditing(*edit_, *complaint_, formats, sharedRate(settings))) {
-    edit_->setMaximumWidth(fontMetrics().averageCharWidth() * 16);
+    edit_->setMaximumWidth(letterWidth(fontMetrics()) * 16);
     setFocusProxy(edit_);
     complaint_->setTextFormat(Qt::PlainText);
     auto* layout = new QHBoxLayout(this);

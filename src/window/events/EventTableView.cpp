@@ -8,6 +8,7 @@
 #include "window/events/ColumnsMenu.h"
 #include "window/widgets/CellPadding.h"
 #include "window/widgets/HeaderPadding.h"
+#include "window/widgets/LetterWidth.h"
 
 #include <QAction>
 #include <QHeaderView>
@@ -139,7 +140,7 @@ void EventTableView::setUpHeader() {
     header.setSectionsClickable(true);
     header.setHighlightSections(false);
     header.setStretchLastSection(false);
-    header.setMinimumSectionSize(fontMetrics().averageCharWidth() * 4);
+    header.setMinimumSectionSize(letterWidth(fontMetrics()) * 4);
     header.setSortIndicatorClearable(true);
     header.setSortIndicator(-1, Qt::AscendingOrder);
     header.setSortIndicatorShown(true);

@@ -2,6 +2,7 @@
 
 #include "results/SearchFieldController.h"
 #include "texts/Localized.h"
+#include "window/widgets/LetterWidth.h"
 #include "window/widgets/SymbolIcon.h"
 
 #include <QActionGroup>
@@ -18,7 +19,7 @@ SearchBox::SearchBox(QWidget* parent)
     , menu_(new QMenu(this))
     , categories_(new QActionGroup(this)) {
     setObjectName(QStringLiteral("searchField"));
-    const int unit = fontMetrics().averageCharWidth();
+    const int unit = letterWidth(fontMetrics());
     setMinimumWidth(unit * 18);
     setMaximumWidth(unit * 40);
     QAction* open = addAction(symbolIcon(Symbol::Search, QPalette::Text), LeadingPosition);

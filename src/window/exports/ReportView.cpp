@@ -2,6 +2,7 @@
 
 #include "texts/Localized.h"
 #include "window/widgets/CaretMoves.h"
+#include "window/widgets/LetterWidth.h"
 
 #include <QAccessible>
 #include <QClipboard>
@@ -95,7 +96,7 @@ void ReportView::updateScrollBars() {
         0, static_cast<int>(std::max<qsizetype>(0, lines_.count() - linesOnScreen())));
     const double width =
         static_cast<double>(lines_.longestLength()) * QFontMetricsF(font()).horizontalAdvance(u'0');
-    horizontalScrollBar()->setSingleStep(fontMetrics().averageCharWidth() * 4);
+    horizontalScrollBar()->setSingleStep(letterWidth(fontMetrics()) * 4);
     horizontalScrollBar()->setPageStep(viewport()->width());
     horizontalScrollBar()->setRange(
         0, std::max(0, static_cast<int>(width) + 2 * margin - viewport()->width()));

@@ -2,6 +2,7 @@
 
 #include "texts/Localized.h"
 #include "window/main/NameListEditor.h"
+#include "window/widgets/LetterWidth.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -68,7 +69,7 @@ void TXTSettingsSheet::build() {
     QObject::connect(new QShortcut(QKeySequence::Close, dialog_), &QShortcut::activated, dialog_,
                      &QDialog::reject);
     constexpr int widthInCharacters = 52;
-    dialog_->setMinimumWidth(dialog_->fontMetrics().averageCharWidth() * widthInCharacters);
+    dialog_->setMinimumWidth(letterWidth(dialog_->fontMetrics()) * widthInCharacters);
     auto* layout = new QVBoxLayout(dialog_);
     layout->addWidget(note);
     layout->addWidget(list_, 1);

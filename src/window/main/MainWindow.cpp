@@ -16,6 +16,7 @@
 #include "window/widgets/EmptyState.h"
 #include "window/widgets/FittingToolBar.h"
 #include "window/widgets/FocusOrder.h"
+#include "window/widgets/LetterWidth.h"
 #include "window/widgets/LocalFile.h"
 #include "window/widgets/PaneScroller.h"
 #include "window/widgets/SymbolIcon.h"
@@ -92,7 +93,7 @@ void MainWindow::makePanes() {
     splitter_->addWidget(makeCentre());
     splitter_->addWidget(panes_->container(Pane::Inspector));
     splitter_->setStretchFactor(1, 1);
-    const int unit = fontMetrics().averageCharWidth();
+    const int unit = letterWidth(fontMetrics());
     // In fonts with Chinese characters the average is as wide as one of these.
     calendarPane_->setMinimumWidth(fontMetrics().horizontalAdvance(u'0') * 14);
     splitter_->setSizes({unit * 32, unit * 110, unit * 40});
@@ -305,7 +306,7 @@ void MainWindow::showMessage(const QString& message) {
 void MainWindow::restoreState(const QString& stateFile) {
     const QSettings state(stateFile, QSettings::IniFormat);
     if (!restoreGeometry(state.value(QStringLiteral("geometry")).toByteArray())) {
-        const int unit = fontMetrics().averageCharWidth();
+        const int unit = letterWidth(fontMetrics());
         // The title bar comes on top.
         const QSize room =
             screen()->availableSize() - QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));

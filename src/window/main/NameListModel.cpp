@@ -1,6 +1,7 @@
 #include "window/main/NameListModel.h"
 
 #include "texts/Localized.h"
+#include "window/widgets/LetterWidth.h"
 
 #include <QRegularExpression>
 
@@ -17,8 +18,7 @@ QString shownName(const QString& name) {
 QString menuText(const QString& name, const QFontMetrics& metrics) {
     constexpr int widestInCharacters = 48;
     return metrics
-        .elidedText(shownName(name), Qt::ElideMiddle,
-                    metrics.averageCharWidth() * widestInCharacters)
+        .elidedText(shownName(name), Qt::ElideMiddle, letterWidth(metrics) * widestInCharacters)
         .replace(u'&', QStringLiteral("&&"));
 }
 

@@ -1,6 +1,7 @@
 #include "window/main/UpdateDialogs.h"
 
 #include "texts/Localized.h"
+#include "window/widgets/LetterWidth.h"
 #include "window/widgets/PlainMessage.h"
 
 #include <QDateTime>
@@ -42,7 +43,7 @@ QPlainTextEdit* makeNotesView(const QString& text, QWidget& parent) {
     view->setAccessibleName(localized("What is new"));
     constexpr int columns = 60;
     constexpr int lines = 14;
-    view->setMinimumSize(view->fontMetrics().averageCharWidth() * columns,
+    view->setMinimumSize(letterWidth(view->fontMetrics()) * columns,
                          view->fontMetrics().height() * lines);
     return view;
 }

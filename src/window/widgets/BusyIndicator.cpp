@@ -1,6 +1,7 @@
 #include "window/widgets/BusyIndicator.h"
 
 #include "texts/Localized.h"
+#include "window/widgets/LetterWidth.h"
 
 #include <QEvent>
 #include <QMainWindow>
@@ -19,7 +20,7 @@ BusyIndicator::BusyIndicator(QMainWindow& window)
     setRange(0, 0);
     setTextVisible(false);
     setAccessibleName(localized("Fetching Events"));
-    resize(fontMetrics().averageCharWidth() * 24, sizeHint().height());
+    resize(letterWidth(fontMetrics()) * 24, sizeHint().height());
     hide();
     delay_.setSingleShot(true);
     delay_.setInterval(delayMilliseconds);

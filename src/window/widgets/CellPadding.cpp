@@ -1,5 +1,7 @@
 #include "window/widgets/CellPadding.h"
 
+#include "window/widgets/LetterWidth.h"
+
 #include <QApplication>
 #include <QPainter>
 
@@ -11,7 +13,7 @@ CellPadding::CellPadding(QObject* parent)
 CellPadding::~CellPadding() = default;
 
 int CellPadding::distance(const QFontMetrics& metrics) {
-    return metrics.averageCharWidth() / 2;
+    return letterWidth(metrics) / 2;
 }
 
 void CellPadding::paint(QPainter* painter, const QStyleOptionViewItem& option,

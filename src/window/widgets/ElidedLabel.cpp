@@ -1,5 +1,7 @@
 #include "window/widgets/ElidedLabel.h"
 
+#include "window/widgets/LetterWidth.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
@@ -21,7 +23,7 @@ QSize ElidedLabel::minimumSizeHint() const {
     constexpr int fewCharacters = 8;
     const QMargins margins = contentsMargins();
     QSize size = QLabel::minimumSizeHint();
-    size.setWidth(std::min(size.width(), fontMetrics().averageCharWidth() * fewCharacters +
+    size.setWidth(std::min(size.width(), letterWidth(fontMetrics()) * fewCharacters +
                                              margins.left() + margins.right()));
     return size;
 }

@@ -1,5 +1,7 @@
 #include "window/widgets/PaneScroller.h"
 
+#include "window/widgets/LetterWidth.h"
+
 #include <QEvent>
 #include <QScreen>
 #include <QStyle>
@@ -23,8 +25,7 @@ QSize PaneScroller::sizeHint() const {
 QSize PaneScroller::roomOnScreen() const {
     // Title bar, menu bar, toolbar, a status line and a panel of the desktop.
     constexpr int linesAroundPanes = 9;
-    const QSize around(2 * fontMetrics().averageCharWidth(),
-                       linesAroundPanes * fontMetrics().height());
+    const QSize around(2 * letterWidth(fontMetrics()), linesAroundPanes * fontMetrics().height());
     return (screen()->availableSize() - around).expandedTo(around);
 }
 

@@ -3,6 +3,7 @@
 #include "texts/Localized.h"
 
 #include <QLabel>
+#include <QResizeEvent>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -66,6 +67,14 @@ int ProblemFoot::heightForWidth(int width) const {
 
 QSize ProblemFoot::sizeHint() const {
     return {0, heightForWidth(width())};
+}
+
+void ProblemFoot::resizeEvent(QResizeEvent* event) {
+    QScrollArea::resizeEvent(event);
+    // The lines break elsewhere.
+    if (event->size().width() != event->oldSize().width()) {
+        updateGeometry();
+    }
 }
 
 QSize ProblemFoot::minimumSizeHint() const {
