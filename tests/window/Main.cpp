@@ -1,11 +1,12 @@
 #include "support/ExpectedLog.h"
+#include "support/OwnSession.h"
 
 #include <QApplication>
 
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    quillet::test::leaveSession();
     testing::InitGoogleTest(&argc, argv);
     const QApplication application(argc, argv);
     quillet::test::failOnUnexpectedLog();

@@ -3,6 +3,8 @@
 
 #include <QRandomGenerator>
 
+#include <cerrno>
+#include <cstring>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -92,8 +94,9 @@ TEST_F(HostileInputTest, keepsACalendarListedWhoseLinkLeadsNowhere) {
     ASSERT_EQ(::symlink("/nowhere/calendar",
                         (rootPath() + QStringLiteral("/away")).toStdString().c_str()),
               0);
-    expectOneProblem(QStringLiteral("away"),
-                     QStringLiteral("cannot be reached: No such file or directory"));
+    expectOneProblem(QStringLiteral("away"), QStringLiteral("cannot be reached: ") +
+                                                 // In the language of the machine.
+                                                 QString::fromLocal8Bit(std::strerror(ENOENT)));
     EXPECT_EQ(store->calendars().size(), 2U);
 }
 
