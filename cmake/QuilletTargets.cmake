@@ -12,6 +12,20 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
   # Without it ccache would compile anew whatever takes a precompiled header.
   target_compile_options(quillet_options INTERFACE -fpch-preprocess)
 endif()
+if(QUILLET_HARDENING)
+  # scripts/style looks for each of these in what is installed.
+  include(CheckCXXCompilerFlag)
+  check_cxx_compiler_flag(-fcf-protection=full QUILLET_HAS_CONTROL_FLOW_PROTECTION)
+  set(hardening -fstack-protector-strong -fstack-clash-protection
+    -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3 -D_GLIBCXX_ASSERTIONS)
+  if(QUILLET_HAS_CONTROL_FLOW_PROTECTION)
+    list(APPEND hardening -fcf-protection=full)
+  endif()
+  set(is_release $<CONFIG:Release,RelWithDebInfo,MinSizeRel>)
+  target_compile_options(quillet_options INTERFACE "$<${is_release}:${hardening}>")
+  target_link_options(quillet_options INTERFACE
+    $<${is_release}:LINKER:-z,relro,-z,now,-z,noexecstack>)
+endif()
 if(QUILLET_SANITIZERS)
   target_compile_options(quillet_options INTERFACE
     -fsanitize=${QUILLET_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all)
