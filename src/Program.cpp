@@ -4,6 +4,7 @@
 #include "backends/activation/WindowFront.h"
 #include "backends/programs/SoftwareCentre.h"
 #include "eventtable/ColumnLayout.h"
+#include "platform/FileReading.h"
 #include "texts/Localized.h"
 
 #include <QCoreApplication>
@@ -11,12 +12,13 @@
 #include <QTimer>
 
 #include <map>
+#include <tuple>
 
 namespace quillet {
 
 namespace {
 
-const QString windowStateFile = QStringLiteral("/window.ini");
+constexpr qint64 largestWindowState = 1'000'000;
 
 std::vector<std::reference_wrapper<EventStore>> present(EventStore& folder, EventStore* service) {
     return service == nullptr ? std::vector{std::ref(folder)}
@@ -41,6 +43,7 @@ Program::Program(const ProgramPaths& paths, ApplicationService& service)
     , gregorian_(locales_.time, timeZone_, CalendarSystem::Gregorian)
     , currentCalendar_(locales_.time, timeZone_, CalendarSystem::OfLocale)
     , formats_(locales_, timeZone_)
+    , quitQuestion_([this] { return isSaved(); }, dialogs_)
     , taskLauncher_([this] { settings_.flush(); }, [this] { service_.endSoon(); })
     , scriptRunner_({taskLauncher_, pasteboard_, dialogs_,
                      [this](const EventRequest& request) { return placeOf(request); }})
@@ -105,7 +108,7 @@ EventTableView* Program::makeTable() {
                                      [this](const QString& column, SortDirection direction) {
                                          return core_.eventOrder.sorter(column, direction);
                                      });
-    const QSettings state(paths_.stateFolder + windowStateFile, QSettings::IniFormat);
+    const QSettings state(windowStateFile(), QSettings::IniFormat);
     if (!table->restoreColumnState(state.value(QStringLiteral("columns")).toByteArray())) {
         applyPlacements(defaultColumnPlacements(), columns_);
     }
@@ -113,14 +116,30 @@ EventTableView* Program::makeTable() {
 }
 
 Program::~Program() {
-    if (window_) {
-        window_->saveState(paths_.stateFolder + windowStateFile);
-        // First, so that a report that is being built is given up instead of waited for.
-        window_.reset();
-    }
+    // First, so that a report that is being built is given up instead of waited for.
+    window_.reset();
     // The main queue's last tasks would find their receivers gone.
     fetchQueue_.reset();
     reportQueue_.reset();
+}
+
+void Program::save() {
+    settings_.flush();
+    window_->saveState(windowStateFile());
+}
+
+bool Program::isSaved() {
+    settings_.flush();
+    return settings_.isWritten();
+}
+
+QString Program::windowStateFile() const {
+    QString path = paths_.stateFolder + QStringLiteral("/window.ini");
+    const auto contents = contentsOfFile(path, largestWindowState);
+    if (!contents && contents.error().kind != FileRefusal::Kind::Missing) {
+        std::ignore = movedAside(path);
+    }
+    return path;
 }
 
 void Program::start() {
@@ -130,12 +149,13 @@ void Program::start() {
         core_, MainWindow::Parts{
                    .eventTable = *eventTable_,
                    .reportBuilding = {*reportQueue_, *mainQueue_, reportFormats_, reportCalendar_},
-                   .calendarActions = calendarActions()});
+                   .calendarActions = calendarActions(),
+                   .mayQuit = [this] { return quitQuestion_.mayQuit(); }});
     dialogs_.setWindow(window_.get());
     updateDialogs_.setWindow(window_.get());
     connectNotices();
     core_.finishLaunching();
-    window_->restoreState(paths_.stateFolder + windowStateFile);
+    window_->restoreState(windowStateFile());
     window_->refreshProblems();
     window_->showMessage(settings_.startMessage().value_or(QString()));
     window_->show();

@@ -20,6 +20,7 @@
 #include "window/main/ActivationWatcher.h"
 #include "window/main/DesktopDialogs.h"
 #include "window/main/MainWindow.h"
+#include "window/main/QuitQuestion.h"
 #include "window/main/UpdateDialogs.h"
 
 namespace quillet {
@@ -46,9 +47,15 @@ public:
 
     /// Wakes the controllers, shows the window and comes to the front for the first time.
     void start();
+    /// Writes the settings and the window's sizes, before the end.
+    void save();
 
 private:
     [[nodiscard]] CalendarActions calendarActions();
+    /// Writes the settings; whether all of them could be.
+    [[nodiscard]] bool isSaved();
+    /// Where the window's sizes are kept; whatever is no such file has been moved aside.
+    [[nodiscard]] QString windowStateFile() const;
     [[nodiscard]] EventPlace placeOf(const EventRequest& request) const;
     [[nodiscard]] CoreSeams seams();
     [[nodiscard]] EventTableView* makeTable();
@@ -68,6 +75,7 @@ private:
     IcuLocaleFormats formats_;
     SystemClock clock_;
     DesktopDialogs dialogs_;
+    QuitQuestion quitQuestion_;
     DesktopWorkspace workspace_;
     ProcessTaskLauncher taskLauncher_;
     PackagedPrograms installedPrograms_;

@@ -1,4 +1,5 @@
 #include "Program.h"
+#include "backends/activation/EndSignals.h"
 #include "backends/translations/Translations.h"
 #include "window/exports/ReportViewAccessible.h"
 #include "window/widgets/ClearIndicators.h"
@@ -12,6 +13,9 @@ namespace {
 
 /// How long a start waits for the running program to come to the front, or to end.
 constexpr std::chrono::seconds patienceWithAnother{10};
+
+/// How long the end may take once everything is saved: it waits for what is being read.
+constexpr std::chrono::milliseconds longestEnd{50};
 
 /// The XDG state folder, which Qt does not know yet.
 QString stateHome() {
@@ -57,6 +61,15 @@ int main(int argc, char** argv) {
     quillet::Program program(programPaths(languages), service);
     QObject::connect(&application, &QApplication::lastWindowClosed, &service,
                      &quillet::ApplicationService::endSoon);
+    const quillet::EndSignals endSignals([&service] {
+        service.endSoon();
+        // Dialogs that are open end as well, unanswered; the settings and the window's sizes are
+        // written as at any other end.
+        QApplication::exit(0);
+    });
     program.start();
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    program.save();
+    quillet::endWithin(longestEnd, status);
+    return status;
 }

@@ -1130,6 +1130,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>&amp;Beenden</translation>
     </message>
     <message>
+        <source>Quit Anyway</source>
+        <translation>Trotzdem beenden</translation>
+    </message>
+    <message>
         <source>Quoted fields may hold separators and quotation marks</source>
         <translation>Felder in Anführungszeichen dürfen Trennzeichen und Anführungszeichen enthalten</translation>
     </message>
@@ -1450,6 +1454,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>während „%1“ wird die Uhr umgestellt; %2 zählen</translation>
     </message>
     <message>
+        <source>The disk does not take the settings. When Quillet quits now, it forgets what was changed since they were last saved.</source>
+        <translation>Die Einstellungen lassen sich nicht auf die Platte schreiben. Wird Quillet jetzt beendet, geht verloren, was seit dem letzten Speichern geändert wurde.</translation>
+    </message>
+    <message>
         <source>the end “%1” cannot be read and does not count</source>
         <translation>das Ende „%1“ ist nicht lesbar und zählt nicht</translation>
     </message>
@@ -1682,6 +1690,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
         <translation>Summe: %1</translation>
     </message>
     <message>
+        <source>Try Again</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
         <source>TSV</source>
         <translation>TSV</translation>
     </message>
@@ -1816,6 +1828,10 @@ Möchten Sie das übliche Textformat von Quillet verwenden, stellen Sie die Schr
     <message>
         <source>Your events appear here once you allow it.</source>
         <translation>Ihre Termine erscheinen hier, sobald Sie es erlauben.</translation>
+    </message>
+    <message>
+        <source>Your last changes cannot be saved</source>
+        <translation>Ihre letzten Änderungen können nicht gespeichert werden</translation>
     </message>
     <message>
         <source>“%1” and “%2” overlap for %3</source>

@@ -1130,6 +1130,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>&amp;Salir</translation>
     </message>
     <message>
+        <source>Quit Anyway</source>
+        <translation>Salir de todos modos</translation>
+    </message>
+    <message>
         <source>Quoted fields may hold separators and quotation marks</source>
         <translation>Los campos entre comillas pueden contener separadores y comillas</translation>
     </message>
@@ -1450,6 +1454,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>durante «%1» cambia la hora; cuentan %2</translation>
     </message>
     <message>
+        <source>The disk does not take the settings. When Quillet quits now, it forgets what was changed since they were last saved.</source>
+        <translation>El disco no admite los ajustes. Si Quillet se cierra ahora, se perderá lo que cambió desde que se guardaron por última vez.</translation>
+    </message>
+    <message>
         <source>the end “%1” cannot be read and does not count</source>
         <translation>el final «%1» no se puede leer y no cuenta</translation>
     </message>
@@ -1682,6 +1690,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
         <translation>Total: %1</translation>
     </message>
     <message>
+        <source>Try Again</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
         <source>TSV</source>
         <translation>TSV</translation>
     </message>
@@ -1816,6 +1828,10 @@ Si desea el formato de texto habitual de Quillet, cambie el tipo de letra del me
     <message>
         <source>Your events appear here once you allow it.</source>
         <translation>Sus eventos aparecerán aquí en cuanto lo permita.</translation>
+    </message>
+    <message>
+        <source>Your last changes cannot be saved</source>
+        <translation>No se pueden guardar los últimos cambios</translation>
     </message>
     <message>
         <source>“%1” and “%2” overlap for %3</source>

@@ -1130,6 +1130,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>&amp;Quitter</translation>
     </message>
     <message>
+        <source>Quit Anyway</source>
+        <translation>Quitter quand même</translation>
+    </message>
+    <message>
         <source>Quoted fields may hold separators and quotation marks</source>
         <translation>Les champs entre guillemets peuvent contenir des séparateurs et des guillemets</translation>
     </message>
@@ -1450,6 +1454,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>l’heure change pendant « %1 » ; %2 comptent</translation>
     </message>
     <message>
+        <source>The disk does not take the settings. When Quillet quits now, it forgets what was changed since they were last saved.</source>
+        <translation>Le disque n’accepte pas les réglages. Si Quillet quitte maintenant, ce qui a changé depuis le dernier enregistrement est perdu.</translation>
+    </message>
+    <message>
         <source>the end “%1” cannot be read and does not count</source>
         <translation>la fin « %1 » est illisible et ne compte pas</translation>
     </message>
@@ -1682,6 +1690,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
         <translation>Total : %1</translation>
     </message>
     <message>
+        <source>Try Again</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
         <source>TSV</source>
         <translation>TSV</translation>
     </message>
@@ -1816,6 +1828,10 @@ Si vous souhaitez le format de texte habituel de Quillet, choisissez pour le nou
     <message>
         <source>Your events appear here once you allow it.</source>
         <translation>Vos événements s’affichent ici dès que vous l’autorisez.</translation>
+    </message>
+    <message>
+        <source>Your last changes cannot be saved</source>
+        <translation>Vos dernières modifications ne peuvent pas être enregistrées</translation>
     </message>
     <message>
         <source>“%1” and “%2” overlap for %3</source>

@@ -1130,6 +1130,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>終了(&amp;Q)</translation>
     </message>
     <message>
+        <source>Quit Anyway</source>
+        <translation>それでも終了</translation>
+    </message>
+    <message>
         <source>Quoted fields may hold separators and quotation marks</source>
         <translation>引用符で囲まれた項目には、区切り文字や引用符を含められます</translation>
     </message>
@@ -1450,6 +1454,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>「%1」の間に時刻が切り替わります。計算に入るのは%2です</translation>
     </message>
     <message>
+        <source>The disk does not take the settings. When Quillet quits now, it forgets what was changed since they were last saved.</source>
+        <translation>設定をディスクに書き込めません。今 Quillet を終了すると、最後に保存した後の変更は失われます。</translation>
+    </message>
+    <message>
         <source>the end “%1” cannot be read and does not count</source>
         <translation>終了「%1」を読み取れないため無視しました</translation>
     </message>
@@ -1682,6 +1690,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
         <translation>合計: %1</translation>
     </message>
     <message>
+        <source>Try Again</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
         <source>TSV</source>
         <translation>TSV</translation>
     </message>
@@ -1816,6 +1828,10 @@ Quillet の標準の書式を使うには、新しいメールのフォントを
     <message>
         <source>Your events appear here once you allow it.</source>
         <translation>許可すると、ここに予定が表示されます。</translation>
+    </message>
+    <message>
+        <source>Your last changes cannot be saved</source>
+        <translation>最後の変更を保存できません</translation>
     </message>
     <message>
         <source>“%1” and “%2” overlap for %3</source>

@@ -88,6 +88,10 @@ class Quillet:
         if code != 0:
             raise AssertionError(f"the program ended with {code}:\n{self.log}")
 
+    @property
+    def process_identifier(self):
+        return self._process.pid
+
     def leave_to_itself(self):
         """The program is about to end by itself, for what the test does next."""
         self._is_left = True

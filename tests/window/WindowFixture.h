@@ -65,7 +65,8 @@ protected:
                     .addCalendar = [](const QString&) { return std::expected<void, QString>(); },
                     .allowAccess = [] {},
                     .problems = [this] { return problems; },
-                    .colorOf = [](const QString&) { return QColor(Qt::red); }}});
+                    .colorOf = [](const QString&) { return QColor(Qt::red); }},
+                .mayQuit = [this] { return mayQuit(); }});
         core.finishLaunching();
         window->show();
         fetch();
@@ -89,6 +90,7 @@ protected:
     }
 
     QStringList problems;
+    std::function<bool()> mayQuit = [] { return true; };
     FakeQueue reportQueue;
     Core core{seams()};
     ListController<Event>& events = core.events;

@@ -66,8 +66,12 @@ void MainMenus::makeFileMenu() {
     menu.addSeparator();
     menu.addAction(&parts_.exports.actions().mail);
     menu.addSeparator();
-    addAction(menu, localized("R&estart Quillet"), "relaunch", {},
-              [this] { core_.appDelegate.relaunch(); });
+    addAction(menu, localized("R&estart Quillet"), "relaunch", {}, [this] {
+        // Before the new copy is there to wait for the end of this one.
+        if (parts_.mayQuit()) {
+            core_.appDelegate.relaunch();
+        }
+    });
     addAction(menu, localized("&Close Window"), "performClose", QKeySequence::Close,
               [this] { window_.close(); });
     addAction(menu, localized("&Quit"), "terminate", QKeySequence::Quit,

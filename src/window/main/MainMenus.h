@@ -42,6 +42,8 @@ public:
         const CalendarAdding& calendarAdding;
         /// Asks for access again, whatever was answered before.
         std::function<void()> allowAccess;
+        /// Whether the program may end; may ask the user.
+        std::function<bool()> mayQuit;
     };
 
     MainMenus(Core& core, Parts parts, QMainWindow& window);

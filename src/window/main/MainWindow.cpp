@@ -21,6 +21,7 @@
 #include "window/widgets/PaneScroller.h"
 #include "window/widgets/SymbolIcon.h"
 
+#include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QScreen>
@@ -178,7 +179,8 @@ void MainWindow::makeMenus() {
                          .preferences = preferences_,
                          .announcer = *announcer_,
                          .calendarAdding = calendarAdding_,
-                         .allowAccess = parts_.calendarActions.allowAccess},
+                         .allowAccess = parts_.calendarActions.allowAccess,
+                         .mayQuit = parts_.mayQuit},
         *this);
 }
 
@@ -327,6 +329,10 @@ void MainWindow::saveState(const QString& stateFile) const {
     state.setValue(QStringLiteral("inspector"), periodActions_.inspector().isChecked());
     state.setValue(QStringLiteral("exportPane"), panes_->exportRoom());
     state.setValue(QStringLiteral("columns"), parts_.eventTable.columnState());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->setAccepted(parts_.mayQuit());
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

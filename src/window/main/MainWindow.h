@@ -55,6 +55,8 @@ public:
         EventTableView& eventTable;
         ReportPane::Building reportBuilding;
         CalendarActions calendarActions;
+        /// Whether the window may close, which ends the program; may ask the user.
+        std::function<bool()> mayQuit;
     };
 
     /// Shows the core, which is awake.
@@ -76,6 +78,7 @@ protected:
     bool focusNextPrevChild(bool next) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void makePanes();
