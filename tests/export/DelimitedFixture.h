@@ -28,6 +28,9 @@ protected:
         settings.setObject("timeTypeSelection", 1);
         settings.setObject("filterStartDate", QVariant::fromValue(utc(2024, 3, 1)));
         settings.setObject("filterEndDate", QVariant::fromValue(utc(2024, 3, 31, 23, 59, 59)));
+        for (const EventColumn& column : eventColumns()) {
+            column.title.writeIfAbsent(settings);
+        }
         useLocale("en_US");
     }
     void useLocale(const char* locale) {

@@ -1,6 +1,6 @@
 #include "window/main/QuitQuestion.h"
 
-#include "WindowFixture.h"
+#include "window/WindowFixture.h"
 
 namespace quillet {
 
