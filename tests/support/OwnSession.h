@@ -18,7 +18,8 @@ inline void leaveSession() {
     }
     // Not the cache, without which every test would look through all fonts anew.
     for (const char* home : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"}) {
-        qputenv(home, "/nonexistent");
+        // Where not even the system's administrator can make a folder.
+        qputenv(home, "/proc/nonexistent");
     }
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
     qputenv("QT_QPA_PLATFORM", "offscreen");
