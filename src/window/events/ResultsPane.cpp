@@ -62,7 +62,7 @@ void ResultsPane::arrange() {
     }
     const int unit = fontMetrics().height() / 4;
     row_->setContentsMargins(unit * 4, 0, unit * 2, unit * 2);
-    row_->setSpacing(unit * 6);
+    row_->setSpacing(unit * 4);
     row_->addWidget(&figure(Total));
     row_->addWidget(&figure(Cost));
     row_->addWidget(others, 1);

@@ -115,7 +115,7 @@ void MainWindow::makeColumnLayoutsButton() {
     columnLayoutsButton_ = new QToolButton(this);
     columnLayoutsButton_->setText(localized("Layouts"));
     columnLayoutsButton_->setIcon(symbolIcon(Symbol::Columns));
-    columnLayoutsButton_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    columnLayoutsButton_->setToolButtonStyle(Qt::ToolButtonIconOnly);
     columnLayoutsButton_->setAutoRaise(true);
     columnLayoutsButton_->setFocusPolicy(Qt::TabFocus);
     columnLayoutsButton_->setObjectName(settings::columnLayouts.name());

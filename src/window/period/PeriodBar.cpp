@@ -48,7 +48,7 @@ PeriodBar::PeriodBar(DateInspectorController& inspector, const LocaleFormats& fo
     layout->addWidget(buttonOf(actions_.previous(), Qt::ToolButtonIconOnly, this));
     layout->addWidget(title_);
     layout->addWidget(buttonOf(actions_.next(), Qt::ToolButtonIconOnly, this));
-    layout->addWidget(buttonOf(actions_.current(), Qt::ToolButtonTextOnly, this));
+    layout->addWidget(buttonOf(actions_.current(), Qt::ToolButtonIconOnly, this));
     layout->addStretch();
     layout->addWidget(kinds_);
     layout->addSpacing(unit);

@@ -46,7 +46,7 @@ QSize PeriodTitle::sizeHint() const {
 }
 
 QSize PeriodTitle::minimumSizeHint() const {
-    return {fontMetrics().horizontalAdvance(u'0') * 6 + roomForArrow(), sizeHint().height()};
+    return {fontMetrics().horizontalAdvance(u'0') * 4 + roomForArrow(), sizeHint().height()};
 }
 
 QString PeriodTitle::shownText() const {

@@ -61,7 +61,7 @@ void ProblemFoot::showProblems(const QStringList& problems) {
 }
 
 int ProblemFoot::heightForWidth(int width) const {
-    const int most = fontMetrics().lineSpacing() * mostLines + text_->margin();
+    const int most = fontMetrics().lineSpacing() * mostLines + 2 * text_->margin();
     return std::min(text_->heightForWidth(width), most);
 }
 
@@ -70,6 +70,9 @@ QSize ProblemFoot::sizeHint() const {
 }
 
 void ProblemFoot::resizeEvent(QResizeEvent* event) {
+    // A bar that was there before the room was would narrow the lines, and so be needed for ever.
+    setVerticalScrollBarPolicy(text_->heightForWidth(width()) <= height() ? Qt::ScrollBarAlwaysOff
+                                                                          : Qt::ScrollBarAsNeeded);
     QScrollArea::resizeEvent(event);
     // The lines break elsewhere.
     if (event->size().width() != event->oldSize().width()) {
