@@ -38,7 +38,7 @@ QString timeText(std::int64_t minutes, TimeUnit unit, const LocaleFormats& forma
 }
 
 QString timeWithUnit(std::int64_t minutes, TimeUnit unit, const LocaleFormats& formats) {
-    const QString number = timeText(minutes, unit, formats);
+    QString number = timeText(minutes, unit, formats);
     switch (unit) {
     case TimeUnit::Minutes:
         return localized("%1 min").arg(number);

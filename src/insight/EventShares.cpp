@@ -58,7 +58,7 @@ void EventShares::addShare(const Event& event, std::size_t slice, std::int64_t m
         *share.cost = *share.cost - costs_.of(event, minutesBefore_).value_or(Decimal());
     }
     minutesBefore_ = minutesUpToIt;
-    shares_.push_back(std::move(share));
+    shares_.push_back(share);
 }
 
 } // namespace quillet

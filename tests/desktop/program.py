@@ -152,6 +152,11 @@ class Quillet:
         press(f'"{name}"', lambda: self.find(name, {ROLE.PUSH_BUTTON, ROLE.TOGGLE_BUTTON,
                                                     ROLE.RADIO_BUTTON, ROLE.CHECK_BOX}))
 
+    def wait_for_choice(self, name):
+        """Until the one of several that bears the name is the chosen one."""
+        wait_for(f'"{name}" to be chosen',
+                 lambda: has_state(self.control(name, {ROLE.RADIO_BUTTON}), Atspi.StateType.CHECKED))
+
     def press_menu_item(self, name):
         items = {ROLE.MENU_ITEM, ROLE.CHECK_MENU_ITEM, ROLE.RADIO_MENU_ITEM}
         press(f'the menu item "{name}"', lambda: next(

@@ -26,9 +26,10 @@ def check_second_starts(program):
 
 def check_actions(program):
     ask("ActivateAction", "this-week", [], {})
-    program.wait_for_text(" · ")
+    program.wait_for_choice("Week")
     ask("ActivateAction", "no such action", [GLib.Variant("s", "x")], {})
     ask("ActivateAction", "this-month", [], {})
+    program.wait_for_choice("Month")
     program.wait_for_text(entries(0)[0].start.strftime("%B"))
 
 

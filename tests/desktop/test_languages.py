@@ -28,7 +28,7 @@ def check_german(program):
     program.wait_for_titles(titles(entries(0)))
     expected = ["Datei", "Bearbeiten", "Ansicht", "Zeitraum", "Kalender", "Hilfe"]
     assert program.menus() == expected, program.menus()
-    program.wait_for_text("Monat · ")
+    program.wait_for_choice("Monat")
     for tab in ("Alle Termine", "Ausgewählte Termine"):
         program.control(tab, {ROLE.RADIO_BUTTON})
     program.save("CSV", FILE)

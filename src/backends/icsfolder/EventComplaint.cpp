@@ -66,9 +66,7 @@ QString placeOf(const EventComplaint& complaint, const QString& title,
 QString shownValue(std::string_view text) {
     // Cut before it is decoded: a value may be as long as a file.
     constexpr std::size_t longestBytes = 4 * longestShown;
-    const QString decoded =
-        QString::fromUtf8(text.data(), static_cast<qsizetype>(std::min(text.size(), longestBytes)))
-            .simplified();
+    const QString decoded = QString::fromUtf8(text.substr(0, longestBytes)).simplified();
     return decoded.size() > longestShown ? decoded.left(longestShown - 1) + u'…' : decoded;
 }
 

@@ -41,10 +41,13 @@ void keepNewestMasters(std::vector<const RawEvent*>& masters) {
 } // namespace
 
 void EventFamily::add(const RawEvent& event) {
-    auto& members = event.recurrenceId                ? exceptions
-                    : event.hasUnreadableRecurrenceId ? unplaced
-                                                      : masters;
-    members.push_back(&event);
+    if (event.recurrenceId) {
+        exceptions.push_back(&event);
+    } else if (event.hasUnreadableRecurrenceId) {
+        unplaced.push_back(&event);
+    } else {
+        masters.push_back(&event);
+    }
 }
 
 void EventFamily::keepWhatHolds() {

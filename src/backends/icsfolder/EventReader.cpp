@@ -194,9 +194,10 @@ void EventReader::takeUnreadable(std::string_view property, std::string_view val
         if (!time) {
             return std::nullopt;
         }
-        const auto kind = time->isDate  ? RawTime::Kind::Date
-                          : time->isUtc ? RawTime::Kind::Zoned
-                                        : RawTime::Kind::Floating;
+        auto kind = time->isUtc ? RawTime::Kind::Zoned : RawTime::Kind::Floating;
+        if (time->isDate) {
+            kind = RawTime::Kind::Date;
+        }
         return RawTime{time->local, kind,
                        time->isUtc ? universalTime() : context_.zones.systemZone(), time->isUtc};
     };
@@ -369,10 +370,10 @@ void EventReader::becomeAllDay() {
     };
     const auto start = dayOf(original);
     const auto end = event_.end ? dayOf(*event_.end) : std::nullopt;
-    const bool hasWholeDays = event_.end        ? end && end->local > start->local
-                              : event_.duration ? event_.duration->seconds % days(1) == seconds(0)
-                                                : true;
-    if (event_.isAllDay() || !start || !hasWholeDays) {
+    const bool endsWithinADay = event_.end && !(end && start && end->local > start->local);
+    const bool lastsPartOfADay =
+        !event_.end && event_.duration && event_.duration->seconds % days(1) != seconds(0);
+    if (event_.isAllDay() || !start || endsWithinADay || lastsPartOfADay) {
         return;
     }
     event_.start = start;

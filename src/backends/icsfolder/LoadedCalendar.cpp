@@ -49,6 +49,7 @@ bool holdsEvents(const std::shared_ptr<const IcsFile>& file) {
 
 std::vector<const IcsFile*> pointersTo(const std::vector<std::shared_ptr<const IcsFile>>& files) {
     std::vector<const IcsFile*> pointers;
+    pointers.reserve(files.size());
     for (const auto& file : files) {
         pointers.push_back(file.get());
     }

@@ -75,7 +75,7 @@ SharedEvents::Changes SharedEvents::settle(const std::shared_ptr<const StoreCale
     for (auto event = events.begin(); event != events.end(); ++event) {
         Shared shared = assembled(std::move(event.value()), calendar);
         changes.fresh.push_back(shared.assembled);
-        shared_.insert(event.key(), std::move(shared));
+        shared_[event.key()] = std::move(shared);
     }
     return changes;
 }

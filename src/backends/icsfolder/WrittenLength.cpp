@@ -92,8 +92,14 @@ private:
             return false;
         }
         // What follows hours without a unit are minutes, what follows minutes are seconds.
-        const char missing = lastUnit_ == 'H' ? 'M' : lastUnit_ == 'M' ? 'S' : '\0';
-        const char unit = rest_.empty() ? missing : upper(rest_.front());
+        char unit = '\0';
+        if (!rest_.empty()) {
+            unit = upper(rest_.front());
+        } else if (lastUnit_ == 'H') {
+            unit = 'M';
+        } else if (lastUnit_ == 'M') {
+            unit = 'S';
+        }
         rest_.remove_prefix(rest_.empty() ? 0 : 1);
         static constexpr std::string_view order = "WDHMS";
         const std::size_t place = order.find(unit);

@@ -24,11 +24,23 @@ QString textOf(const char* text) {
     return QString::fromUtf8(text);
 }
 
+/// The program that the command starts. GIO's own answer keeps the quotation marks around it.
+QString executableOf(GAppInfo* info) {
+    const char* command = g_app_info_get_commandline(info);
+    gchar** words = nullptr;
+    if (command == nullptr || g_shell_parse_argv(command, nullptr, &words, nullptr) == FALSE) {
+        return {};
+    }
+    QString executable = textOf(words[0]);
+    g_strfreev(words);
+    return executable;
+}
+
 DesktopEntry entryOf(GAppInfo* info) {
     return {.id = textOf(g_app_info_get_id(info)),
             .name = textOf(g_app_info_get_name(info)),
             .command = textOf(g_app_info_get_commandline(info)),
-            .executable = textOf(g_app_info_get_executable(info)),
+            .executable = executableOf(info),
             .isHidden = g_desktop_app_info_get_nodisplay(G_DESKTOP_APP_INFO(info)) != FALSE};
 }
 
@@ -97,7 +109,7 @@ std::vector<DesktopEntry> namingType(const char* mimeType) {
 /// by name, but not the one that the user prefers.
 std::optional<QString> terminalCommand() {
     for (const char* command : {"xdg-terminal-exec ", "x-terminal-emulator -e "}) {
-        const QString text = QString::fromLatin1(command);
+        QString text = QString::fromLatin1(command);
         if (!QStandardPaths::findExecutable(text.section(u' ', 0, 0)).isEmpty()) {
             return text;
         }

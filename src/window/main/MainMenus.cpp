@@ -224,11 +224,14 @@ void MainMenus::makeHelpMenu() {
     addAction(menu, localized("Check for &Updates…"), "checkForUpdates", {},
               [this] { core_.appDelegate.checkForUpdates(); });
     menu.addSeparator();
-    addAction(menu, localized("&About Quillet"), "showAbout", {}, [this] {
+    const auto showAbout = [this] {
         QMessageBox::about(&window_, localized("About Quillet"),
                            localized("Quillet %1\n\nThe hours in your calendars, ready to bill.")
                                .arg(QCoreApplication::applicationVersion()));
-    });
+    };
+    // Queued, so that an assistive program that asks for it has its answer before the dialog.
+    QObject::connect(addAction(menu, localized("&About Quillet"), "showAbout", {}),
+                     &QAction::triggered, &window_, showAbout, Qt::QueuedConnection);
 }
 
 } // namespace quillet
