@@ -101,8 +101,8 @@ QString mailtoAddress(const QString& subject, const QString& body) {
 }
 
 QByteArray messagePage(const QString& content, const MessageStyle& style) {
-    return "<html><head><meta charset=\"utf-8\"></head><body><pre style=\"" +
-           styleText(style).toUtf8() + "\">" + pageText(content) + "</pre></body></html>";
+    return R"(<html><head><meta charset="utf-8"></head><body><pre style=")" +
+           styleText(style).toUtf8() + R"(">)" + pageText(content) + "</pre></body></html>";
 }
 
 QString composeArgument(const MessageRequest& request, const QString& file) {
