@@ -138,6 +138,12 @@ settingGroup(const Settings&... settings) {
     return {&settings...};
 }
 
+/// Told by type, since under the sanitizers the compiler compares no addresses at compile time.
+template <const auto& one, const auto& other>
+inline constexpr bool isSameSetting = false;
+template <const auto& setting>
+inline constexpr bool isSameSetting<setting, setting> = true;
+
 /// The values of a group of settings at one moment, which every thread may read.
 template <const auto&... members>
 class SettingValues {
@@ -152,18 +158,19 @@ public:
 
     template <const auto& setting>
     [[nodiscard]] const auto& get() const {
-        return std::get<position(setting)>(values_);
+        return std::get<position<setting>()>(values_);
     }
     template <const auto& setting, typename Value>
     void set(Value value) {
-        std::get<position(setting)>(values_) = std::move(value);
+        std::get<position<setting>()>(values_) = std::move(value);
     }
 
 private:
     /// Behind all values for a setting of another group, which does not compile then.
-    [[nodiscard]] static consteval std::size_t position(const SettingKey& setting) {
-        const auto settings = group();
-        return static_cast<std::size_t>(std::ranges::find(settings, &setting) - settings.begin());
+    template <const auto& setting>
+    [[nodiscard]] static consteval std::size_t position() {
+        const std::array<bool, sizeof...(members)> isIt{isSameSetting<setting, members>...};
+        return static_cast<std::size_t>(std::ranges::find(isIt, true) - isIt.begin());
     }
 
     std::tuple<decltype(members.firstRun())...> values_;
