@@ -1,5 +1,6 @@
 #include "results/EventResultsViewController.h"
 
+#include "eventtable/EventColumns.h"
 #include "platform/Settings.h"
 
 namespace quillet {
@@ -8,8 +9,6 @@ namespace {
 
 /// Every character that ends a line.
 const QString newlineCharacters = QStringLiteral("\n\v\f\r\u0085\u2028\u2029");
-
-enum class TimeType { Hours = 1, Minutes = 2, Duration = 3 };
 
 } // namespace
 
