@@ -40,9 +40,13 @@ LocalSeconds localTime(Instant date, const ZoneRules& zone) {
     return zone.toLocal(std::chrono::floor<std::chrono::seconds>(date));
 }
 
+/// Counted in seconds, for a stored date may be so far off that its second, told in milliseconds,
+/// has no number any more.
 bool beginsDay(Instant date, const ZoneRules& zone) {
-    return zone.firstInstantFrom(std::chrono::floor<std::chrono::days>(localTime(date, zone))) ==
-           date;
+    const auto second = std::chrono::floor<std::chrono::seconds>(date);
+    return date.time_since_epoch() % std::chrono::seconds(1) == std::chrono::milliseconds(0) &&
+           zone.firstInstantFrom(std::chrono::floor<std::chrono::days>(zone.toLocal(second))) ==
+               second;
 }
 
 } // namespace

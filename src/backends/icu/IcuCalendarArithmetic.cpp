@@ -20,9 +20,13 @@ namespace {
 /// No calendar counts further than this from 1970, in either direction.
 constexpr days farthest(100'000'000);
 
+Instant withinReach(Instant instant) {
+    return std::clamp(instant, Instant(-farthest), Instant(farthest));
+}
+
 /// What is left of an instant without its milliseconds.
 sys_seconds secondOf(Instant instant) {
-    return std::clamp(floor<seconds>(instant), sys_seconds(-farthest), sys_seconds(farthest));
+    return floor<seconds>(withinReach(instant));
 }
 
 seconds timeOfDay(LocalSeconds local) {
@@ -113,7 +117,7 @@ Instant IcuCalendarArithmetic::startOfDay(Instant instant) const {
 Instant IcuCalendarArithmetic::add(Instant instant, const DateOffset& offset) const {
     const sys_seconds second = secondOf(instant);
     const sys_seconds moved = movedDays(movedMonths(second, offset), offset.days);
-    return moved + (instant - floor<seconds>(instant)) + seconds(offset.seconds);
+    return moved + (withinReach(instant) - second) + seconds(offset.seconds);
 }
 
 sys_seconds IcuCalendarArithmetic::movedMonths(sys_seconds second, const DateOffset& offset) const {

@@ -73,11 +73,13 @@ struct IcuLocaleFormats::Formatters {
     QString decimalSeparator;
     QString currencySymbol;
 
-    /// What ICU takes for the instant, told no zone: the time on the wall.
+    /// What ICU takes for the instant, told no zone: the time on the wall. Added as the doubles
+    /// that these are, which the ends of all instants do not overflow.
     [[nodiscard]] UDate wallTime(Instant instant) const {
-        const auto second = std::chrono::floor<std::chrono::seconds>(instant);
-        const auto local = zone->rules().toLocal(second).time_since_epoch() + (instant - second);
-        return static_cast<UDate>(local.count());
+        const std::chrono::seconds offset =
+            zone->rules().offsetAt(std::chrono::floor<std::chrono::seconds>(instant));
+        return static_cast<UDate>(instant.time_since_epoch().count()) +
+               static_cast<UDate>(offset.count()) * 1000.0;
     }
     [[nodiscard]] QString text(const icu::DateFormat& format, Instant instant) const {
         const UDate date = wallTime(instant);
